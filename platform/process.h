@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+// This process, other processes and other programs' windows.
+namespace quirn {
+
+// What follows the program's own path on the command line, as it was typed.
+std::string CommandLineTail();
+
+// Claims the program's place in this session of the user (a named mutex, held until the process ends).
+// False when a copy that is already running has it. Of two copies started at one moment exactly one gets true.
+bool ClaimSingleInstance();
+
+// Starts a program with no arguments, in a folder, inheriting handles and environment. False when it cannot be
+// started. The new process's handles are closed again.
+bool StartProgram(const std::string& program, const std::string& folder);
+
+// A top-level window of any program.
+using WindowHandle = uintptr_t;  // 0 = none
+
+bool WindowOfClassExists(const std::string& className);
+WindowHandle FirstTopLevelWindow();
+WindowHandle NextTopLevelWindow(WindowHandle window);
+std::string WindowCaption(WindowHandle window);  // at most 255 bytes
+void ShowNormal(WindowHandle window);
+void BringToFront(WindowHandle window);
+
+}  // namespace quirn

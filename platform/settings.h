@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+// The program's own settings: texts by section and key, per user. On Windows they are text values under
+// HKEY_CURRENT_USER\Software\QUIRN\<section>. Names are case-blind.
+namespace quirn {
+
+// The stored text, or the default when it is missing, unreadable or not a text.
+std::string GetSetting(const std::string& section, const std::string& key, const std::string& defaultValue);
+
+// Stores it, making the section when it is missing. A store that cannot be written keeps what it had.
+void SaveSetting(const std::string& section, const std::string& key, const std::string& value);
+
+}  // namespace quirn
