@@ -19,7 +19,23 @@ list(REMOVE_ITEM backend_sources ${entry_sources})
 add_library(quirn_backend OBJECT ${backend_sources})
 target_link_libraries(quirn_backend PUBLIC quirn_options user32 gdi32 comctl32 comdlg32 advapi32 shell32 winmm)
 
-add_executable(QUIRN WIN32 ${entry_sources} resources/quirn.rc)
+# The icon is drawn once, as a vector picture, and rendered in the sizes that Windows asks for.
+set(icon ${CMAKE_BINARY_DIR}/quirn.ico)
+set(icon_pictures)
+set(icon_commands)
+foreach(size 16 20 24 32 40 48 64 128 256)
+    list(APPEND icon_pictures ${CMAKE_BINARY_DIR}/quirn-${size}.png)
+    list(APPEND icon_commands COMMAND rsvg-convert -w ${size} -h ${size} -o quirn-${size}.png
+                                      ${CMAKE_SOURCE_DIR}/resources/quirn.svg)
+endforeach()
+add_custom_command(OUTPUT ${icon} ${icon_commands} COMMAND icotool -c -o quirn.ico ${icon_pictures}
+                   DEPENDS ${CMAKE_SOURCE_DIR}/resources/quirn.svg WORKING_DIRECTORY ${CMAKE_BINARY_DIR} VERBATIM)
+set(resource_script ${CMAKE_SOURCE_DIR}/resources/quirn.rc)
+set_source_files_properties(${resource_script} PROPERTIES OBJECT_DEPENDS
+    "${icon};${CMAKE_SOURCE_DIR}/resources/quirn.manifest;${CMAKE_SOURCE_DIR}/platform/version.h")
+set_property(SOURCE ${resource_script} PROPERTY INCLUDE_DIRECTORIES ${CMAKE_SOURCE_DIR} ${CMAKE_BINARY_DIR})
+
+add_executable(QUIRN WIN32 ${entry_sources} ${resource_script})
 target_link_libraries(QUIRN PRIVATE quirn_logic quirn_backend)
 set_target_properties(QUIRN PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
 

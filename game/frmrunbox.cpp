@@ -1,0 +1,80 @@
+#include "game/frmrunbox.h"
+
+#include "platform/version.h"
+
+namespace quirn {
+
+namespace {
+
+constexpr int kWidth = 4500;
+constexpr int kHeight = 2700;
+constexpr int kInner = 4200;  // the width of the rows, less the frame
+
+//                             left   top  width  height
+constexpr Bounds kLabel1Place{  120,  150, kInner,  315};
+constexpr Bounds kLabel5Place{  120,  480, kInner,  585};
+constexpr Bounds kLabel2Place{  120, 1080, kInner,  315};
+constexpr Bounds kLabel3Place{  120, 1530, kInner,  225};
+constexpr Bounds kLabel4Place{  120, 1800, kInner,  420};
+
+constexpr Color kBackground = Rgb(8, 12, 40);
+constexpr Color kPlainText = Rgb(190, 200, 225);
+
+// The colours of the moving labels, one step a tick.
+constexpr Color kColors[] = {Rgb(255, 214, 92), Rgb(255, 150, 70), Rgb(245, 90, 110),
+                             Rgb(190, 110, 245), Rgb(90, 150, 255), Rgb(100, 225, 190)};
+constexpr int kColorCount = 6;
+constexpr int kColorInterval = 180;  // milliseconds
+
+constexpr char kEscape = 27;
+
+}  // namespace
+
+frmRunBox::frmRunBox()
+    : Form(FormBorder::Dialog, kWidth, kHeight),
+      Label1(*this, kLabel1Place, "The Vellick", Alignment::Center),
+      Label5(*this, kLabel5Place, "SUBSPACE", Alignment::Center),
+      Label2(*this, kLabel2Place, "Manager", Alignment::Center),
+      Label3(*this, kLabel3Place, "Thanks for using...", Alignment::Center),
+      Label4(*this, kLabel4Place, "SubSpace and its name are copyright and trademark of their owners.",
+             Alignment::Center) {
+    SetCaption(kTitle);
+    SetBackColor(kBackground);
+    Label1.SetFont({"Arial", 14, true});
+    Label5.SetFont({"Arial Black", 24});
+    Label2.SetFont({"Arial", 14, true});
+    for (Label* label : {&Label1, &Label2, &Label3, &Label4}) label->SetForeColor(kPlainText);
+
+    Timer1.onTimer = [this] { Timer1_Timer(); };
+    Timer2.onTimer = [this] { Timer2_Timer(); };
+    onLoad = [this] { Form_Load(); };
+    onUnload = [this] { return runDone_ = true; };
+    onKeyPress = [this](char key) {
+        if (key == kEscape) Unload(UnloadMode::CloseBox);
+    };
+}
+
+void frmRunBox::CloseAfter(int milliseconds) {
+    Timer1.SetEnabled(false);
+    Timer1.SetInterval(milliseconds);
+    Timer1.SetEnabled(true);
+}
+
+void frmRunBox::Form_Load() {
+    Timer2_Timer();
+    Timer2.SetInterval(kColorInterval);
+    Timer2.SetEnabled(true);
+}
+
+void frmRunBox::Timer1_Timer() {
+    runDone_ = true;
+    Timer1.SetEnabled(false);
+}
+
+void frmRunBox::Timer2_Timer() {
+    colorCounter_ = colorCounter_ % kColorCount + 1;
+    Label5.SetForeColor(kColors[colorCounter_ - 1]);
+    Label3.SetForeColor(kColors[colorCounter_ - 1]);
+}
+
+}  // namespace quirn

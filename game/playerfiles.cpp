@@ -1,0 +1,60 @@
+#include "game/playerfiles.h"
+
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "platform/text.h"
+
+namespace quirn {
+
+namespace {
+
+std::string IgnorePath(const std::string& gameFolder) { return gameFolder + "\\ignore.txt"; }
+
+std::string WavePath(const std::string& gameFolder, size_t slot) {
+    return gameFolder + "\\record" + std::to_string(slot) + ".wav";
+}
+
+// Copies the profile's wave file over the game's, unless it has none or already names the game's own.
+Failure CopyWave(const std::string& source, const std::string& target) {
+    // The first character alone decides, on purpose: every path that begins with "<" counts as not set.
+    if (source.starts_with('<') || source.empty() || EqualNoCase(source, target)) return {};
+    return CopyWholeFile(source, target);
+}
+
+}  // namespace
+
+Failure WriteIgnoreFile(const Profile& profile, const std::string& gameFolder) {
+    std::string text;
+    for (const std::string& name : profile.IgnoreList)
+        if (!Trim(name).empty()) text += name + "\r\n";
+    return WriteWholeFile(IgnorePath(gameFolder), text);
+}
+
+Failure ReadIgnoreFile(Profile& profile, const std::string& gameFolder) {
+    profile.IgnoreList.clear();
+    if (!FileExists(IgnorePath(gameFolder))) return {};
+    const Result<std::string> text = ReadWholeFile(IgnorePath(gameFolder));
+    if (text.Failed()) return text.Error();
+    for (std::string_view line : SplitLines(text.Value())) {
+        line = Trim(line);
+        if (!line.starts_with('#')) profile.IgnoreList.emplace_back(line);
+    }
+    return {};
+}
+
+void ReadPlayerFiles(Profile& profile, const std::string& gameFolder) {
+    ShowError(ReadIgnoreFile(profile, gameFolder));
+    for (size_t slot = 0; slot < profile.WaveFiles.size(); ++slot) {
+        const std::string path = WavePath(gameFolder, slot);
+        profile.WaveFiles[slot] = FileExists(path) ? path : kNotSet;
+    }
+}
+
+void WritePlayerFiles(const Profile& profile, const std::string& gameFolder) {
+    if (gameFolder == kNotSet) return;
+    ShowError(WriteIgnoreFile(profile, gameFolder));
+    for (size_t slot = 0; slot < profile.WaveFiles.size(); ++slot)
+        ShowError(CopyWave(profile.WaveFiles[slot], WavePath(gameFolder, slot)));
+}
+
+}  // namespace quirn

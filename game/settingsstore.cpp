@@ -1,0 +1,109 @@
+#include "game/settingsstore.h"
+
+#include "game/playerfiles.h"
+#include "platform/dialogs.h"
+#include "platform/text.h"
+
+namespace quirn {
+
+namespace {
+
+std::string KeyPath(const Section& section) { return "Software\\Virgin\\SubSpace\\" + section.name; }
+
+bool IsSupported(RegistryType type) { return type == RegistryType::Text || type == RegistryType::Number; }
+
+std::string AsText(const SettingValue& value) {
+    if (const auto* text = std::get_if<std::string>(&value)) return *text;
+    if (const auto* number = std::get_if<int>(&value)) return std::to_string(*number);
+    return {};
+}
+
+int AsNumber(const SettingValue& value) {
+    if (const auto* number = std::get_if<int>(&value)) return *number;
+    return ToInteger(AsText(value)).value_or(0);
+}
+
+}  // namespace
+
+SettingValue QueryValue(const std::string& keyPath, const std::string& name) {
+    SettingValue value;
+    const RegistryKey key(keyPath);
+    if (key.IsOpen()) QueryValueEx(key, name, value);
+    return value;
+}
+
+long QueryValueEx(const RegistryKey& key, const std::string& name, SettingValue& value) {
+    RegistryType type{};
+    uint32_t size = 0;
+    if (const long status = key.Query(name, &type, nullptr, &size); status != kRegistrySuccess) return status;
+
+    if (type == RegistryType::Text) {
+        std::string text(size, '\0');
+        const long status = key.Query(name, &type, text.data(), &size);
+        text.resize(status == kRegistrySuccess ? size : 0);
+        value = std::move(text);
+        return status;
+    }
+    if (type == RegistryType::Number) {
+        int number = 0;
+        size = sizeof(number);
+        const long status = key.Query(name, &type, &number, &size);
+        if (status == kRegistrySuccess) value = number;
+        return status;
+    }
+    return kUnsupportedType;
+}
+
+long SetKeyValue(const std::string& keyPath, const std::string& name, const SettingValue& value, RegistryType type) {
+    const RegistryKey key(keyPath);
+    if (!key.IsOpen()) return kRegistryNotFound;
+    RegistryType stored{};
+    uint32_t size = 0;
+    if (key.Query(name, &stored, nullptr, &size) == kRegistrySuccess && !IsSupported(stored)) return kUnsupportedType;
+    return SetValueEx(key, name, type, value);
+}
+
+long SetValueEx(const RegistryKey& key, const std::string& name, RegistryType type, const SettingValue& value) {
+    if (type == RegistryType::Text) {
+        const std::string text = AsText(value);
+        return key.Set(name, type, text.c_str(), static_cast<uint32_t>(text.size() + 1));
+    }
+    if (type == RegistryType::Number) {
+        const int number = AsNumber(value);
+        return key.Set(name, type, &number, sizeof(number));
+    }
+    return kRegistrySuccess;
+}
+
+void ReadProfileFromGame(Profile& profile, const std::string& gameFolder) {
+    for (Section* section : profile.Sections()) {
+        const std::string keyPath = KeyPath(*section);
+        for (int i = 1; i <= section->Count(); ++i) {
+            std::string text = AsText(QueryValue(keyPath, section->Name(i)));
+            // The NUL that ends a stored text is counted in it. A few programs store texts without one.
+            if (text.ends_with('\0')) text.pop_back();
+            section->Value(i) = std::move(text);
+        }
+    }
+    ReadPlayerFiles(profile, gameFolder);
+}
+
+void WriteProfileToGame(const Profile& profile, const std::string& gameFolder) {
+    bool overflow = false;
+    for (const Section* section : profile.Sections()) {
+        const std::string keyPath = KeyPath(*section);
+        for (int i = 1; i <= section->Count(); ++i) {
+            if (!section->IsNumber(i)) {
+                SetKeyValue(keyPath, section->Name(i), section->Value(i), RegistryType::Text);
+            } else if (const auto number = ToInteger(section->Value(i))) {
+                SetKeyValue(keyPath, section->Name(i), *number, RegistryType::Number);
+            } else {
+                overflow = true;
+            }
+        }
+    }
+    if (overflow) ShowError(MakeError(ErrorNumber::Overflow));
+    WritePlayerFiles(profile, gameFolder);
+}
+
+}  // namespace quirn

@@ -1,0 +1,112 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/control.h"
+
+namespace quirn {
+
+enum class FormBorder {
+    Sizable,  // caption, system menu, minimise and maximise boxes
+    Fixed,    // caption, system menu, minimise box
+    Dialog,   // caption and close box only
+    None,     // a bare panel, as a splash
+};
+
+// Who asks for a form to be closed. The numbers are the classic ones.
+enum class UnloadMode { CloseBox = 0, FromCode = 1, SystemShutdown = 2 };
+
+// A window of the program. The object may live longer than its window: Load makes the window (hidden), Unload destroys
+// it, and either may happen again. A form is destroyed with its window when its object goes.
+class Form : public Container {
+public:
+    // size is the whole window's, frame included; the place is the centre of the screen until Move says otherwise.
+    Form(FormBorder border, int width, int height);
+    ~Form();
+
+    bool IsLoaded() const { return loaded_; }
+    bool Visible() const { return visible_; }
+    FormBorder Border() const { return border_; }
+    const std::string& Caption() const { return caption_; }
+    const Bounds& Place() const { return place_; }
+    bool PlaceIsSet() const { return placeIsSet_; }
+    std::optional<Color> BackColor() const { return backColor_; }
+    bool IsMinimized() const { return minimized_; }
+
+    void SetCaption(const std::string& caption);
+    void Move(const Bounds& place);
+    void SetBackColor(Color color) { backColor_ = color; }  // before Load
+
+    // Makes the window, hidden, and calls onLoad. Does nothing when it is loaded.
+    void Load();
+    void Show();          // loads it first when need be; does not wait
+    void Hide();
+    void BringToFront();  // restores it when it is minimised
+    void Repaint();       // paints the window now, without waiting for events
+
+    // Asks onQueryUnload and onUnload, and destroys the window unless one of them says no. True when it is gone
+    // (or was not there).
+    bool Unload(UnloadMode mode);
+    bool Unload() { return Unload(UnloadMode::FromCode); }
+
+    std::function<void()> onLoad;
+    std::function<bool(UnloadMode)> onQueryUnload;  // false: the form stays
+    std::function<bool()> onUnload;                 // false: the form stays
+    std::function<void(char)> onKeyPress;           // a character typed anywhere in the form
+
+    // For the back end: what happened to the window.
+    void UserCloses(UnloadMode mode);
+    void UserTypes(char character);
+    void WindowMoved(const Bounds& place) { place_ = place; }
+    void WindowShown(bool visible) { visible_ = visible; }
+    void WindowMinimized(bool minimized) { minimized_ = minimized; }
+    void* window = nullptr;
+
+private:
+    FormBorder border_;
+    Bounds place_;
+    bool placeIsSet_ = false;
+    std::string caption_;
+    std::optional<Color> backColor_;
+    bool loaded_ = false;
+    bool visible_ = false;
+    bool minimized_ = false;
+};
+
+// Calls onTimer again and again while it is enabled. Starting it anew (SetEnabled(false), SetEnabled(true), or another
+// interval) starts the interval anew.
+class Timer {
+public:
+    Timer() = default;
+    ~Timer();
+    Timer(const Timer&) = delete;
+    Timer& operator=(const Timer&) = delete;
+
+    void SetInterval(int milliseconds);
+    void SetEnabled(bool enabled);
+    int Interval() const { return interval_; }
+    bool Enabled() const { return enabled_; }
+
+    std::function<void()> onTimer;
+
+    void Fire();  // for the back end
+
+private:
+    int interval_ = 0;
+    bool enabled_ = false;
+};
+
+// Lets pending events run and returns.
+void DoEvents();
+
+// Sleeps until there is an event or the time is over, then lets pending events run.
+void WaitForEvents(int milliseconds);
+
+// Runs events until no form is loaded.
+void RunEventLoop();
+
+// Calls a handler and shows what it throws (memory ran out) as a run-time error: the program goes on.
+void CallHandler(const std::function<void()>& handler);
+
+}  // namespace quirn

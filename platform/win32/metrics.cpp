@@ -1,0 +1,57 @@
+#include "platform/win32/metrics.h"
+
+#include <algorithm>
+
+namespace quirn::win32 {
+
+namespace {
+
+constexpr int kMessageFontPoints = 8;
+
+// GetDpiForWindow and GetDpiForSystem came with Windows 10; older systems have one DPI for everything.
+template <class Function>
+Function User32(const char* name) {
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("user32.dll"), name)));
+}
+
+int SystemDpi() {
+    static const int dpi = [] {
+        if (const auto getDpiForSystem = User32<UINT(WINAPI*)()>("GetDpiForSystem"))
+            return static_cast<int>(getDpiForSystem());
+        const HDC screen = GetDC(nullptr);
+        const int result = GetDeviceCaps(screen, LOGPIXELSX);
+        ReleaseDC(nullptr, screen);
+        return result;
+    }();
+    return dpi > 0 ? dpi : USER_DEFAULT_SCREEN_DPI;
+}
+
+}  // namespace
+
+int DpiOf(HWND window) {
+    static const auto getDpiForWindow = User32<UINT(WINAPI*)(HWND)>("GetDpiForWindow");
+    if (window != nullptr && getDpiForWindow != nullptr)
+        if (const UINT dpi = getDpiForWindow(window)) return static_cast<int>(dpi);
+    return SystemDpi();
+}
+
+HFONT CreateFontFor(const Font& font, int dpi) {
+    LOGFONTA description{};
+    if (font.face.empty()) {
+        // The system's message font, but always at 8 points: the layouts are measured for that size.
+        NONCLIENTMETRICSA metrics{};
+        metrics.cbSize = sizeof(metrics);
+        SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
+        description = metrics.lfMessageFont;
+    } else {
+        description.lfCharSet = DEFAULT_CHARSET;
+        font.face.copy(description.lfFaceName, LF_FACESIZE - 1);
+    }
+    description.lfHeight = -MulDiv(font.points > 0 ? font.points : kMessageFontPoints, dpi, 72);
+    description.lfWidth = 0;
+    if (font.bold) description.lfWeight = FW_BOLD;
+    if (font.italic) description.lfItalic = TRUE;
+    return CreateFontIndirectA(&description);
+}
+
+}  // namespace quirn::win32

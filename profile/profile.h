@@ -1,0 +1,48 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace quirn {
+
+// What a path, a wave file or the game folder holds when it is not configured. Tested for letter by letter.
+inline constexpr char kNotSet[] = "<not set>";
+
+// One group of game settings: three parallel arrays, indexed from 1 to Count(); slot 0 is unused. The order is fixed:
+// the registry, QRN files and the main window all go by it.
+struct Section {
+    std::string name;                 // registry key and QRN section
+    std::vector<std::string> values;  // always text; a number is its decimal digits
+    std::vector<std::string> names;   // registry value name and QRN key
+    std::vector<std::string> types;   // registry type: "1" text, "4" 32-bit number
+
+    int Count() const { return static_cast<int>(names.size()) - 1; }
+    bool IsNumber(int index) const { return types[static_cast<size_t>(index)] == "4"; }
+    std::string& Value(int index) { return values[static_cast<size_t>(index)]; }
+    const std::string& Value(int index) const { return values[static_cast<size_t>(index)]; }
+    const std::string& Name(int index) const { return names[static_cast<size_t>(index)]; }
+};
+
+// Indexes of the settings that the program treats one by one.
+inline constexpr int kMacroCount = 16;  // Messages 1..16: ShiftF1..ShiftF8, RShiftF1..RShiftF8
+inline constexpr int kSkipSplash = 1;   // Advanced
+inline constexpr int kGammaPercent = 2;  // Advanced
+
+// The settings catalogue and the current profile in one record.
+struct Profile {
+    Section Dialog, Messages, Options, Advanced, HiddenOptions;
+    std::array<std::string, 2> WaveFiles{kNotSet, kNotSet};  // for F11 and F12: full paths or kNotSet
+    std::vector<std::string> IgnoreList;                     // player names; Ignore1 of a QRN file is element 0
+
+    // All five in catalogue order.
+    std::array<Section*, 5> Sections() { return {&Dialog, &Messages, &Options, &Advanced, &HiddenOptions}; }
+    std::array<const Section*, 5> Sections() const {
+        return {&Dialog, &Messages, &Options, &Advanced, &HiddenOptions};
+    }
+};
+
+// Fills the names and types of all five sections and leaves the values empty.
+void InitCatalogue(Profile& profile);
+
+}  // namespace quirn

@@ -1,0 +1,172 @@
+#include "profile/profilefile.h"
+
+#include <vector>
+
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "platform/inifile.h"
+#include "platform/text.h"
+#include "platform/version.h"
+#include "profile/initfiles.h"
+#include "profile/splitpath.h"
+
+namespace quirn {
+
+namespace {
+
+constexpr const char* kWaveKeys[] = {"WaveFileF11", "WaveFileF12"};
+
+std::string IgnoreKey(size_t number) { return "Ignore" + std::to_string(number); }
+
+void ReadSection(clsIniTFiles& file, Section& section, const char* defaultValue) {
+    file.SectionName = section.name;
+    for (int i = 1; i <= section.Count(); ++i) section.Value(i) = file.ReadKey(section.Name(i), defaultValue);
+}
+
+void ReadIgnoreList(clsIniTFiles& file, std::vector<std::string>& list) {
+    file.SectionName = "IgnoreList";
+    list.clear();
+    for (;;) {
+        std::string name = file.ReadKey(IgnoreKey(list.size() + 1), "");
+        if (name.empty()) return;
+        list.push_back(std::move(name));
+    }
+}
+
+// Writes keys and remembers them, so that they can be compared with what the disk holds.
+class CheckedWriter {
+public:
+    explicit CheckedWriter(const std::string& path) { file_.InitFileName = path; }
+
+    void Section(const std::string& name) { file_.SectionName = name; }
+
+    void Key(const std::string& key, const std::string& value) {
+        file_.WriteKey(key, value);
+        written_.push_back({file_.SectionName, key, value});
+        size_ += key.size() + value.size() + 3;
+    }
+
+    void All(const quirn::Section& section) {
+        Section(section.name);
+        for (int i = 1; i <= section.Count(); ++i) Key(section.Name(i), section.Value(i));
+    }
+
+    // The private-profile functions report success on a full disk; only reading back tells.
+    Failure Check() const {
+        for (const Entry& entry : written_) {
+            const std::string found = ReadIniValue(file_.InitFileName, entry.section, entry.key, "",
+                                                   entry.value.size() + kRoomForQuotes);
+            if (WithoutBlanks(found) != AsRead(entry.value))
+                return MakeError(DiskIsFull(file_.InitFileName, size_) ? ErrorNumber::DiskFull
+                                                                       : ErrorNumber::PathFileAccess);
+        }
+        return {};
+    }
+
+private:
+    struct Entry {
+        std::string section, key, value;
+    };
+
+    static constexpr size_t kRoomForQuotes = 4;
+
+    static std::string_view WithoutBlanks(std::string_view text) {
+        const auto isBlank = [](char c) { return static_cast<unsigned char>(c) <= ' '; };
+        while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+        while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+        return text;
+    }
+
+    // What reading gives for a written text: the blanks around it and one pair of quotes are lost, and a text ends with
+    // its line.
+    static std::string_view AsRead(std::string_view text) {
+        text = WithoutBlanks(text.substr(0, text.find_first_of(std::string_view("\r\n\0", 3))));
+        const bool quoted =
+            text.size() >= 2 && text.front() == text.back() && (text.front() == '"' || text.front() == '\'');
+        return quoted ? WithoutBlanks(text.substr(1, text.size() - 2)) : text;
+    }
+
+    clsIniTFiles file_;
+    std::vector<Entry> written_;
+    size_t size_ = 0;
+};
+
+// The game's own macro format: sixteen lines.
+std::string MacroFileText(const Profile& profile) {
+    std::string text;
+    for (int i = 1; i <= kMacroCount; ++i) text += profile.Messages.Value(i) + "\r\n";
+    return text;
+}
+
+}  // namespace
+
+bool LoadProfile(Profile& profile, const std::string& fileName) {
+    if (!FileExists(fileName)) {
+        ShowMessage("ERROR - Could not find profile named '" + fileName + "'", kCritical);
+        return false;
+    }
+    clsIniTFiles file;
+    // Without a folder the private-profile functions would look in the Windows folder.
+    file.InitFileName = AbsolutePath(fileName);
+    file.SectionName = "Dialog";
+    if (file.ReadEntireSection().empty()) {
+        ShowMessage("ERROR - The file '" + fileName + "' is not a valid QRN file.", kCritical);
+        return false;
+    }
+
+    file.SectionName = kTitle;
+    if (Val(VersionText()) > Val(file.ReadKey("Version", "0.00"))) {
+        ShowMessage("WARNING - The file '" + fileName + "' was created with an earlier version.\r" +
+                        "It is recommended that you review the settings and re-save the file.",
+                    kExclamation);
+    }
+
+    ReadSection(file, profile.Dialog, "0");
+    for (size_t i = 0; i < profile.WaveFiles.size(); ++i) profile.WaveFiles[i] = file.ReadKey(kWaveKeys[i], kNotSet);
+    ReadSection(file, profile.Messages, "");
+    ReadSection(file, profile.Options, "0");
+    ReadSection(file, profile.Advanced, "0");
+    if (Val(profile.Advanced.Value(kGammaPercent)) == 0) profile.Advanced.Value(kGammaPercent) = "100";
+    ReadIgnoreList(file, profile.IgnoreList);
+    ReadSection(file, profile.HiddenOptions, "0");
+    return true;
+}
+
+Failure SaveProfile(const Profile& profile, const std::string& gameFolder, const std::string& fileName) {
+    const std::string path = AbsolutePath(fileName);
+    const Result<std::string> unfinished = BeginReplacement(path);
+    if (unfinished.Failed()) return unfinished.Error();
+
+    CheckedWriter writer(unfinished.Value());
+    writer.Section(kTitle);
+    writer.Key("Version", VersionText());
+    writer.Key("Modified", ShortDateAndTime());
+    writer.All(profile.Dialog);
+    for (size_t i = 0; i < profile.WaveFiles.size(); ++i) writer.Key(kWaveKeys[i], profile.WaveFiles[i]);
+    writer.All(profile.Messages);
+    writer.All(profile.Options);
+    writer.All(profile.Advanced);
+
+    writer.Section("IgnoreList");
+    size_t count = 0;
+    for (const std::string& name : profile.IgnoreList) {
+        // An empty value would end the list for the reader, and the names after it would be lost.
+        if (!Trim(name).empty()) writer.Key(IgnoreKey(++count), name);
+    }
+    // Ends the list on purpose: names of an older, longer list in the same file are never read.
+    writer.Key(IgnoreKey(count + 1), "");
+
+    const Failure macroFailure =
+        WriteWholeFile(gameFolder + "\\" + SplitPath(path).name + ".ssm", MacroFileText(profile));
+    if (!macroFailure) writer.All(profile.HiddenOptions);
+
+    if (Failure failure = writer.Check()) {
+        AbandonReplacement(path);
+        return failure;
+    }
+    if (Failure failure = FinishReplacement(path)) return failure;
+    return macroFailure;
+}
+
+}  // namespace quirn

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+#include "platform/error.h"
+#include "profile/profile.h"
+
+// QRN files: a profile as an INI file with the sections QUIRN (version and time of saving), Dialog, Messages, Options,
+// Advanced, IgnoreList and HiddenOptions. Keys are the catalogue's names, values the profile's texts.
+namespace quirn {
+
+// Reads a file into the profile. False, after a message, when there is no such file or it is no QRN file; the profile
+// is then as before. A file of an earlier version is read after a warning. Missing keys get their defaults.
+bool LoadProfile(Profile& profile, const std::string& fileName);
+
+// Writes the profile over the file (other keys in it survive) and, beside the game, the macro file
+// "<game folder>\<base name>.ssm". The file is put in place in one step when all of it is safely on the disk; on
+// failure the old one is whole. Only when the macro file fails is the part before it put in place, without
+// HiddenOptions, and the error returned.
+Failure SaveProfile(const Profile& profile, const std::string& gameFolder, const std::string& fileName);
+
+}  // namespace quirn

@@ -1,0 +1,43 @@
+#include "startup/main.h"
+
+#include "auxiliary/frmsplash.h"
+#include "mainwin/appsettings.h"
+#include "mainwin/frmmain.h"
+#include "platform/files.h"
+#include "platform/process.h"
+#include "startup/commandline.h"
+#include "startup/instance.h"
+
+namespace quirn {
+
+void Main() {
+    if (!ClaimSingleInstance()) {
+        HandOverToRunningCopy();
+        return;
+    }
+
+    Program program;
+    ReadFileLocations(program);
+    InitCatalogue(program.profile);
+    for (const std::string& argument : SplitCommandLine(CommandLineTail()))
+        if (HandleCommandLineArg(program, argument)) return;
+
+    frmSplash splash;
+    if (!program.quiet) {
+        splash.Show();
+        splash.Repaint();
+    }
+    program.helpFile = ProgramFolder() + "\\QUIRN.HLP";
+    frmMain mainWindow(program);
+    mainWindow.Load();
+    if (!program.quiet) {
+        splash.Unload();
+        // Loading may have ended in an exit.
+        if (mainWindow.IsLoaded()) mainWindow.Show();
+    }
+    // Loading has filled the controls, which is no change that anyone would want to save.
+    program.dirty = false;
+    RunEventLoop();
+}
+
+}  // namespace quirn
