@@ -1,0 +1,37 @@
+#include "platform/registry.h"
+
+#include <windows.h>
+
+namespace quirn {
+
+namespace {
+
+constexpr REGSAM kAccess = 63;  // query, set, create subkey, enumerate, notify, create link
+
+}  // namespace
+
+RegistryKey::RegistryKey(const std::string& path) {
+    HKEY key = nullptr;
+    if (RegOpenKeyExA(HKEY_CURRENT_USER, path.c_str(), 0, kAccess, &key) == ERROR_SUCCESS) handle_ = key;
+}
+
+RegistryKey::~RegistryKey() {
+    if (IsOpen()) RegCloseKey(static_cast<HKEY>(handle_));
+}
+
+long RegistryKey::Query(const std::string& name, RegistryType* type, void* data, uint32_t* size) const {
+    DWORD typeFound = 0;
+    DWORD bytes = *size;
+    const long status = RegQueryValueExA(static_cast<HKEY>(handle_), name.c_str(), nullptr, &typeFound,
+                                         static_cast<BYTE*>(data), &bytes);
+    *type = static_cast<RegistryType>(typeFound);
+    *size = bytes;
+    return status;
+}
+
+long RegistryKey::Set(const std::string& name, RegistryType type, const void* data, uint32_t size) const {
+    return RegSetValueExA(static_cast<HKEY>(handle_), name.c_str(), 0, static_cast<DWORD>(type),
+                          static_cast<const BYTE*>(data), size);
+}
+
+}  // namespace quirn

@@ -1,0 +1,13 @@
+#include "platform/sound.h"
+
+#include <windows.h>
+// after windows.h
+#include <mmsystem.h>
+
+namespace quirn {
+
+void PlaySoundFile(const std::string& path) {
+    PlaySoundA(path.c_str(), nullptr, SND_FILENAME | SND_NOWAIT | SND_APPLICATION | SND_NODEFAULT | SND_ASYNC);
+}
+
+}  // namespace quirn
