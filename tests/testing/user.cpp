@@ -3,8 +3,9 @@
 // Reads one command per line from standard input, words separated by tabs and percent-encoded, and answers each with
 // one line of JSON. Texts in the answers hold one character U+0000..U+00FF per byte. The commands are the table at
 // the end of this file. An answer with "error" means that the command could not be done.
-#include <tlhelp32.h>
 #include <windows.h>
+
+#include <tlhelp32.h>
 
 #include <array>
 #include <cstdio>
@@ -282,9 +283,11 @@ std::string IconName(HWND box) {
     if (!icon) return "none";
     std::vector<Reference>& references = References();
     std::string name = "unclear";
+    bool blank = true;
     for (int i = 0; i < 60 && name == "unclear"; ++i) {
         SetWindowPos(box, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS);
         const Pixels pixels = PixelsOf(icon);
+        blank = OneColour(pixels);
         std::map<long long, const char*> byDistance;
         for (const Reference& reference : references)
             byDistance.emplace(Distance(pixels, reference.pixels), reference.name);
@@ -292,7 +295,7 @@ std::string IconName(HWND box) {
             name = byDistance.begin()->second;
         else Sleep(50);
     }
-    return name;
+    return blank ? "none" : name;
 }
 
 std::string Message(const Words& words) {

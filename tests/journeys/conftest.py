@@ -1,0 +1,368 @@
+"""What every journey needs: a display with a window manager, a Wine prefix with the demo game in it, and a user.
+
+Set by the environment:
+  QUIRN_EXE      the program under test (default: build/win64/QUIRN.exe); user.exe and the stand-in game of the same
+                 build lie in tests/ and demo/ beside it
+  QUIRN_WINE32   runs a 32-bit Windows program; needed when that program is a 32-bit one
+"""
+import configparser
+import contextlib
+import fcntl
+import json
+import os
+import pathlib
+import re
+import shutil
+import struct
+import subprocess
+import time
+
+import pytest
+
+from catalogue import GROUPS
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+EXE = pathlib.Path(os.environ.get("QUIRN_EXE", ROOT / "build/win64/QUIRN.exe")).resolve()
+GAME_KEY = r"HKEY_CURRENT_USER\Software\Virgin\SubSpace"
+OWN_KEY = r"HKEY_CURRENT_USER\Software\QUIRN"
+TITLE = "QUIRN v1.61"
+WM_CLOSE = 16
+
+
+def is_32_bit(exe):
+    with open(exe, "rb") as file:
+        header = file.read(4096)
+    return struct.unpack_from("<H", header, struct.unpack_from("<I", header, 0x3C)[0] + 4)[0] == 0x14C
+
+
+def wait_for(condition, seconds=10, what="it"):
+    end = time.monotonic() + seconds
+    while True:
+        result = condition()
+        if result:
+            return result
+        assert time.monotonic() < end, f"{what} did not come about in {seconds} s"
+        time.sleep(0.03)
+
+
+class Screen:
+    """A virtual display. The window manager has a tray, and its own settings, so that no user's change a journey."""
+
+    def __init__(self, folder):
+        folder.mkdir(parents=True, exist_ok=True)
+        (folder / "preferences").write_text("ShowTaskBar=1\nTaskBarShowTray=1\nClickToFocus=1\nFocusOnMap=1\n")
+        self.server = subprocess.Popen(
+            ["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
+            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        self.name = ":" + self.server.stdout.readline().decode().strip()
+        assert len(self.name) > 1, "the virtual display did not start"
+        self.environment = dict(os.environ, DISPLAY=self.name, ICEWM_PRIVCFG=str(folder), LC_ALL="C.UTF-8")
+        self.manager = subprocess.Popen(["icewm"], env=self.environment, stdout=subprocess.DEVNULL,
+                                        stderr=subprocess.DEVNULL)
+        time.sleep(0.5)
+
+    def stop(self):
+        for process in (self.manager, self.server):
+            process.terminate()
+            process.wait(10)
+
+    def shoot(self, path):
+        path.parent.mkdir(parents=True, exist_ok=True)
+        subprocess.run(["/usr/bin/import", "-window", "root", str(path)], env=self.environment, check=True)
+
+
+class Machine:
+    """A Wine prefix: files in it, its registry through Wine's own reg, programs started in it."""
+
+    def __init__(self, screen, bits, folder):
+        self.runner = [os.environ["QUIRN_WINE32"]] if bits == 32 else ["wine"]
+        self.server = [*self.runner, "wineserver"] if bits == 32 else ["wineserver"]
+        self.prefix = folder
+        self.drive = folder / "drive_c"
+        self.environment = dict(screen.environment, WINEPREFIX=str(folder), WINEDEBUG="-all",
+                                WINEDLLOVERRIDES="mscoree,mshtml=")
+        folder.parent.mkdir(parents=True, exist_ok=True)
+        ready = folder / "ready"  # a set-up that was cut short is done again
+        # A run that was killed may have left its server, whose windows are on a display that is gone.
+        if ready.exists():
+            self.stop()
+        else:
+            shutil.rmtree(folder, ignore_errors=True)
+            subprocess.run([*self.runner, "wineboot", "-i"], env=self.environment, cwd=ROOT, check=True,
+                           stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            ready.touch()
+
+    def stop(self):
+        subprocess.run([*self.server, "-k"], env=self.environment, cwd=ROOT, check=False, stderr=subprocess.DEVNULL)
+
+    def path(self, name):
+        """Where a C: path lies for us."""
+        assert name[:3].upper() == "C:\\", name
+        return self.drive.joinpath(*name[3:].split("\\"))
+
+    def start(self, exe, *arguments, folder=None, **options):
+        return subprocess.Popen([*self.runner, str(exe), *arguments], env=self.environment, cwd=folder or ROOT,
+                                stderr=subprocess.DEVNULL, **options)
+
+    def reg(self, *arguments):
+        return subprocess.run([*self.runner, "reg", *arguments], env=self.environment, cwd=ROOT, check=False,
+                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+
+    def import_registry(self, text):
+        file = self.drive / "import.reg"
+        file.write_bytes(text.replace("\n", "\r\n").encode("cp1252"))
+        assert self.reg("import", r"C:\import.reg").returncode == 0
+
+    def export_registry(self, key):
+        """{"Dialog\\PlayerName": ("REG_SZ", "Bo"), ...} of everything below a key; None when there is no such key."""
+        file = self.drive / "export.reg"
+        file.unlink(missing_ok=True)
+        if self.reg("export", key, r"C:\export.reg", "/y").returncode != 0 or not file.exists():
+            return None
+        text = file.read_bytes().decode("utf-16").replace("\r\n", "\n").replace("\\\n  ", "")
+        plain = lambda s: re.sub(r"\\(.)", r"\1", s[1:-1], flags=re.S)
+        values, group = {}, None
+        # A text may hold line ends of its own, so the file is taken by tokens and not by lines.
+        quoted = r'"(?:[^"\\]|\\.)*"'
+        for header, name, data in re.findall(rf'^(?:\[(.*)\]|({quoted}|@)=({quoted}|.*))$', text, re.M):
+            if header:
+                group = header[len(key) + 1:]
+                values[group + "\\"] = ("key", "")
+            elif data[0] == '"':
+                values[f"{group}\\{plain(name)}"] = ("REG_SZ", plain(data))
+            elif data.startswith("dword:"):
+                number = int(data[6:], 16)
+                values[f"{group}\\{plain(name)}"] = ("REG_DWORD", str(number - (1 << 32) if number >> 31 else number))
+            else:
+                values[f"{group}\\{plain(name)}"] = tuple(data.split(":", 1))
+        return values
+
+
+class User:
+    """The test user inside the prefix: one long-lived process that takes commands."""
+
+    def __init__(self, machine, exe):
+        self.process = machine.start(exe, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+
+    def ask(self, *words):
+        """The answer, or None when the command could not be done."""
+        coded = ("".join(f"%{byte:02x}" if byte < 32 or byte == 37 else chr(byte)
+                         for byte in str(word).encode("cp1252")) for word in words)
+        self.process.stdin.write(("\t".join(coded) + "\n").encode("latin-1"))
+        self.process.stdin.flush()
+        answer = json.loads(self.process.stdout.readline().decode("ascii"), object_hook=decode_bytes)
+        return None if "error" in answer else answer
+
+    def processes(self, *names):
+        wanted = [name.lower() for name in names]
+        return [p["pid"] for p in self.ask("processes")["processes"] if p["name"].lower() in wanted]
+
+    def stop(self):
+        self.process.stdin.close()
+        self.process.wait(10)
+
+
+def decode_bytes(answer):
+    text = lambda s: s.encode("latin-1").decode("cp1252", "replace") if isinstance(s, str) else s
+    return {k: [text(x) for x in v] if isinstance(v, list) else text(v) for k, v in answer.items()}
+
+
+class Box:
+    """A message box on the screen."""
+
+    def __init__(self, user, handle):
+        self.user, self.handle = user, handle
+        wait_for(lambda: (user.ask("message", handle) or {}).get("buttons"), what="the box's buttons")
+        answer = user.ask("message", handle)
+        self.caption, self.text, self.icon, self.buttons = (answer[k] for k in ("caption", "text", "icon", "buttons"))
+
+    def press(self, button="OK"):
+        assert self.user.ask("press", self.handle, button)
+        wait_for(lambda: self.handle not in [w["handle"] for w in self.user.ask("windows")["windows"]],
+                 what="the box's end")
+
+
+class Quirn:
+    """One started copy of the program."""
+
+    def __init__(self, desk, arguments, folder=None):
+        self.desk = desk
+        before = desk.user.processes("QUIRN.exe")
+        self.process = desk.machine.start(r"C:\QUIRN\QUIRN.exe", *arguments, folder=folder)
+        new = lambda: [p for p in desk.user.processes("QUIRN.exe") if p not in before] or [self.process.poll()]
+        self.pid = wait_for(lambda: (new()[0] is not None) and new(), 15, "the process")[0]
+
+    def window(self, caption="", kind="", seconds=10):
+        window = self.desk.user.ask("wait", kind, caption, self.pid, int(seconds * 1000))
+        assert window, f"no window '{caption}' of class '{kind}'; there are {self.windows()}"
+        return window
+
+    def windows(self):
+        return [w for w in self.desk.user.ask("windows")["windows"] if w["pid"] == self.pid]
+
+    def box(self, seconds=10):
+        box = Box(self.desk.user, self.window(kind="#32770", seconds=seconds)["handle"])
+        self.desk.screenshot(box.text)
+        return box
+
+    def expect(self, text, icon, caption="QUIRN", button="OK"):
+        """The next message box says exactly this; presses its button."""
+        box = self.box()
+        assert (box.text, box.icon, box.caption) == (text, icon, caption)
+        box.press(button)
+
+    def main_window(self, seconds=10):
+        return self.window(TITLE, seconds=seconds)
+
+    def close(self):
+        self.desk.user.ask("post", self.main_window()["handle"], WM_CLOSE, 0, 0)
+        self.ended()
+
+    def ended(self, seconds=10):
+        """Its exit code, once it has ended by itself."""
+        try:
+            return self.process.wait(seconds)
+        except subprocess.TimeoutExpired:
+            raise AssertionError(f"still running with {self.windows()}") from None
+
+    def processor_seconds(self):
+        fields = pathlib.Path(f"/proc/{self.process.pid}/stat").read_text().rsplit(")", 1)[1].split()
+        return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
+
+class Desk:
+    """What a journey works with."""
+
+    def __init__(self, screen, machine, user):
+        self.screen, self.machine, self.user = screen, machine, user
+        self.name, self.shots = "", 0
+        self.started = []
+
+    def reset(self, name):
+        """The demo as it is on the first day: no program running, game folder, profiles and registry new."""
+        self.name, self.shots = name, 0
+        self.end_all()
+        game = self.machine.path("C:\\SubSpace")
+        for folder in (game, self.machine.path("C:\\QUIRN")):
+            shutil.rmtree(folder, ignore_errors=True)
+        shutil.copytree(ROOT / "demo/game", game)
+        shutil.copytree(ROOT / "demo/profiles", game / "Profiles")
+        shutil.copy(EXE.parent / "demo/subspace.exe", game)
+        self.machine.path("C:\\QUIRN").mkdir()
+        shutil.copy(EXE, self.machine.path("C:\\QUIRN\\QUIRN.exe"))
+        seed = (ROOT / "demo/game.reg").read_bytes().decode("cp1252").replace("\r\n", "\n").removeprefix("REGEDIT4\n")
+        self.machine.import_registry(f"""REGEDIT4
+
+[-{GAME_KEY}]
+
+[-{OWN_KEY}]
+
+[{OWN_KEY}\\File Locations]
+"SubSpace"="C:\\\\SubSpace"
+"QRN Files"="C:\\\\SubSpace\\\\Profiles"
+[HKEY_CURRENT_USER\\Software\\Wine\\WineDbg]
+"ShowCrashDialog"=dword:00000000
+{seed}""")
+
+    def end_all(self):
+        self.user.ask("release")
+        for pid in self.user.processes("QUIRN.exe", "subspace.exe"):
+            self.user.ask("end", pid)
+        for quirn in self.started:
+            quirn.process.wait(10)
+        self.started = []
+
+    def start(self, *arguments, folder=None):
+        self.started.append(Quirn(self, arguments, folder))
+        return self.started[-1]
+
+    def screenshot(self, what):
+        self.shots += 1
+        words = re.sub(r"[^A-Za-z0-9]+", "-", what)[:50].strip("-")
+        self.screen.shoot(ROOT / "build/journeys" / EXE.parent.name / f"{self.name}-{self.shots}-{words}.png")
+
+    def file(self, name):
+        return self.machine.path("C:\\SubSpace\\" + name)
+
+    def registry(self):
+        return self.machine.export_registry(GAME_KEY)
+
+    def own_settings(self):
+        return self.machine.export_registry(OWN_KEY)
+
+    def game_report(self, seconds=15):
+        """What the stand-in game found: {"Folder": ..., "Dialog.PlayerName (1)": ...}."""
+        report = self.file("started.txt")
+        wait_for(report.exists, seconds, "the game's start")
+        lines = report.read_bytes().decode("cp1252").split("\r\n")
+        return dict(line.split(" = ", 1) for line in lines if line)
+
+    def close_game(self):
+        window = self.user.ask("wait", "SubSpaceClass", "", 0, 10000)
+        assert window
+        self.user.ask("post", window["handle"], WM_CLOSE, 0, 0)
+
+    def folder_state(self):
+        """Every file below the game folder with its bytes, the profiles that a journey makes left out."""
+        game = self.file("")
+        return {str(f.relative_to(game)): f.read_bytes() for f in game.rglob("*")
+                if f.is_file() and f.relative_to(game).parts[0] != "Profiles"}
+
+
+class Profile:
+    """A QRN file as a reader sees it that is not ours."""
+
+    def __init__(self, path):
+        parser = configparser.ConfigParser(strict=False, interpolation=None, delimiters=("=",),
+                                           comment_prefixes=(";",))
+        parser.optionxform = str
+        with open(path, encoding="cp1252", newline="") as file:
+            parser.read_string(file.read().replace("\r\n", "\n"))
+        self.sections = {name: {k: self.unquoted(v) for k, v in parser[name].items()} for name in parser.sections()}
+
+    @staticmethod
+    def unquoted(text):
+        return text[1:-1] if len(text) > 1 and text[0] == text[-1] and text[0] in "\"'" else text
+
+    def settings(self):
+        return {(group, name): self.sections[group][name] for group, names in GROUPS.items() for name in names}
+
+    def ignored(self):
+        names = []
+        while value := self.sections["IgnoreList"].get(f"Ignore{len(names) + 1}"):
+            names.append(value)
+        return names
+
+
+@pytest.fixture(scope="session")
+def whole_desk():
+    build = EXE.parent
+    assert EXE.exists(), f"{EXE} has not been built"
+    bits = 32 if is_32_bit(EXE) else 64
+    prefix = ROOT / f"build/wine/journeys{bits}"
+    prefix.parent.mkdir(parents=True, exist_ok=True)
+    # Two sessions in one prefix would end each other's programs.
+    with contextlib.ExitStack() as stack, open(f"{prefix}.lock", "w") as lock:
+        fcntl.flock(lock, fcntl.LOCK_EX)
+        screen = Screen(ROOT / "build/journeys/icewm")
+        stack.callback(screen.stop)
+        machine = Machine(screen, bits, prefix)
+        stack.callback(machine.stop)
+        user = User(machine, build / "tests/user.exe")
+        stack.callback(user.stop)
+        yield Desk(screen, machine, user)
+
+
+@pytest.fixture
+def desk(whole_desk, request):
+    whole_desk.reset(re.sub(r"[^A-Za-z0-9]+", "-", request.node.name))
+    yield whole_desk
+    if getattr(request.node, "failed", False):
+        whole_desk.screenshot("when-it-failed")
+    whole_desk.end_all()
+
+
+@pytest.hookimpl(hookwrapper=True)
+def pytest_runtest_makereport(item, call):
+    outcome = yield
+    item.failed = getattr(item, "failed", False) or outcome.get_result().failed

@@ -1,0 +1,108 @@
+"""Starting with and without options, a second copy, closing."""
+import time
+
+import pytest
+
+from catalogue import SZ
+from conftest import TITLE, wait_for
+
+
+def test_the_main_window_shows_and_ends_the_program(desk):
+    quirn = desk.start()
+    window = quirn.main_window()
+    assert window["caption"] == TITLE + " - <current SS settings>"
+    desk.screenshot("main window")
+    before = desk.registry()
+    quirn.close()
+    assert desk.registry() == before, "a start and an end change nothing in the game"
+
+
+@pytest.mark.parametrize("option", ["/Q", "/q", "/QUIET"])
+def test_quiet_shows_no_window(desk, option):
+    quirn = desk.start(option)
+    wait_for(lambda: [w for w in desk.user.ask("windows", "all")["windows"]
+                      if w["pid"] == quirn.pid and TITLE in w["caption"]], what="the hidden main window")
+    end = time.monotonic() + 1.5
+    while time.monotonic() < end:
+        assert quirn.windows() == []
+        time.sleep(0.05)
+    assert quirn.process.poll() is None
+
+
+def test_only_a_quiet_option_in_the_last_place_counts(desk):
+    quirn = desk.start("/Q", "/LR:nobody.qrn")
+    quirn.box().press()
+    quirn.main_window()
+    desk.end_all()
+    quirn = desk.start("/LR:nobody.qrn", "/Q")
+    quirn.box().press()
+    time.sleep(1)
+    assert quirn.windows() == [] and quirn.process.poll() is None
+
+
+def test_the_first_ten_words_are_handled(desk):
+    quirn = desk.start(*[f"w{i}" for i in range(1, 13)])
+    for i in range(1, 11):
+        quirn.expect(f"ERROR - Invalid command line option 'W{i}'", "critical")
+    quirn.main_window()
+
+
+def test_after_a_launch_no_more_words_are_handled(desk):
+    quirn = desk.start("/LR:LEAGUE.QRN", "nonsense")
+    assert quirn.ended(15) == 0
+    assert desk.registry()[r"Dialog\PlayerName"] == (SZ, "Ødegård")
+
+
+def test_a_second_copy_brings_the_first_forward_and_ends(desk):
+    first = desk.start()
+    window = first.main_window()["handle"]
+    desk.user.ask("minimise", window)
+    wait_for(lambda: desk.user.ask("wait", "", TITLE, first.pid, 500)["minimised"], what="the small window")
+    second = desk.start("/LR:DUEL.QRN")
+    assert second.ended() == 0
+    wait_for(lambda: not desk.user.ask("wait", "", TITLE, first.pid, 500)["minimised"], what="the restored window")
+    wait_for(lambda: desk.user.ask("foreground")["handle"] == window, what="the window in front")
+    assert desk.user.processes("QUIRN.exe") == [first.pid]
+    assert not desk.file("started.txt").exists(), "the second copy has handled its command line"
+
+
+def test_a_hidden_first_copy_is_shown_by_a_second(desk):
+    first = desk.start("/Q")
+    wait_for(lambda: [w for w in desk.user.ask("windows", "all")["windows"]
+                      if w["pid"] == first.pid and TITLE in w["caption"]], what="the hidden main window")
+    assert desk.start().ended() == 0
+    first.main_window()
+
+
+def test_a_second_copy_while_the_first_has_no_window_yet(desk):
+    first = desk.start("nonsense")
+    box = first.box()
+    second = desk.start()
+    second.expect("QUIRN is already running.", "information")
+    assert second.ended() == 0
+    box.press()
+    first.main_window()
+
+
+def test_of_two_copies_started_at_one_moment_one_survives(desk):
+    for _ in range(3):
+        copies = [desk.machine.start(r"C:\QUIRN\QUIRN.exe") for _ in range(2)]
+
+        def settled():
+            # The one that came late finds the other's window and ends, or says that it is running.
+            for window in desk.user.ask("windows")["windows"]:
+                if window["class"] == "#32770" and window["caption"] == "QUIRN":
+                    message = desk.user.ask("message", window["handle"])
+                    if message and message["buttons"]:
+                        assert message["text"] == "QUIRN is already running."
+                        desk.user.ask("press", window["handle"], "OK")
+            return any(copy.poll() is not None for copy in copies)
+
+        wait_for(settled, what="the end of one copy")
+        time.sleep(0.7)
+        assert sorted(copy.poll() is None for copy in copies) == [False, True]
+        assert desk.user.ask("wait", "", TITLE, 0, 5000)
+        for pid in desk.user.processes("QUIRN.exe"):
+            desk.user.ask("end", pid)
+        for copy in copies:
+            copy.wait(10)
