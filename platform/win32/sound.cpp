@@ -1,8 +1,8 @@
 #include "platform/sound.h"
 
 #include <windows.h>
-// after windows.h
-#include <mmsystem.h>
+
+#include <mmsystem.h>  // needs windows.h first
 
 namespace quirn {
 

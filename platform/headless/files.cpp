@@ -1,0 +1,229 @@
+#include "platform/files.h"
+
+#include <algorithm>
+
+#include "platform/headless/headless.h"
+
+namespace quirn {
+
+using headless::File;
+using headless::TheWorld;
+
+namespace {
+
+std::string UnfinishedPath(const std::string& path) {
+    return path + kUnfinishedSuffix;
+}
+
+// An absolute path as the maps hold it.
+std::string KeyOf(const std::string& path) {
+    std::string key = AbsolutePath(path);
+    if (key.ends_with('\\')) key.pop_back();
+    return key;
+}
+
+std::string FolderOf(const std::string& key) {
+    const size_t end = key.rfind('\\');
+    return end == std::string::npos ? std::string() : key.substr(0, end);
+}
+
+// What opening a path for reading or writing meets before it comes to the file itself.
+Failure CheckPath(const std::string& path) {
+    const std::string key = KeyOf(path);
+    if (TheWorld().folders.contains(key)) return MakeError(ErrorNumber::PathFileAccess);
+    if (path.empty() || path.ends_with('\\') || !TheWorld().folders.contains(FolderOf(key)) ||
+        key.find_first_of("<>\"|?*") != std::string::npos || key.find(':', 2) != std::string::npos)
+        return MakeError(ErrorNumber::PathNotFound);
+    return {};
+}
+
+Failure CheckReplaceable(const std::string& path) {
+    if (Failure failure = CheckPath(path)) return failure;
+    const File* file = headless::FindFile(path);
+    if (file == nullptr) return {};
+    if (file->readOnly) return MakeError(ErrorNumber::PathFileAccess);
+    if (file->holders > 0) return MakeError(ErrorNumber::PermissionDenied);
+    return {};
+}
+
+void Remove(const std::string& path) {
+    if (File* file = headless::FindFile(path)) {
+        headless::Store(*file, {});
+        TheWorld().files.erase(KeyOf(path));
+    }
+}
+
+Failure MakeUnfinished(const std::string& path, std::string_view bytes) {
+    Remove(UnfinishedPath(path));
+    File& file = TheWorld().files[KeyOf(UnfinishedPath(path))];
+    if (headless::Store(file, bytes)) return {};
+    Remove(UnfinishedPath(path));
+    return MakeError(ErrorNumber::DiskFull);
+}
+
+bool Matches(std::string_view name, std::string_view pattern) {
+    if (pattern.empty()) return name.empty();
+    if (pattern[0] == '*')
+        return Matches(name, pattern.substr(1)) || (!name.empty() && Matches(name.substr(1), pattern));
+    return !name.empty() && (pattern[0] == '?' || FoldCase(pattern[0]) == FoldCase(name[0])) &&
+           Matches(name.substr(1), pattern.substr(1));
+}
+
+}  // namespace
+
+namespace headless {
+
+World& TheWorld() {
+    static World world;
+    return world;
+}
+
+void ResetWorld() {
+    TheWorld() = World();
+}
+
+void MakeFolder(const std::string& path) {
+    for (std::string key = KeyOf(path); !key.empty(); key = FolderOf(key)) TheWorld().folders.insert(key);
+}
+
+File& PutFile(const std::string& path, std::string_view bytes) {
+    MakeFolder(FolderOf(KeyOf(path)));
+    File& file = TheWorld().files[KeyOf(path)];
+    Store(file, bytes);
+    return file;
+}
+
+File* FindFile(const std::string& path) {
+    const auto found = TheWorld().files.find(KeyOf(path));
+    return found == TheWorld().files.end() || path.ends_with('\\') ? nullptr : &found->second;
+}
+
+bool Store(File& file, std::string_view bytes) {
+    std::optional<size_t>& room = TheWorld().diskRoom;
+    if (!room) {
+        file.bytes = bytes;
+        return true;
+    }
+    const size_t available = *room + file.bytes.size();
+    const size_t stored = std::min(available, bytes.size());
+    file.bytes = bytes.substr(0, stored);
+    room = available - stored;
+    return stored == bytes.size();
+}
+
+}  // namespace headless
+
+bool FileExists(const std::string& path) {
+    if (path.empty() || path.ends_with('\\')) return false;
+    const std::string key = KeyOf(path);
+    const std::string folder = FolderOf(key);
+    std::string pattern = key.substr(folder.size());
+    if (pattern == "\\*.*") pattern = "\\*";  // names without a point count too
+    return std::any_of(TheWorld().files.begin(), TheWorld().files.end(), [&](const auto& entry) {
+        const auto& [name, file] = entry;
+        const std::string itsFolder = FolderOf(name);
+        return EqualNoCase(itsFolder, folder) && Matches(std::string_view(name).substr(itsFolder.size()), pattern) &&
+               !file.hidden && !file.system;
+    });
+}
+
+bool FolderExists(const std::string& path) {
+    return !path.empty() && TheWorld().folders.contains(KeyOf(path));
+}
+
+Result<std::string> ReadWholeFile(const std::string& path) {
+    if (Failure failure = CheckPath(path)) return *failure;
+    const File* file = headless::FindFile(path);
+    if (file == nullptr) return ErrorNumber::FileNotFound;
+    if (file->holders > 0) return ErrorNumber::PermissionDenied;
+    return file->bytes;
+}
+
+Failure WriteWholeFile(const std::string& path, std::string_view bytes) {
+    if (Failure failure = CheckReplaceable(path)) return failure;
+    if (Failure failure = MakeUnfinished(path, bytes)) return failure;
+    return FinishReplacement(path);
+}
+
+Failure CopyWholeFile(const std::string& from, const std::string& to) {
+    if (Failure failure = CheckReplaceable(to)) return failure;
+    const Result<std::string> bytes = ReadWholeFile(from);
+    if (bytes.Failed()) return bytes.Error();
+    if (Failure failure = MakeUnfinished(to, bytes.Value())) return failure;
+    return FinishReplacement(to);
+}
+
+Failure DeleteWholeFile(const std::string& path) {
+    if (Failure failure = CheckReplaceable(path)) return failure;
+    if (headless::FindFile(path) == nullptr) return MakeError(ErrorNumber::FileNotFound);
+    Remove(path);
+    return {};
+}
+
+Result<std::string> BeginReplacement(const std::string& path) {
+    if (Failure failure = CheckReplaceable(path)) return *failure;
+    const File* old = headless::FindFile(path);
+    if (Failure failure = MakeUnfinished(path, old == nullptr ? std::string() : old->bytes)) return *failure;
+    return UnfinishedPath(path);
+}
+
+Failure FinishReplacement(const std::string& path) {
+    Failure failure = CheckReplaceable(path);
+    const File* unfinished = headless::FindFile(UnfinishedPath(path));
+    if (!failure && unfinished == nullptr) failure = MakeError(ErrorNumber::FileNotFound);
+    if (failure) {
+        AbandonReplacement(path);
+        return failure;
+    }
+    Remove(path);
+    auto entry = TheWorld().files.extract(KeyOf(UnfinishedPath(path)));
+    entry.key() = KeyOf(path);
+    TheWorld().files.insert(std::move(entry));
+    return {};
+}
+
+void AbandonReplacement(const std::string& path) {
+    Remove(UnfinishedPath(path));
+}
+
+bool DiskIsFull(const std::string&, size_t bytes) {
+    return TheWorld().diskRoom.value_or(bytes) < bytes;
+}
+
+std::string AbsolutePath(const std::string& path) {
+    if (path.empty()) return path;
+    std::string whole = path;
+    std::replace(whole.begin(), whole.end(), '/', '\\');
+    const std::string& current = TheWorld().currentFolder;
+    if (whole.size() >= 2 && whole[1] == ':') {
+        // "C:name" starts at the current folder of that drive.
+        if (whole.size() == 2 || whole[2] != '\\')
+            whole =
+                (FoldCase(whole[0]) == FoldCase(current[0]) ? current : whole.substr(0, 2)) + "\\" + whole.substr(2);
+    } else {
+        whole = whole.starts_with('\\') ? current.substr(0, 2) + whole : current + "\\" + whole;
+    }
+    std::vector<std::string> parts;
+    for (size_t at = 3; at < whole.size();) {
+        const size_t end = std::min(whole.find('\\', at), whole.size());
+        const std::string part = whole.substr(at, end - at);
+        at = end + 1;
+        if (part == "..") {
+            if (!parts.empty()) parts.pop_back();
+        } else if (!part.empty() && part != ".") {
+            parts.push_back(part);
+        }
+    }
+    // The system drops points and blanks at the end of a path.
+    if (!parts.empty() && !whole.ends_with('\\')) parts.back().resize(parts.back().find_last_not_of(". ") + 1);
+    std::string result = whole.substr(0, 2);
+    for (const std::string& part : parts) result += "\\" + part;
+    if (parts.empty() || whole.ends_with('\\')) result += "\\";
+    return result;
+}
+
+std::string ProgramFolder() {
+    return TheWorld().programFolder;
+}
+
+}  // namespace quirn

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/text.h"
+
+// The in-memory back end's world: what a test may set up before and look at after.
+namespace quirn::headless {
+
+struct File {
+    std::string bytes;
+    bool readOnly = false;
+    bool hidden = false;
+    bool system = false;
+    int holders = 0;  // handles of other programs, which share nothing
+};
+
+struct RegistryValue {
+    uint32_t type = 0;
+    std::string bytes;
+};
+
+using RegistryValues = std::map<std::string, RegistryValue, LessNoCase>;
+
+struct TopLevelWindow {
+    std::string className;
+    std::string caption;
+    bool shownNormal = false;
+};
+
+struct World {
+    // Files and folders by their absolute path; a folder's has no "\" at its end, a drive's root is "C:".
+    std::map<std::string, File, LessNoCase> files;
+    std::set<std::string, LessNoCase> folders{"C:", "C:\\Windows", "C:\\Program"};
+    std::string currentFolder = "C:\\Program";
+    std::string programFolder = "C:\\Program";
+    std::optional<size_t> diskRoom;  // bytes that the disk still takes; without a limit when empty
+
+    // Keys below the current user's root.
+    std::map<std::string, RegistryValues, LessNoCase> registry;
+
+    std::string commandLineTail;
+    bool otherCopyRuns = false;
+    bool programsFailToStart = false;                                  // for programs that exist; others never start
+    std::vector<std::pair<std::string, std::string>> startedPrograms;  // program, folder
+    std::vector<std::string> playedSounds;
+
+    std::vector<TopLevelWindow> windows;   // from front to back; a handle is an index + 1
+    std::optional<size_t> broughtToFront;  // index of the window
+
+    std::string dateAndTime = "3/14/2004 9:26 PM";
+};
+
+World& TheWorld();
+void ResetWorld();
+
+// Both make the folders above as well.
+void MakeFolder(const std::string& path);
+File& PutFile(const std::string& path, std::string_view bytes);
+RegistryValues& MakeKey(const std::string& path);
+
+// The file at a path, by the rules of the system's paths; null when there is none.
+File* FindFile(const std::string& path);
+
+// Gives a file new content. False when the disk is full; the file then holds what had room.
+bool Store(File& file, std::string_view bytes);
+
+}  // namespace quirn::headless

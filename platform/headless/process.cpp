@@ -1,0 +1,57 @@
+#include "platform/process.h"
+
+#include <algorithm>
+
+#include "platform/files.h"
+#include "platform/headless/headless.h"
+
+namespace quirn {
+
+using headless::TheWorld;
+
+namespace {
+
+constexpr size_t kCaptionLimit = 255;
+
+}  // namespace
+
+std::string CommandLineTail() {
+    return TheWorld().commandLineTail;
+}
+
+bool ClaimSingleInstance() {
+    return !TheWorld().otherCopyRuns;
+}
+
+bool StartProgram(const std::string& program, const std::string& folder) {
+    if (TheWorld().programsFailToStart || headless::FindFile(program) == nullptr || !FolderExists(folder)) return false;
+    TheWorld().startedPrograms.emplace_back(program, folder);
+    return true;
+}
+
+bool WindowOfClassExists(const std::string& className) {
+    return std::any_of(TheWorld().windows.begin(), TheWorld().windows.end(),
+                       [&](const auto& window) { return EqualNoCase(window.className, className); });
+}
+
+WindowHandle FirstTopLevelWindow() {
+    return TheWorld().windows.empty() ? 0 : 1;
+}
+
+WindowHandle NextTopLevelWindow(WindowHandle window) {
+    return window < TheWorld().windows.size() ? window + 1 : 0;
+}
+
+std::string WindowCaption(WindowHandle window) {
+    return TheWorld().windows.at(window - 1).caption.substr(0, kCaptionLimit);
+}
+
+void ShowNormal(WindowHandle window) {
+    TheWorld().windows.at(window - 1).shownNormal = true;
+}
+
+void BringToFront(WindowHandle window) {
+    TheWorld().broughtToFront = window - 1;
+}
+
+}  // namespace quirn
