@@ -6,12 +6,12 @@
 #include <string>
 #include <vector>
 
-// Forms and controls. What a control shows is kept here, in portable code; the back end makes a window for it when it
-// is first shown and keeps the two in step. So a control can be filled and asked long before (and without) a window,
-// which costs nothing until a player sees it.
+// What all controls have in common. What a control shows is kept here, in portable code; the back end makes a window
+// for it when it is first shown and keeps the two in step. So a control can be filled and asked long before (and
+// without) a window, which costs nothing until a player sees it.
 //
 // One rule for all setters: a setter changes what is shown and calls no handler. What the user does goes through the
-// routines named User..., which change the state and then call the handler. The exceptions say so at their place.
+// routines named User..., which change the state and then call the handler.
 //
 // All lengths are twips (1/1440 inch).
 namespace quirn {
@@ -22,6 +22,8 @@ struct Bounds {
     int width = 0;
     int height = 0;
 
+    int Right() const { return left + width; }
+    int Bottom() const { return top + height; }
     bool operator==(const Bounds&) const = default;
 };
 
@@ -40,30 +42,60 @@ struct Font {
     bool operator==(const Font&) const = default;
 };
 
-enum class Alignment { Left, Center, Right };
-
 class Control;
 class Form;
 
-// The parts of a control's state that a window has to be told about.
-enum class Aspect { Text, Enabled, Visible, Place, Colors, Font };
+// The parts of a control's (or form's) state that its window has to be told about.
+enum class Aspect { Text, Enabled, Visible, Place, Colors, Font, Value, Items, Selection, Caret, ToolTip };
 
-enum class ControlKind { Label, Picture };
+enum class ControlKind {
+    Label,
+    Picture,
+    Button,
+    CheckBox,
+    OptionButton,
+    TextBox,
+    MaskedBox,
+    ComboBox,
+    ListBox,
+    Frame,
+    TabStrip,
+    UpDown,
+    StatusBar,
+};
 
-// Something that holds controls, in creation order, which is the tab order.
+// A window that holds the windows of controls: a form or a page of a tab strip. Creation order is tab order.
 class Container {
 public:
     const std::vector<Control*>& Controls() const { return controls_; }
 
+    // The form that this container is or belongs to.
+    Form& Owner() const { return *owner_; }
+
+    // The back end's window; null while there is none.
+    void* window = nullptr;
+
 protected:
-    Container() = default;
+    explicit Container(Form& owner) : owner_(&owner) {}
     ~Container() = default;
     Container(const Container&) = delete;
     Container& operator=(const Container&) = delete;
 
 private:
     friend class Control;
+    Form* owner_;
     std::vector<Control*> controls_;
+};
+
+// Where a new control goes: into a form, a page or a frame (whose controls live beside it in its container, moved by
+// its corner).
+struct Parent {
+    Parent(Container& inContainer) : container(&inContainer) {}
+    Parent(Container& inContainer, int atLeft, int atTop) : container(&inContainer), left(atLeft), top(atTop) {}
+
+    Container* container;
+    int left = 0;
+    int top = 0;
 };
 
 class Control {
@@ -72,12 +104,15 @@ public:
     Control& operator=(const Control&) = delete;
 
     ControlKind Kind() const { return kind_; }
+    Container& Holder() const { return *container_; }
     const std::string& Text() const { return text_; }
     bool Enabled() const { return enabled_; }
     bool Visible() const { return visible_; }
-    const Bounds& Place() const { return place_; }  // relative to the container's inner area
+    const Bounds& Place() const { return place_; }  // in its container's inner area
     const Font& FontUsed() const { return font_; }
     std::optional<Color> ForeColor() const { return foreColor_; }
+    const std::string& ToolTip() const { return toolTip_; }
+    bool HasFocus() const;  // the keyboard goes to it
 
     void SetText(const std::string& text);
     void SetEnabled(bool enabled);
@@ -85,49 +120,36 @@ public:
     void Move(const Bounds& place);
     void SetFont(const Font& font);
     void SetForeColor(Color color);
+    void SetToolTip(const std::string& text);
+    void SetFocus();  // on a page that is not in front it does nothing
+
+    std::string Tag;  // free for the form's use
+
+    std::function<void()> onGotFocus;
+    std::function<void()> onLostFocus;
 
     // The back end's window for this control; null while there is none.
     void* window = nullptr;
 
+    // For the back end.
+    void UserFocuses(bool focused);
+
 protected:
-    Control(Container& container, ControlKind kind, const Bounds& place, const std::string& text);
+    Control(Parent parent, ControlKind kind, const Bounds& place, const std::string& text);
     ~Control();  // with its window, when it has one
 
     void Changed(Aspect aspect);
+    std::string text_;
 
 private:
-    Container& container_;
+    Container* container_;
     ControlKind kind_;
     Bounds place_;
-    std::string text_;
     bool enabled_ = true;
     bool visible_ = true;
     Font font_;
     std::optional<Color> foreColor_;
-};
-
-// A line or a block of text; "&" marks nothing in it.
-class Label : public Control {
-public:
-    Label(Container& container, const Bounds& place, const std::string& text, Alignment alignment = Alignment::Left)
-        : Control(container, ControlKind::Label, place, text), alignment_(alignment) {}
-
-    Alignment AlignmentUsed() const { return alignment_; }
-
-private:
-    Alignment alignment_;
-};
-
-// A picture from the program's resources, by number, stretched over its place.
-class Picture : public Control {
-public:
-    Picture(Container& container, const Bounds& place, int resource)
-        : Control(container, ControlKind::Picture, place, {}), resource_(resource) {}
-
-    int Resource() const { return resource_; }
-
-private:
-    int resource_;
+    std::string toolTip_;
 };
 
 }  // namespace quirn

@@ -2,8 +2,11 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "platform/control.h"
+#include "platform/controls.h"
+#include "platform/menu.h"
 
 namespace quirn {
 
@@ -17,8 +20,21 @@ enum class FormBorder {
 // Who asks for a form to be closed. The numbers are the classic ones.
 enum class UnloadMode { CloseBox = 0, FromCode = 1, SystemShutdown = 2 };
 
+// Keys by their virtual codes, for shortcuts.
+inline constexpr int kKeyTab = 9, kKeyEnter = 13, kKeyEscape = 27, kKeyDelete = 46, kKeyF1 = 112, kKeyF3 = 114;
+
+struct Shortcut {
+    int key;  // virtual code; letters and digits are their upper-case characters
+    bool control;
+    int command;  // of the form's menu bar
+};
+
 // A window of the program. The object may live longer than its window: Load makes the window (hidden), Unload destroys
 // it, and either may happen again. A form is destroyed with its window when its object goes.
+//
+// Keyboard: Tab and the arrows move between the controls, access keys and the menu bar work, Ctrl+Tab turns the pages of
+// the form's tab strip. Enter presses the button that has the focus, else the default button; Esc presses the cancel
+// button. A form without such buttons ignores the two.
 class Form : public Container {
 public:
     // size is the whole window's, frame included; the place is the centre of the screen until Move says otherwise.
@@ -34,13 +50,24 @@ public:
     std::optional<Color> BackColor() const { return backColor_; }
     bool IsMinimized() const { return minimized_; }
 
+    // The size of the inner area in twips, menu bar not counted. Known exactly once the form is loaded.
+    int InnerWidth() const;
+    int InnerHeight() const;
+
     void SetCaption(const std::string& caption);
     void Move(const Bounds& place);
     void SetBackColor(Color color) { backColor_ = color; }  // before Load
+    void SetMenu(Menu& menu, std::vector<Shortcut> shortcuts);  // before Load; the menu must live as long as the form
+    Menu* MenuBar() const { return menu_; }
+    const std::vector<Shortcut>& Shortcuts() const { return shortcuts_; }
+    void SetButtons(Button* defaultButton, Button* cancelButton);
+    Button* DefaultButton() const { return defaultButton_; }
+    Button* CancelButton() const { return cancelButton_; }
 
     // Makes the window, hidden, and calls onLoad. Does nothing when it is loaded.
     void Load();
-    void Show();          // loads it first when need be; does not wait
+    void Show();               // loads it first when need be; does not wait
+    void ShowModal(Form& owner);  // waits until it is unloaded or hidden; the owner is disabled meanwhile
     void Hide();
     void BringToFront();  // restores it when it is minimised
     void Repaint();       // paints the window now, without waiting for events
@@ -50,18 +77,29 @@ public:
     bool Unload(UnloadMode mode);
     bool Unload() { return Unload(UnloadMode::FromCode); }
 
+    // Shows a menu at the pointer and calls its handlers; the command in bold is its default.
+    void PopUpMenu(Menu& menu, int defaultCommand);
+
+    Control* ActiveControl() const { return active_; }
+
     std::function<void()> onLoad;
+    std::function<void()> onResize;
     std::function<bool(UnloadMode)> onQueryUnload;  // false: the form stays
     std::function<bool()> onUnload;                 // false: the form stays
-    std::function<void(char)> onKeyPress;           // a character typed anywhere in the form
+    std::function<void(char)> onKeyPress;           // a character typed, before the control that has the focus gets it
+    std::function<void(int)> onSystemMenuHighlight; // the player moves over a command of the system menu (0xF000 ...)
+    std::function<void(const std::string&)> onDropFile;  // a file dropped on the window; set before Load
 
     // For the back end: what happened to the window.
     void UserCloses(UnloadMode mode);
     void UserTypes(char character);
+    void UserPressesEnter();
+    void UserPressesEscape();
     void WindowMoved(const Bounds& place) { place_ = place; }
+    void WindowResized();
     void WindowShown(bool visible) { visible_ = visible; }
     void WindowMinimized(bool minimized) { minimized_ = minimized; }
-    void* window = nullptr;
+    void FocusMoved(Control* control) { active_ = control; }
 
 private:
     FormBorder border_;
@@ -69,6 +107,11 @@ private:
     bool placeIsSet_ = false;
     std::string caption_;
     std::optional<Color> backColor_;
+    Menu* menu_ = nullptr;
+    std::vector<Shortcut> shortcuts_;
+    Button* defaultButton_ = nullptr;
+    Button* cancelButton_ = nullptr;
+    Control* active_ = nullptr;
     bool loaded_ = false;
     bool visible_ = false;
     bool minimized_ = false;

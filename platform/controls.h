@@ -1,0 +1,275 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/control.h"
+
+// The kinds of controls. Captions mark their access key with "&" ("&&" is a plain "&"), except those of labels that
+// show data. Indexes of items and pages count from 0; -1 is none.
+namespace quirn {
+
+enum class Alignment { Left, Center, Right };
+
+// A line or a block of text. With an access key it sends the focus to the control created after it.
+class Label : public Control {
+public:
+    Label(Parent parent, const Bounds& place, const std::string& text, Alignment alignment = Alignment::Left);
+
+    // A label that shows data: "&" marks nothing in it. Text that is too long for its place ends in "...".
+    static constexpr bool kShowsData = true;
+    Label(Parent parent, const Bounds& place, const std::string& text, Alignment alignment, bool showsData);
+
+    Alignment AlignmentUsed() const { return alignment_; }
+    bool ShowsData() const { return showsData_; }
+
+private:
+    Alignment alignment_;
+    bool showsData_ = false;
+};
+
+// A picture from the program's resources, by number, stretched over its place.
+class Picture : public Control {
+public:
+    Picture(Parent parent, const Bounds& place, int resource);
+
+    int Resource() const { return resource_; }
+
+private:
+    int resource_;
+};
+
+class Button : public Control {
+public:
+    Button(Parent parent, const Bounds& place, const std::string& caption);
+
+    std::function<void()> onClick;
+
+    void UserClicks();
+};
+
+class CheckBox : public Control {
+public:
+    CheckBox(Parent parent, const Bounds& place, const std::string& caption);
+
+    int Value() const { return value_; }  // 0 unchecked, 1 checked
+    void SetValue(int value);
+
+    std::function<void()> onClick;    // after the value has changed
+    std::function<void()> onMouseUp;  // after onClick, when it was the mouse or a key that changed the value
+
+    void UserClicks();  // changes the value
+
+private:
+    int value_ = 0;
+};
+
+class OptionGroup;
+
+// One of a group of which at most one is selected; its group knows which.
+class OptionButton : public Control {
+public:
+    OptionButton(Parent parent, OptionGroup& group, const Bounds& place, const std::string& caption);
+
+    OptionGroup& Group() const { return *group_; }
+    int Index() const { return index_; }  // in its group
+
+    void UserClicks();
+
+private:
+    OptionGroup* group_;
+    int index_;
+};
+
+// The buttons of one group, in creation order. Created before its buttons.
+class OptionGroup {
+public:
+    const std::vector<OptionButton*>& Buttons() const { return buttons_; }
+    int Selected() const { return selected_; }
+    void Select(int index);  // an index without a button selects nothing
+
+    std::function<void()> onClick;  // the player has selected a button
+
+private:
+    friend class OptionButton;
+    std::vector<OptionButton*> buttons_;
+    int selected_ = -1;
+};
+
+// One line of text to edit.
+class TextBox : public Control {
+public:
+    TextBox(Parent parent, const Bounds& place, const std::string& text = {});
+
+    bool IsMasked() const { return masked_; }
+    void SetMasked(bool masked);  // shows dots; copying is refused meanwhile
+    void SelectAll();
+    void PutCaretAtEnd();
+
+    // The caret's distance from the left edge of the box, in twips; 0 without a window.
+    int CaretLeft() const;
+
+    std::function<void()> onChange;          // the text has been edited
+    std::function<bool(char)> onKeyPress;    // a character typed; true swallows it
+
+    void UserEdits(const std::string& text);
+    bool UserTypes(char character);  // false: the window's own handling goes on
+
+private:
+    bool masked_ = false;
+};
+
+// One line of text that follows a mask: "9" is a digit or nothing, "&" any character, everything else stands as it is.
+// A mask of "9" only shows no prompts and holds up to so many digits. Any other mask shows "_" for an empty place.
+// SetText takes any text, mask or not: what a profile holds is never lost by showing it.
+class MaskedBox : public Control {
+public:
+    MaskedBox(Parent parent, const Bounds& place, const std::string& mask);
+
+    const std::string& Mask() const { return mask_; }
+    bool IsDigitsOnly() const;
+    void Clear();  // back to the empty mask
+
+    std::function<void()> onChange;
+    std::function<bool(char)> onKeyPress;  // true swallows the character
+
+    // What typing does: a character goes into the first free place at or after the caret, which moves on over the fixed
+    // characters; kBackspace and kDelete empty a place. Returns the new caret (0-based). For a digits-only mask it is
+    // used as the window's filter: only digits change anything.
+    static constexpr char kBackspace = 8;
+    static constexpr char kDelete = 127;
+    size_t UserTypes(char character, size_t caret);
+    size_t UserPastes(std::string_view text, size_t caret);
+    void UserEdits(const std::string& text);  // digits-only: the window's text after an edit
+
+private:
+    std::string mask_;
+};
+
+// A list that drops down, without an edit field.
+class ComboBox : public Control {
+public:
+    ComboBox(Parent parent, const Bounds& place);  // place: the closed box
+
+    const std::vector<std::string>& Items() const { return items_; }
+    void SetItems(std::vector<std::string> items);  // selects nothing
+    int ListIndex() const { return listIndex_; }
+    void SetListIndex(int index);  // an index outside the list selects nothing
+    std::string SelectedText() const;
+
+    std::function<void()> onClick;             // the player has selected another item
+    std::function<void(int)> onHighlight;      // the player moves through the open list, over this item
+
+    void UserSelects(int index);
+    void UserHighlights(int index);
+
+private:
+    std::vector<std::string> items_;
+    int listIndex_ = -1;
+};
+
+enum class ListStyle { Single, Extended };  // extended: many selected items, with Shift and Ctrl
+
+class ListBox : public Control {
+public:
+    ListBox(Parent parent, const Bounds& place, ListStyle style);
+
+    ListStyle Style() const { return style_; }
+    const std::vector<std::string>& Items() const { return items_; }
+    void SetItems(std::vector<std::string> items);  // selects nothing
+    void AddItem(const std::string& text);
+    void SetItem(int index, const std::string& text);
+    void RemoveSelected();
+
+    bool IsSelected(int index) const;
+    std::vector<int> SelectedItems() const;
+    void Select(int index, bool selected);
+    int ListIndex() const;         // style Single: the selected item
+    void SetListIndex(int index);  // style Single: selects it and scrolls to it
+
+    std::function<void()> onClick;          // the selection has changed
+    std::function<void()> onMouseUp;
+    std::function<bool(int)> onKeyDown;     // a key by its virtual code; true swallows it
+    std::function<bool(char)> onKeyPress;   // a character, Enter, Escape, Backspace and blank included
+
+    void UserSelects(const std::vector<int>& indexes);
+    void UserReleasesMouse();
+    bool UserPressesKey(int virtualKey);
+    bool UserTypes(char character);
+
+private:
+    ListStyle style_;
+    std::vector<std::string> items_;
+    std::vector<char> selected_;
+};
+
+// A box with a caption around other controls.
+class Frame : public Control {
+public:
+    Frame(Parent parent, const Bounds& place, const std::string& caption);
+
+    operator Parent() const;  // so that controls can be put into it, relative to its corner
+};
+
+class TabStrip;
+
+// One page of a tab strip. Its controls get their windows when it is first brought to the front.
+class TabPage : public Container {
+public:
+    TabPage(TabStrip& strip, const std::string& caption);
+
+    const std::string& Caption() const { return caption_; }
+    TabStrip& Strip() const { return *strip_; }
+    bool IsInFront() const;
+
+private:
+    TabStrip* strip_;
+    std::string caption_;
+};
+
+class TabStrip : public Control {
+public:
+    TabStrip(Parent parent, const Bounds& place);
+
+    const std::vector<TabPage*>& Pages() const { return pages_; }
+    int Tab() const { return tab_; }
+    void SetTab(int index);
+    Bounds PageArea() const;  // inside the strip, in its container's coordinates
+
+    std::function<void()> onClick;  // the player has turned to another page
+
+    void UserTurnsTo(int index);
+    void UserTurns(int steps);  // Ctrl+Tab 1, Ctrl+Shift+Tab -1; round the end
+
+private:
+    friend class TabPage;
+    std::vector<TabPage*> pages_;
+    int tab_ = 0;
+};
+
+// The pair of arrows beside a text box that holds a number. They stop at the bounds; a typed number outside of them is
+// kept as typed until an arrow is pressed.
+class UpDown : public Control {
+public:
+    UpDown(Parent parent, TextBox& buddy, int minimum, int maximum);
+
+    TextBox& Buddy() const { return *buddy_; }
+
+    void UserSpins(int steps);  // edits the text box as the player would
+
+private:
+    TextBox* buddy_;
+    int minimum_;
+    int maximum_;
+};
+
+// The bar at the lower edge of a form; its text is the first panel's.
+class StatusBar : public Control {
+public:
+    explicit StatusBar(Form& form);
+};
+
+}  // namespace quirn

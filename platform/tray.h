@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/form.h"
+
+namespace quirn {
+
+// The program's icon in the notification area. Mouse messages on it arrive through the form's window.
+class TrayIcon {
+public:
+    explicit TrayIcon(Form& form) : form_(&form) {}
+    ~TrayIcon() { Remove(); }
+    TrayIcon(const TrayIcon&) = delete;
+    TrayIcon& operator=(const TrayIcon&) = delete;
+
+    void Add();     // the form must be loaded; the icon comes back by itself when the shell restarts
+    void Remove();
+    bool IsThere() const { return there_; }
+    Form& Owner() const { return *form_; }
+
+    std::function<void(unsigned)> onMouse;  // a mouse message (WM_...) on the icon
+
+private:
+    Form* form_;
+    bool there_ = false;
+};
+
+inline constexpr unsigned kMouseLeftDown = 513, kMouseLeftDoubleClick = 515, kMouseRightDown = 516;
+
+}  // namespace quirn
