@@ -24,8 +24,15 @@ enum class Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
 // program's title.
 Answer ShowMessage(const std::string& text, unsigned style, const std::string& caption = {});
 
-// A common file dialog. Flags are the system's (OFN_...): read-only box hidden 4, overwrite prompt 2, path must exist
-// 0x800, file must exist 0x1000.
+// The flags of a common file dialog, added up. The numbers are the system's (OFN_...).
+enum FileDialogFlags : unsigned {
+    kOverwritePrompt = 2,
+    kHideReadOnly = 4,
+    kPathMustExist = 0x800,
+    kFileMustExist = 0x1000,
+};
+
+// A common file dialog.
 struct FileDialog {
     std::string title;
     std::string filter;   // "All Files (*.*)|*.*|QRN Files (*.qrn)|*.qrn"

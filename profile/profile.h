@@ -25,9 +25,16 @@ struct Section {
 };
 
 // Indexes of the settings that the program treats one by one.
-inline constexpr int kMacroCount = 16;  // Messages 1..16: ShiftF1..ShiftF8, RShiftF1..RShiftF8
-inline constexpr int kSkipSplash = 1;   // Advanced
-inline constexpr int kGammaPercent = 2;  // Advanced
+// clang-format off
+inline constexpr int kPlayerName = 1, kPlayerPassword = 2, kServerName = 3, kServerPort = 4, kServerArena = 5,
+                     kProxyIP = 6, kPlayerShipType = 7;                                           // Dialog
+inline constexpr int kMacroCount = 16;  // ShiftF1..ShiftF8, RShiftF1..RShiftF8 from index 1         Messages
+inline constexpr int kChatName = 17;                                                              // Messages
+inline constexpr int kResolutionX = 9, kResolutionY = 10, kMessageHistorySize = 13, kTargetBounty = 14,
+                     kMusicVolume = 37, kMessageNameLen = 38;                                     // Options
+inline constexpr int kSkipSplash = 1, kGammaPercent = 2;                                          // Advanced
+inline constexpr int kForce60 = 1, kShowFrameRate = 2, kFlickSystemMemory = 3;                    // HiddenOptions
+// clang-format on
 
 // The settings catalogue and the current profile in one record.
 struct Profile {

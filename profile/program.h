@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "profile/document.h"
 #include "profile/profile.h"
 
 namespace quirn {
@@ -26,10 +27,11 @@ struct Program {
     std::string gameFolder;  // of subspace.exe, or kNotSet
     std::string qrnFolder;   // where profiles are looked for
     std::string helpFile;
-    bool quiet = false;   // start hidden in the tray
-    bool dirty = false;   // the profile has changes that no QRN file holds
-    bool ending = false;  // the main window has been unloaded
-    std::array<std::string, 5> recentFiles;  // the most recent first; an empty text is an unused slot
+    bool quiet = false;                          // start hidden in the tray
+    std::string CurrentFile = kCurrentSettings;  // of the profile: a full path, or a name in "<>" when it has no file
+    bool dirty = false;                          // the profile has changes that no QRN file holds
+    bool ending = false;                         // the main window has been unloaded
+    RecentFiles recentFiles;                     // the most recent first; an empty text is an unused slot
     std::array<Favourite, 5> favourites;
 };
 

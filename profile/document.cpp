@@ -1,0 +1,37 @@
+#include "profile/document.h"
+
+#include <algorithm>
+
+#include "platform/text.h"
+#include "profile/splitpath.h"
+
+namespace quirn {
+
+std::string DocumentTitle(const std::string& baseTitle, const std::string& file) {
+    return baseTitle + " - " + (IsUntitled(file) ? file : SplitPath(file).File());
+}
+
+std::string SaveAsName(const std::string& file) {
+    return IsUntitled(file) ? "untitled.qrn" : SplitPath(file).File();
+}
+
+void AddRecentFile(RecentFiles& files, std::string path) {
+    // The last of several equal entries moves, on purpose.
+    const auto found =
+        std::find_if(files.rbegin(), files.rend(), [&](const std::string& entry) { return EqualNoCase(entry, path); });
+    const auto last = found == files.rend() ? files.end() : found.base();
+    std::move_backward(files.begin(), last - 1, last);
+    files[0] = std::move(path);
+}
+
+std::string RecentFileCaption(size_t index, const std::string& path) {
+    return "&" + std::to_string(index + 1) + " " + path;
+}
+
+void ResetProfile(Profile& profile) {
+    for (std::string& text : profile.Messages.values) text.clear();
+    for (const int index : {kPlayerName, kPlayerPassword, kProxyIP}) profile.Dialog.Value(index).clear();
+    profile.WaveFiles.fill(kNotSet);
+}
+
+}  // namespace quirn

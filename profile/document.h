@@ -1,0 +1,38 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "profile/profile.h"
+
+// The profile as a document: its name, and the list of the files used last.
+namespace quirn {
+
+// Names of profiles that have no file yet. Any name that begins with "<" counts as such.
+inline constexpr char kUntitled[] = "<untitled.qrn>";
+inline constexpr char kCurrentSettings[] = "<current SS settings>";  // read from the game
+
+inline bool IsUntitled(const std::string& file) {
+    return file.starts_with('<');
+}
+
+// The main window's title: base title, " - ", and the file without its folder.
+std::string DocumentTitle(const std::string& baseTitle, const std::string& file);
+
+// The name that Save As offers.
+std::string SaveAsName(const std::string& file);
+
+using RecentFiles = std::array<std::string, 5>;
+
+// Puts a path at the top of the list, in this spelling; an entry that equals it in any case moves up, else the oldest
+// drops out.
+void AddRecentFile(RecentFiles& files, std::string path);
+
+// The menu caption of an entry, index from 0: "&1 C:\profiles\ace.qrn".
+std::string RecentFileCaption(size_t index, const std::string& path);
+
+// What New clears: macros, chat name, player, proxy and wave files. All other settings and the ignore list stay, so a
+// new profile starts from the game's current settings.
+void ResetProfile(Profile& profile);
+
+}  // namespace quirn
