@@ -1,21 +1,44 @@
 #include "platform/control.h"
 
+#include "platform/controls.h"
+#include "platform/form.h"
 #include "platform/native.h"
 
 namespace quirn {
 
-Control::Control(Container& container, ControlKind kind, const Bounds& place, const std::string& text)
-    : container_(container), kind_(kind), place_(place), text_(text) {
-    container.controls_.push_back(this);
+Control::Control(Parent parent, ControlKind kind, const Bounds& place, const std::string& text)
+    : text_(text), container_(parent.container), kind_(kind), place_(place) {
+    place_.left += parent.left;
+    place_.top += parent.top;
+    container_->controls_.push_back(this);
 }
 
 Control::~Control() {
+    if (HasFocus()) container_->Owner().FocusMoved(nullptr);
     if (window != nullptr) native::DestroyControl(*this);
-    std::erase(container_.controls_, this);
+    std::erase(container_->controls_, this);
 }
 
 void Control::Changed(Aspect aspect) {
     if (window != nullptr) native::ControlChanged(*this, aspect);
+}
+
+bool Control::HasFocus() const {
+    return container_->Owner().ActiveControl() == this;
+}
+
+bool Control::CanFocus() const {
+    switch (kind_) {
+        case ControlKind::Label:
+        case ControlKind::Picture:
+        case ControlKind::Frame:
+        case ControlKind::UpDown:
+        case ControlKind::StatusBar: return false;
+        default: break;
+    }
+    if (!enabled_ || !visible_) return false;
+    const TabPage* page = PageOf(*container_);
+    return page == nullptr || page->IsInFront();
 }
 
 void Control::SetText(const std::string& text) {
@@ -25,16 +48,22 @@ void Control::SetText(const std::string& text) {
 }
 
 void Control::SetEnabled(bool enabled) {
+    if (enabled == enabled_) return;
     enabled_ = enabled;
+    // First, since the system leaves the keyboard with a window that can no longer use it.
+    if (!enabled && HasFocus()) container_->Owner().FocusNext(this);
     Changed(Aspect::Enabled);
 }
 
 void Control::SetVisible(bool visible) {
+    if (visible == visible_) return;
     visible_ = visible;
-    Changed(Aspect::Visible);
+    if (!visible && HasFocus()) container_->Owner().FocusNext(this);
+    if (window != nullptr || container_->window != nullptr) native::ControlChanged(*this, Aspect::Visible);
 }
 
 void Control::Move(const Bounds& place) {
+    if (place == place_) return;
     place_ = place;
     Changed(Aspect::Place);
 }
@@ -47,6 +76,28 @@ void Control::SetFont(const Font& font) {
 void Control::SetForeColor(Color color) {
     foreColor_ = color;
     Changed(Aspect::Colors);
+}
+
+void Control::SetToolTip(const std::string& text) {
+    toolTip_ = text;
+    Changed(Aspect::ToolTip);
+}
+
+void Control::SetFocus() {
+    if (!CanFocus()) return;
+    Form& form = container_->Owner();
+    if (form.Visible()) native::FocusControl(*this);
+    else form.FocusMoved(this);
+}
+
+void Control::UserFocuses(bool focused) {
+    Form& form = container_->Owner();
+    Control* const before = form.ActiveControl();
+    if (focused == (before == this)) return;
+    if (focused && before != nullptr) before->UserFocuses(false);
+    form.FocusMoved(focused ? this : nullptr);
+    const auto& handler = focused ? onGotFocus : onLostFocus;
+    if (handler) CallHandler(handler);
 }
 
 }  // namespace quirn

@@ -46,7 +46,7 @@ class Control;
 class Form;
 
 // The parts of a control's (or form's) state that its window has to be told about.
-enum class Aspect { Text, Enabled, Visible, Place, Colors, Font, Value, Items, Selection, Caret, ToolTip };
+enum class Aspect { Text, Enabled, Visible, Place, Colors, Font, Value, Items, Selection, ToolTip };
 
 enum class ControlKind {
     Label,
@@ -112,7 +112,8 @@ public:
     const Font& FontUsed() const { return font_; }
     std::optional<Color> ForeColor() const { return foreColor_; }
     const std::string& ToolTip() const { return toolTip_; }
-    bool HasFocus() const;  // the keyboard goes to it
+    bool HasFocus() const;  // the keyboard goes to it, or will when its form is in front again
+    bool CanFocus() const;  // of a kind that takes the keyboard, enabled, visible, and on a page that is in front
 
     void SetText(const std::string& text);
     void SetEnabled(bool enabled);
@@ -121,7 +122,9 @@ public:
     void SetFont(const Font& font);
     void SetForeColor(Color color);
     void SetToolTip(const std::string& text);
-    void SetFocus();  // on a page that is not in front it does nothing
+    // Does nothing while it cannot have the focus. Calls onLostFocus of the old one, then onGotFocus. Before its form is
+    // shown it says where the focus will be, and calls nobody.
+    void SetFocus();
 
     std::string Tag;  // free for the form's use
 

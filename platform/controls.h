@@ -80,6 +80,7 @@ public:
     void UserClicks();
 
 private:
+    friend class OptionGroup;
     OptionGroup* group_;
     int index_;
 };
@@ -136,16 +137,21 @@ public:
     std::function<void()> onChange;
     std::function<bool(char)> onKeyPress;  // true swallows the character
 
-    // What typing does: a character goes into the first free place at or after the caret, which moves on over the fixed
-    // characters; kBackspace and kDelete empty a place. Returns the new caret (0-based). For a digits-only mask it is
-    // used as the window's filter: only digits change anything.
+    // What typing does: a character goes into the first place (no fixed character) at or after the caret, over what
+    // stands there, and the caret moves on over the fixed characters; kBackspace and kDelete empty a place. Returns the
+    // new caret (0-based). With a digits-only mask digits are inserted and removed; nothing else changes anything.
     static constexpr char kBackspace = 8;
     static constexpr char kDelete = 127;
     size_t UserTypes(char character, size_t caret);
     size_t UserPastes(std::string_view text, size_t caret);
-    void UserEdits(const std::string& text);  // digits-only: the window's text after an edit
+    size_t UserClears(size_t from, size_t to);  // removes a selection
+    void UserEdits(const std::string& text);    // the window's text after any other edit
 
 private:
+    std::string EmptyText() const;
+    size_t NextPlace(size_t at) const;
+    bool Empty(size_t from, size_t to);
+    bool Put(char character, size_t& caret);
     std::string mask_;
 };
 
@@ -230,8 +236,13 @@ private:
     std::string caption_;
 };
 
+// A container as the page that it is; null when it is a form.
+TabPage* PageOf(Container& container);
+
 class TabStrip : public Control {
 public:
+    static constexpr int kTabHeight = 300;
+
     TabStrip(Parent parent, const Bounds& place);
 
     const std::vector<TabPage*>& Pages() const { return pages_; }

@@ -1,7 +1,9 @@
 #include "platform/form.h"
 
+#include <algorithm>
 #include <exception>
 #include <new>
+#include <utility>
 
 #include "platform/dialogs.h"
 #include "platform/native.h"
@@ -9,7 +11,14 @@
 
 namespace quirn {
 
-Form::Form(FormBorder border, int width, int height) : border_(border), place_{0, 0, width, height} {}
+namespace {
+
+constexpr int kFrameGuess = 90;     // both sides together
+constexpr int kCaptionGuess = 375;  // with the frame above and below
+
+}  // namespace
+
+Form::Form(FormBorder border, int width, int height) : Container(*this), border_(border), place_{0, 0, width, height} {}
 
 Form::~Form() {
     if (loaded_) native::DestroyForm(*this);
@@ -26,6 +35,27 @@ void Form::Move(const Bounds& place) {
     if (loaded_) native::FormChanged(*this, Aspect::Place);
 }
 
+int Form::InnerWidth() const {
+    return loaded_ ? native::InnerSize(*this).width : place_.width - kFrameGuess;
+}
+
+int Form::InnerHeight() const {
+    return loaded_ ? native::InnerSize(*this).height : place_.height - kCaptionGuess;
+}
+
+void Form::SetMenu(Menu& menu, std::vector<Shortcut> shortcuts) {
+    menu_ = &menu;
+    shortcuts_ = std::move(shortcuts);
+    menu.onChanged = [this] {
+        if (loaded_) native::MenuChanged(*this);
+    };
+}
+
+void Form::SetButtons(Button* defaultButton, Button* cancelButton) {
+    defaultButton_ = defaultButton;
+    cancelButton_ = cancelButton;
+}
+
 void Form::Load() {
     if (loaded_) return;
     loaded_ = true;
@@ -36,7 +66,14 @@ void Form::Load() {
 
 void Form::Show() {
     Load();
-    if (loaded_) native::ShowForm(*this, true);
+    if (!loaded_) return;
+    native::ShowForm(*this, true);
+    if (active_ == nullptr) FocusNext(nullptr);
+}
+
+void Form::ShowModal(Form& owner) {
+    Load();
+    if (loaded_) native::RunModal(*this, owner);
 }
 
 void Form::Hide() {
@@ -58,8 +95,14 @@ bool Form::Unload(UnloadMode mode) {
     if (!loaded_) return true;  // a handler unloaded it
     loaded_ = false;
     visible_ = false;
+    minimized_ = false;
+    active_ = nullptr;
     native::DestroyForm(*this);
     return true;
+}
+
+void Form::PopUpMenu(Menu& menu, int defaultCommand) {
+    if (loaded_) native::PopUpMenu(*this, menu, defaultCommand);
 }
 
 void Form::UserCloses(UnloadMode mode) {
@@ -68,6 +111,59 @@ void Form::UserCloses(UnloadMode mode) {
 
 void Form::UserTypes(char character) {
     if (onKeyPress) CallHandler([this, character] { onKeyPress(character); });
+}
+
+void Form::UserPressesEnter() {
+    const bool onButton = active_ != nullptr && active_->Kind() == ControlKind::Button;
+    Button* const button = onButton ? static_cast<Button*>(active_) : defaultButton_;
+    if (button != nullptr && button->Visible()) button->UserClicks();
+}
+
+void Form::UserPressesEscape() {
+    if (cancelButton_ != nullptr && cancelButton_->Visible()) cancelButton_->UserClicks();
+}
+
+bool Form::UserPressesShortcut(int key, bool control) {
+    const auto found = std::find_if(shortcuts_.begin(), shortcuts_.end(), [&](const Shortcut& shortcut) {
+        return shortcut.key == key && shortcut.control == control;
+    });
+    if (found == shortcuts_.end()) return false;
+    menu_->UserChooses(found->command);
+    return true;
+}
+
+bool Form::UserTurnsPage(int steps) {
+    for (Control* control : Controls()) {
+        if (control->Kind() != ControlKind::TabStrip || !control->Visible()) continue;
+        static_cast<TabStrip*>(control)->UserTurns(steps);
+        return true;
+    }
+    return false;
+}
+
+void Form::WindowResized() {
+    if (loaded_ && onResize) CallHandler(onResize);
+}
+
+// The controls of a page come before their strip.
+std::vector<Control*> Form::TabOrder() const {
+    std::vector<Control*> order;
+    for (Control* control : Controls()) {
+        if (control->Kind() == ControlKind::TabStrip)
+            for (const TabPage* page : static_cast<TabStrip*>(control)->Pages())
+                order.insert(order.end(), page->Controls().begin(), page->Controls().end());
+        order.push_back(control);
+    }
+    return order;
+}
+
+void Form::FocusNext(const Control* after) {
+    std::vector<Control*> order = TabOrder();
+    const auto at = std::find(order.begin(), order.end(), after);
+    if (at != order.end()) std::rotate(order.begin(), at + 1, order.end());
+    const auto next = std::find_if(order.begin(), order.end(), [](Control* control) { return control->CanFocus(); });
+    if (next != order.end()) (*next)->SetFocus();
+    else if (active_ != nullptr) active_->UserFocuses(false);
 }
 
 Timer::~Timer() {

@@ -95,6 +95,9 @@ public:
     void UserTypes(char character);
     void UserPressesEnter();
     void UserPressesEscape();
+    bool UserPressesShortcut(int key, bool control);  // false: it is none
+    bool UserTurnsPage(int steps);                    // of the first tab strip; false: there is none
+    void FocusNext(const Control* after);             // the first that can have it, in tab order and round the end
     void WindowMoved(const Bounds& place) { place_ = place; }
     void WindowResized();
     void WindowShown(bool visible) { visible_ = visible; }
@@ -102,6 +105,8 @@ public:
     void FocusMoved(Control* control) { active_ = control; }
 
 private:
+    std::vector<Control*> TabOrder() const;
+
     FormBorder border_;
     Bounds place_;
     bool placeIsSet_ = false;

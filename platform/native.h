@@ -1,21 +1,43 @@
 #pragma once
 
 #include "platform/control.h"
+#include "platform/controls.h"
 #include "platform/form.h"
+#include "platform/tray.h"
 
-// What the two back ends implement for forms and controls. Only control.cpp and form.cpp call these.
+// What the two back ends implement for forms, controls, menus and the tray. Only the portable part of platform/ calls
+// these. A form is loaded when they are called.
 namespace quirn::native {
 
-// Makes a hidden window with a window for each visible control, from the form's state; sets form.window.
+// Makes a hidden window from the form's state; sets form.window. The windows of its controls come with the first
+// ShowForm, those of a page when it is first in front, that of a hidden control when it is first made visible.
 void CreateForm(Form& form);
-void DestroyForm(Form& form);  // also resets the window pointers of its controls
+void DestroyForm(Form& form);  // also resets the window pointers of its controls and pages
 void FormChanged(Form& form, Aspect aspect);
 void ShowForm(Form& form, bool visible);
+void RunModal(Form& form, Form& owner);  // shows it and returns when it is unloaded or hidden
 void BringToFront(Form& form);
 void Repaint(Form& form);
 
-void DestroyControl(Control& control);
+struct Size {
+    int width;
+    int height;
+};
+Size InnerSize(const Form& form);
+
+void MenuChanged(Form& form);  // the rows of its menu bar
+void PopUpMenu(Form& form, Menu& menu, int defaultCommand);
+
+// Aspect::Visible also comes for a control that has no window yet. The value of a tab strip is its page in front.
 void ControlChanged(Control& control, Aspect aspect);
+void DestroyControl(Control& control);
+void FocusControl(Control& control);  // its form has been shown
+void SelectAll(TextBox& box);
+void PutCaretAtEnd(TextBox& box);
+int CaretLeft(const TextBox& box);
+
+void AddTrayIcon(TrayIcon& icon);
+void RemoveTrayIcon(TrayIcon& icon);
 
 void StartTimer(Timer& timer);  // or starts it anew
 void StopTimer(Timer& timer);

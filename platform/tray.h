@@ -21,6 +21,8 @@ public:
 
     std::function<void(unsigned)> onMouse;  // a mouse message (WM_...) on the icon
 
+    void UserPoints(unsigned mouseMessage);  // for the back end
+
 private:
     Form* form_;
     bool there_ = false;

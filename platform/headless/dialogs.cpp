@@ -21,6 +21,36 @@ std::function<void(const std::string&)>& Report() {
     return report;
 }
 
+struct ExpectedFile {
+    bool save;
+    std::string title;
+    std::optional<std::string> answer;
+};
+
+std::deque<ExpectedFile>& ExpectedFiles() {
+    static std::deque<ExpectedFile> expected;
+    return expected;
+}
+
+FileDialog& Last() {
+    static FileDialog last;
+    return last;
+}
+
+std::optional<std::string> AnswerFile(bool save, const FileDialog& dialog) {
+    Last() = dialog;
+    auto& expected = ExpectedFiles();
+    if (expected.empty() || expected.front().save != save ||
+        (!expected.front().title.empty() && expected.front().title != dialog.title)) {
+        ReportFailure(std::string("unexpected dialog to ") + (save ? "save" : "open") + " a file, titled \"" +
+                      dialog.title + "\"");
+        return std::nullopt;
+    }
+    const std::optional<std::string> answer = expected.front().answer;
+    expected.pop_front();
+    return answer;
+}
+
 std::string Describe(const MessageBox& box) {
     return "\"" + box.text + "\" (style " + std::to_string(box.style) + ", caption \"" + box.caption + "\")";
 }
@@ -36,6 +66,28 @@ std::vector<MessageBox> TakeMissingBoxes() {
     std::vector<MessageBox> missing(Expected().begin(), Expected().end());
     Expected().clear();
     return missing;
+}
+
+void ExpectOpenFile(const std::string& title, std::optional<std::string> answer) {
+    ExpectedFiles().push_back({false, title, std::move(answer)});
+}
+
+void ExpectSaveFile(const std::string& title, std::optional<std::string> answer) {
+    ExpectedFiles().push_back({true, title, std::move(answer)});
+}
+
+size_t TakeMissingFileDialogs() {
+    const size_t missing = ExpectedFiles().size();
+    ExpectedFiles().clear();
+    return missing;
+}
+
+const FileDialog& LastFileDialog() {
+    return Last();
+}
+
+void ReportFailure(const std::string& text) {
+    Report()(text);
 }
 
 void SetDialogFailureReport(std::function<void(const std::string&)> report) {
@@ -56,6 +108,14 @@ Answer ShowMessage(const std::string& text, unsigned style, const std::string& c
     const Answer answer = expected.front().answer;
     expected.pop_front();
     return answer;
+}
+
+std::optional<std::string> AskOpenFile(const FileDialog& dialog) {
+    return headless::AnswerFile(false, dialog);
+}
+
+std::optional<std::string> AskSaveFile(const FileDialog& dialog) {
+    return headless::AnswerFile(true, dialog);
 }
 
 }  // namespace quirn

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,7 +23,21 @@ void ExpectMessageBox(MessageBox box);
 // The boxes that were expected and have not come; forgets them.
 std::vector<MessageBox> TakeMissingBoxes();
 
-// Told about each box that was not the next expected one. Such a box is answered with Cancel.
+// The next file dialog to open or to save is answered so; nothing means that the player cancels. An empty title fits
+// any title.
+void ExpectOpenFile(const std::string& title, std::optional<std::string> answer);
+void ExpectSaveFile(const std::string& title, std::optional<std::string> answer);
+
+// How many expected file dialogs have not come; forgets them.
+size_t TakeMissingFileDialogs();
+
+// What the last file dialog was asked for.
+const FileDialog& LastFileDialog();
+
+// A test fails with this text.
+void ReportFailure(const std::string& text);
+
+// Told about each box or dialog that was not the next expected one. Such a one is answered with Cancel.
 void SetDialogFailureReport(std::function<void(const std::string&)> report);
 
 }  // namespace quirn::headless

@@ -4,7 +4,9 @@
 #include <utility>
 #include <vector>
 
+#include "platform/headless/dialogs.h"
 #include "platform/headless/events.h"
+#include "platform/headless/headless.h"
 #include "platform/native.h"
 
 // Forms without windows: all their state is in the portable part. Time is counted, not waited for: it moves on only
@@ -30,7 +32,8 @@ std::vector<PostedTask> tasks;
 
 // Runs the earliest task or timer that is due, if any.
 bool RunOne() {
-    const auto task = std::min_element(tasks.begin(), tasks.end(), [](const auto& a, const auto& b) { return a.due < b.due; });
+    const auto task =
+        std::min_element(tasks.begin(), tasks.end(), [](const auto& a, const auto& b) { return a.due < b.due; });
     const auto timer =
         std::min_element(timers.begin(), timers.end(), [](const auto& a, const auto& b) { return a.due < b.due; });
     if (task != tasks.end() && task->due <= now && (timer == timers.end() || task->due <= timer->due)) {
@@ -47,6 +50,29 @@ bool RunOne() {
     return false;
 }
 
+// What a frame takes of a form, in twips.
+constexpr int kFrame = 90;
+constexpr int kCaption = 285;
+constexpr int kMenu = 285;
+
+template <class Visit>
+void ForEachControl(Form& form, Visit visit) {
+    for (Control* control : form.Controls()) {
+        visit(*control);
+        if (control->Kind() != ControlKind::TabStrip) continue;
+        for (TabPage* page : static_cast<TabStrip*>(control)->Pages())
+            for (Control* inPage : page->Controls()) visit(*inPage);
+    }
+}
+
+// A window of the same life as on Windows: there from the first moment that the control is seen.
+void MakeWindow(Control& control) {
+    TabPage* const page = PageOf(control.Holder());
+    if (!control.Visible() || (page != nullptr && !page->IsInFront())) return;
+    control.window = &control;
+    if (page != nullptr) page->window = page;
+}
+
 }  // namespace
 
 namespace headless {
@@ -57,9 +83,13 @@ void ResetEvents() {
     tasks.clear();
 }
 
-void PostAfter(int milliseconds, std::function<void()> task) { tasks.push_back({now + milliseconds, std::move(task)}); }
+void PostAfter(int milliseconds, std::function<void()> task) {
+    tasks.push_back({now + milliseconds, std::move(task)});
+}
 
-long Now() { return now; }
+long Now() {
+    return now;
+}
 
 }  // namespace headless
 
@@ -84,21 +114,78 @@ namespace native {
 void CreateForm(Form& form) {
     ++loadedForms;
     form.window = &form;
-    for (Control* control : form.Controls()) control->window = control;
 }
 
 void DestroyForm(Form& form) {
     --loadedForms;
     form.window = nullptr;
-    for (Control* control : form.Controls()) control->window = nullptr;
+    ForEachControl(form, [](Control& control) {
+        control.window = nullptr;
+        control.Holder().window = nullptr;
+    });
 }
 
 void FormChanged(Form&, Aspect) {}
-void ShowForm(Form& form, bool visible) { form.WindowShown(visible); }
-void BringToFront(Form& form) { form.WindowMinimized(false); }
+
+void ShowForm(Form& form, bool visible) {
+    if (visible) ForEachControl(form, MakeWindow);
+    form.WindowShown(visible);
+}
+
+void RunModal(Form& form, Form&) {
+    form.Show();
+    while (form.IsLoaded() && form.Visible()) {
+        if (tasks.empty() && timers.empty()) {
+            headless::ReportFailure("the modal form \"" + form.Caption() + "\" was left open");
+            form.Hide();
+            return;
+        }
+        WaitForEvents(1);
+    }
+}
+
+void BringToFront(Form& form) {
+    form.WindowMinimized(false);
+}
 void Repaint(Form&) {}
-void DestroyControl(Control& control) { control.window = nullptr; }
-void ControlChanged(Control&, Aspect) {}
+
+Size InnerSize(const Form& form) {
+    const int frame = form.Border() == FormBorder::None ? 0 : kFrame;
+    const int above = (form.Border() == FormBorder::None ? 0 : kCaption) + (form.MenuBar() != nullptr ? kMenu : 0);
+    return {form.Place().width - frame, form.Place().height - frame - above};
+}
+
+void MenuChanged(Form&) {}
+
+void PopUpMenu(Form&, Menu& menu, int defaultCommand) {
+    headless::TheWorld().poppedUpMenus.push_back({&menu, defaultCommand});
+}
+
+void ControlChanged(Control& control, Aspect aspect) {
+    if (aspect == Aspect::Visible) MakeWindow(control);
+    if (control.Kind() == ControlKind::TabStrip && aspect == Aspect::Value)
+        ForEachControl(control.Holder().Owner(), MakeWindow);
+}
+
+void DestroyControl(Control& control) {
+    control.window = nullptr;
+}
+void FocusControl(Control& control) {
+    control.UserFocuses(true);
+}
+void SelectAll(TextBox&) {}
+void PutCaretAtEnd(TextBox&) {}
+int CaretLeft(const TextBox&) {
+    return 0;
+}
+
+void AddTrayIcon(TrayIcon& icon) {
+    headless::TheWorld().trayIcons.push_back(&icon);
+}
+
+void RemoveTrayIcon(TrayIcon& icon) {
+    std::erase(headless::TheWorld().trayIcons, &icon);
+}
 
 void StopTimer(Timer& timer) {
     std::erase_if(timers, [&](const RunningTimer& running) { return running.timer == &timer; });

@@ -12,7 +12,12 @@
 #include "platform/text.h"
 
 // The in-memory back end's world: what a test may set up before and look at after.
-namespace quirn::headless {
+namespace quirn {
+
+class Menu;
+class TrayIcon;
+
+namespace headless {
 
 struct File {
     std::string bytes;
@@ -35,6 +40,11 @@ struct TopLevelWindow {
     bool shownNormal = false;
 };
 
+struct PoppedUpMenu {
+    Menu* menu;
+    int defaultCommand;
+};
+
 struct World {
     // Files and folders by their absolute path; a folder's has no "\" at its end, a drive's root is "C:".
     std::map<std::string, File, LessNoCase> files;
@@ -51,6 +61,12 @@ struct World {
     bool programsFailToStart = false;                                  // for programs that exist; others never start
     std::vector<std::pair<std::string, std::string>> startedPrograms;  // program, folder
     std::vector<std::string> playedSounds;
+
+    std::vector<std::string> openedTargets;  // by their registered programs
+    std::vector<std::string> shownHelp;      // help files
+    bool shellFails = false;                 // for both
+    std::vector<TrayIcon*> trayIcons;
+    std::vector<PoppedUpMenu> poppedUpMenus;  // a test chooses with UserChooses afterwards
 
     std::vector<TopLevelWindow> windows;   // from front to back; a handle is an index + 1
     std::optional<size_t> broughtToFront;  // index of the window
@@ -72,4 +88,6 @@ File* FindFile(const std::string& path);
 // Gives a file new content. False when the disk is full; the file then holds what had room.
 bool Store(File& file, std::string_view bytes);
 
-}  // namespace quirn::headless
+}  // namespace headless
+
+}  // namespace quirn

@@ -1,0 +1,298 @@
+#include "platform/controls.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "platform/form.h"
+#include "platform/native.h"
+#include "platform/text.h"
+
+namespace quirn {
+
+namespace {
+
+void Call(const std::function<void()>& handler) {
+    if (handler) CallHandler(handler);
+}
+
+// Asks a handler whether it takes a character or key for itself.
+template <class Key>
+bool Ask(const std::function<bool(Key)>& handler, Key key) {
+    bool swallowed = false;
+    if (handler) CallHandler([&] { swallowed = handler(key); });
+    return swallowed;
+}
+
+int IndexIn(const std::vector<std::string>& items, int index) {
+    return index >= 0 && index < static_cast<int>(items.size()) ? index : -1;
+}
+
+}  // namespace
+
+Label::Label(Parent parent, const Bounds& place, const std::string& text, Alignment alignment)
+    : Label(parent, place, text, alignment, false) {}
+
+Label::Label(Parent parent, const Bounds& place, const std::string& text, Alignment alignment, bool showsData)
+    : Control(parent, ControlKind::Label, place, text), alignment_(alignment), showsData_(showsData) {}
+
+Picture::Picture(Parent parent, const Bounds& place, int resource)
+    : Control(parent, ControlKind::Picture, place, {}), resource_(resource) {}
+
+Frame::Frame(Parent parent, const Bounds& place, const std::string& caption)
+    : Control(parent, ControlKind::Frame, place, caption) {}
+
+Frame::operator Parent() const {
+    return {Holder(), Place().left, Place().top};
+}
+
+Button::Button(Parent parent, const Bounds& place, const std::string& caption)
+    : Control(parent, ControlKind::Button, place, caption) {}
+
+void Button::UserClicks() {
+    if (Enabled()) Call(onClick);
+}
+
+CheckBox::CheckBox(Parent parent, const Bounds& place, const std::string& caption)
+    : Control(parent, ControlKind::CheckBox, place, caption) {}
+
+void CheckBox::SetValue(int value) {
+    value_ = value != 0 ? 1 : 0;
+    Changed(Aspect::Value);
+}
+
+void CheckBox::UserClicks() {
+    if (!Enabled()) return;
+    SetValue(1 - value_);
+    Call(onClick);
+    Call(onMouseUp);
+}
+
+OptionButton::OptionButton(Parent parent, OptionGroup& group, const Bounds& place, const std::string& caption)
+    : Control(parent, ControlKind::OptionButton, place, caption),
+      group_(&group),
+      index_(static_cast<int>(group.buttons_.size())) {
+    group.buttons_.push_back(this);
+}
+
+void OptionButton::UserClicks() {
+    if (!Enabled() || group_->Selected() == index_) return;
+    group_->Select(index_);
+    Call(group_->onClick);
+}
+
+void OptionGroup::Select(int index) {
+    selected_ = index >= 0 && index < static_cast<int>(buttons_.size()) ? index : -1;
+    for (OptionButton* button : buttons_) button->Changed(Aspect::Value);
+}
+
+TextBox::TextBox(Parent parent, const Bounds& place, const std::string& text)
+    : Control(parent, ControlKind::TextBox, place, text) {}
+
+void TextBox::SetMasked(bool masked) {
+    masked_ = masked;
+    Changed(Aspect::Value);
+}
+
+void TextBox::SelectAll() {
+    if (window != nullptr) native::SelectAll(*this);
+}
+
+void TextBox::PutCaretAtEnd() {
+    if (window != nullptr) native::PutCaretAtEnd(*this);
+}
+
+int TextBox::CaretLeft() const {
+    return window != nullptr ? native::CaretLeft(*this) : 0;
+}
+
+void TextBox::UserEdits(const std::string& text) {
+    if (text == text_) return;
+    text_ = text;
+    Changed(Aspect::Text);
+    Call(onChange);
+}
+
+bool TextBox::UserTypes(char character) {
+    return Ask(onKeyPress, character);
+}
+
+ComboBox::ComboBox(Parent parent, const Bounds& place) : Control(parent, ControlKind::ComboBox, place, {}) {}
+
+void ComboBox::SetItems(std::vector<std::string> items) {
+    items_ = std::move(items);
+    listIndex_ = -1;
+    Changed(Aspect::Items);
+}
+
+void ComboBox::SetListIndex(int index) {
+    listIndex_ = IndexIn(items_, index);
+    Changed(Aspect::Selection);
+}
+
+std::string ComboBox::SelectedText() const {
+    return listIndex_ < 0 ? std::string() : items_[static_cast<size_t>(listIndex_)];
+}
+
+void ComboBox::UserSelects(int index) {
+    if (IndexIn(items_, index) < 0 || index == listIndex_) return;
+    SetListIndex(index);
+    Call(onClick);
+}
+
+void ComboBox::UserHighlights(int index) {
+    if (onHighlight) CallHandler([&] { onHighlight(IndexIn(items_, index)); });
+}
+
+ListBox::ListBox(Parent parent, const Bounds& place, ListStyle style)
+    : Control(parent, ControlKind::ListBox, place, {}), style_(style) {}
+
+void ListBox::SetItems(std::vector<std::string> items) {
+    items_ = std::move(items);
+    selected_.assign(items_.size(), false);
+    Changed(Aspect::Items);
+}
+
+void ListBox::AddItem(const std::string& text) {
+    items_.push_back(text);
+    selected_.push_back(false);
+    Changed(Aspect::Items);
+}
+
+void ListBox::SetItem(int index, const std::string& text) {
+    if (IndexIn(items_, index) < 0) return;
+    items_[static_cast<size_t>(index)] = text;
+    Changed(Aspect::Items);
+}
+
+void ListBox::RemoveSelected() {
+    size_t kept = 0;
+    for (size_t i = 0; i < items_.size(); ++i)
+        if (!selected_[i]) std::swap(items_[kept++], items_[i]);
+    items_.resize(kept);
+    selected_.assign(kept, false);
+    Changed(Aspect::Items);
+}
+
+bool ListBox::IsSelected(int index) const {
+    return IndexIn(items_, index) >= 0 && selected_[static_cast<size_t>(index)];
+}
+
+std::vector<int> ListBox::SelectedItems() const {
+    std::vector<int> indexes;
+    for (int i = 0; i < static_cast<int>(items_.size()); ++i)
+        if (IsSelected(i)) indexes.push_back(i);
+    return indexes;
+}
+
+void ListBox::Select(int index, bool selected) {
+    if (IndexIn(items_, index) < 0) return;
+    if (style_ == ListStyle::Single && selected) selected_.assign(items_.size(), false);
+    selected_[static_cast<size_t>(index)] = selected;
+    Changed(Aspect::Selection);
+}
+
+int ListBox::ListIndex() const {
+    const auto first = std::find(selected_.begin(), selected_.end(), true);
+    return first == selected_.end() ? -1 : static_cast<int>(first - selected_.begin());
+}
+
+void ListBox::SetListIndex(int index) {
+    selected_.assign(items_.size(), false);
+    if (IndexIn(items_, index) >= 0) selected_[static_cast<size_t>(index)] = true;
+    Changed(Aspect::Selection);
+}
+
+void ListBox::UserSelects(const std::vector<int>& indexes) {
+    std::vector<char> selected(items_.size(), false);
+    for (const int index : indexes)
+        if (IndexIn(items_, index) >= 0) selected[static_cast<size_t>(index)] = true;
+    if (selected == selected_) return;
+    selected_ = std::move(selected);
+    Changed(Aspect::Selection);
+    Call(onClick);
+}
+
+void ListBox::UserReleasesMouse() {
+    Call(onMouseUp);
+}
+
+bool ListBox::UserPressesKey(int virtualKey) {
+    return Ask(onKeyDown, virtualKey);
+}
+
+bool ListBox::UserTypes(char character) {
+    return Ask(onKeyPress, character);
+}
+
+// The strip's own border and its one row of tabs; win32/ gives the tabs this height.
+constexpr int kTabBorder = 60;
+
+TabPage::TabPage(TabStrip& strip, const std::string& caption)
+    : Container(strip.Holder().Owner()), strip_(&strip), caption_(caption) {
+    strip.pages_.push_back(this);
+}
+
+bool TabPage::IsInFront() const {
+    return strip_->Visible() && strip_->Pages()[static_cast<size_t>(strip_->Tab())] == this;
+}
+
+TabPage* PageOf(Container& container) {
+    return &container == &container.Owner() ? nullptr : static_cast<TabPage*>(&container);
+}
+
+TabStrip::TabStrip(Parent parent, const Bounds& place) : Control(parent, ControlKind::TabStrip, place, {}) {}
+
+Bounds TabStrip::PageArea() const {
+    const Bounds& place = Place();
+    const int top = kTabHeight + kTabBorder;
+    return {place.left + kTabBorder, place.top + top, place.width - 2 * kTabBorder, place.height - top - kTabBorder};
+}
+
+void TabStrip::SetTab(int index) {
+    if (index < 0 || index >= static_cast<int>(pages_.size()) || index == tab_) return;
+    const TabPage* old = pages_[static_cast<size_t>(tab_)];
+    tab_ = index;
+    Changed(Aspect::Value);
+    Form& form = Holder().Owner();
+    const Control* active = form.ActiveControl();
+    if (active == nullptr || &active->Holder() != old) return;
+    const auto& controls = pages_[static_cast<size_t>(index)]->Controls();
+    const auto first = std::find_if(controls.begin(), controls.end(), [](Control* c) { return c->CanFocus(); });
+    if (first != controls.end()) (*first)->SetFocus();
+    else SetFocus();
+}
+
+void TabStrip::UserTurnsTo(int index) {
+    const int before = tab_;
+    SetTab(index);
+    if (tab_ != before) Call(onClick);
+}
+
+void TabStrip::UserTurns(int steps) {
+    const int count = static_cast<int>(pages_.size());
+    if (count > 0 && Enabled()) UserTurnsTo(((tab_ + steps) % count + count) % count);
+}
+
+namespace {
+
+constexpr int kUpDownWidth = 255;
+
+}  // namespace
+
+UpDown::UpDown(Parent parent, TextBox& buddy, int minimum, int maximum)
+    : Control(Parent(*parent.container), ControlKind::UpDown,
+              {buddy.Place().Right(), buddy.Place().top, kUpDownWidth, buddy.Place().height}, {}),
+      buddy_(&buddy),
+      minimum_(minimum),
+      maximum_(maximum) {}
+
+void UpDown::UserSpins(int steps) {
+    if (!Enabled() || !buddy_->Enabled()) return;
+    const double value = std::clamp<double>(std::trunc(Val(buddy_->Text())) + steps, minimum_, maximum_);
+    buddy_->UserEdits(std::to_string(static_cast<int>(value)));
+}
+
+StatusBar::StatusBar(Form& form) : Control(form, ControlKind::StatusBar, {}, {}) {}
+
+}  // namespace quirn

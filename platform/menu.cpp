@@ -1,0 +1,53 @@
+#include "platform/menu.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "platform/form.h"
+
+namespace quirn {
+
+Menu::Menu(std::span<const MenuRow> rows) {
+    for (const MenuRow& row : rows) items_.push_back({row, row.caption});
+}
+
+const Menu::Item& Menu::At(int command) const {
+    return const_cast<Menu*>(this)->Find(command);
+}
+
+// An unknown command is a slip in the caller's table; the first row bears it.
+Menu::Item& Menu::Find(int command) {
+    const auto found =
+        std::find_if(items_.begin(), items_.end(), [&](const Item& item) { return item.row.command == command; });
+    return found == items_.end() ? items_.front() : *found;
+}
+
+void Menu::SetCaption(int command, const std::string& caption) {
+    Item& item = Find(command);
+    if (item.caption == caption) return;
+    item.caption = caption;
+    if (onChanged) onChanged();
+}
+
+void Menu::SetVisible(int command, bool visible) {
+    Item& item = Find(command);
+    if (item.visible == visible) return;
+    item.visible = visible;
+    if (onChanged) onChanged();
+}
+
+void Menu::SetChecked(int command, bool checked) {
+    Item& item = Find(command);
+    if (item.checked == checked) return;
+    item.checked = checked;
+    if (onChanged) onChanged();
+}
+
+void Menu::UserChooses(int command) {
+    const bool choosable = std::any_of(items_.begin(), items_.end(), [&](const Item& item) {
+        return item.row.command == command && item.visible && item.enabled && std::string_view(item.row.caption) != "-";
+    });
+    if (choosable && onCommand) CallHandler([&] { onCommand(command); });
+}
+
+}  // namespace quirn
