@@ -1,0 +1,176 @@
+#include "mainwin/document.h"
+
+#include "mainwin/menurows.h"
+#include "platform/dialogs.h"
+#include "platform/text.h"
+#include "profile/macroimport.h"
+#include "profile/profilefile.h"
+
+namespace quirn {
+
+namespace {
+
+constexpr char kProfileFilter[] = "All Files (*.*)|*.*|QRN Files (*.qrn)|*.qrn|Text Files (*.txt)|*.txt";
+constexpr char kMacroFilter[] = "All Files (*.*)|*.*|Subspace Macro Files (*.ssm)|*.ssm|Text Files (*.txt)|*.txt";
+constexpr int kSecondFilter = 2;
+
+constexpr char kLoaded[] = "File has been loaded";
+constexpr char kLoadFailed[] = "ERROR loading file";
+constexpr char kSaved[] = "File has been saved";
+constexpr char kImported[] = "Macro file has been imported";
+
+}  // namespace
+
+Document::Document(Program& program, std::string baseTitle, DocumentView view)
+    : program_(program), baseTitle_(std::move(baseTitle)), view_(std::move(view)) {}
+
+bool Document::AskSaveChanges() {
+    switch (ShowMessage("Save changes to " + program_.CurrentFile, kYesNoCancel + kQuestion, "Save Changes?")) {
+        case Answer::Yes:
+            // Always by Save As, on purpose, also when the profile has a file.
+            if (!SaveAs()) return false;
+            break;
+        case Answer::No: break;
+        default: return false;
+    }
+    program_.dirty = false;
+    return true;
+}
+
+// With a clean profile nothing happens at all, on purpose.
+void Document::New() {
+    if (!program_.dirty || !AskSaveChanges()) return;
+    program_.CurrentFile = kUntitled;
+    ShowTitle(kUntitled);
+    ResetProfile(program_.profile);
+    view_.ShowProfile();
+}
+
+void Document::Open() {
+    if (MayDiscard()) OpenProfile();
+}
+
+void Document::OpenDropped(const std::string& path) {
+    if (MayDiscard()) OpenProfile(path);
+}
+
+bool Document::OpenProfile() {
+    const auto path = AskOpenFile({.title = "Open",
+                                   .filter = kProfileFilter,
+                                   .filterIndex = kSecondFilter,
+                                   .folder = program_.qrnFolder,
+                                   .fileName = "",
+                                   .flags = kFileMustExist | kHideReadOnly});
+    if (!path) return false;
+    OpenProfile(*path);
+    return true;
+}
+
+void Document::OpenProfile(const std::string& path) {
+    // Before loading, on purpose: a later Save writes to the file that could not be loaded.
+    program_.CurrentFile = path;
+    if (!LoadProfile(program_.profile, path)) {
+        view_.SetStatus(kLoadFailed);
+        return;
+    }
+    AddToRecentFiles(path);
+    ShowTitle(path);
+    view_.ShowProfile();
+    view_.SetStatus(kLoaded);
+    program_.dirty = false;
+}
+
+void Document::Save() {
+    if (IsUntitled(program_.CurrentFile)) {
+        SaveAs();
+        return;
+    }
+    view_.CollectProfile();
+    if (Failure failure = SaveProfile(program_.profile, program_.gameFolder, program_.CurrentFile)) {
+        ShowError(failure);
+        return;
+    }
+    view_.SetStatus(kSaved);
+    program_.dirty = false;
+}
+
+bool Document::SaveAs() {
+    const auto path = AskSaveFile({.title = "Save As",
+                                   .filter = kProfileFilter,
+                                   .filterIndex = kSecondFilter,
+                                   .folder = program_.qrnFolder,
+                                   .fileName = SaveAsName(program_.CurrentFile),
+                                   .flags = kOverwritePrompt | kHideReadOnly});
+    if (!path) return false;
+    program_.CurrentFile = *path;
+    ShowTitle(*path);
+    view_.CollectProfile();
+    if (Failure failure = SaveProfile(program_.profile, program_.gameFolder, *path)) {
+        ShowError(failure);
+        return false;
+    }
+    AddToRecentFiles(*path);
+    view_.SetStatus(kSaved);
+    program_.dirty = false;
+    return true;
+}
+
+// Without a question, and current file and dirty flag stay, all on purpose: a Save that follows writes to the file that
+// was current before.
+void Document::OpenRecent(size_t index) {
+    const std::string path = program_.recentFiles[index];
+    if (!LoadProfile(program_.profile, path)) {
+        view_.SetStatus(kLoadFailed);
+        return;
+    }
+    ShowTitle(path);
+    view_.ShowProfile();
+    view_.SetStatus(kLoaded);
+    AddToRecentFiles(path);
+}
+
+void Document::Import() {
+    const auto path = AskOpenFile({.title = "Import Subspace Macro File",
+                                   .filter = kMacroFilter,
+                                   .filterIndex = kSecondFilter,
+                                   .folder = program_.gameFolder,
+                                   .fileName = "",
+                                   .flags = kHideReadOnly});
+    if (!path) return;
+    // A file with few lines must not bring back what the player has typed over in the other macros.
+    view_.CollectProfile();
+    const Result<bool> changed = ImportMacroFile(program_.profile, *path);
+    if (changed.Failed()) {
+        ShowError(changed.Error());
+        return;
+    }
+    if (changed.Value()) program_.dirty = true;
+    view_.ShowMacros();
+    view_.ShowMacroPage();
+    view_.SetStatus(kImported);
+}
+
+void Document::AddToRecentFiles(const std::string& path) {
+    AddRecentFile(program_.recentFiles, path);
+    view_.RefreshRecentMenu();
+}
+
+void Document::ShowTitle(const std::string& file) {
+    view_.SetTitle(DocumentTitle(baseTitle_, file));
+}
+
+void HideRecentMenu(Menu& menu) {
+    for (int command = mnuFileMRU; command <= mnuFileBarMRU; ++command) menu.SetVisible(command, false);
+}
+
+void RefreshRecentMenu(Menu& menu, const RecentFiles& files) {
+    for (size_t i = 0; i < files.size(); ++i) {
+        if (Trim(files[i]).empty()) continue;
+        const int command = mnuFileMRU + static_cast<int>(i);
+        menu.SetCaption(command, RecentFileCaption(i, files[i]));
+        menu.SetVisible(command, true);
+        menu.SetVisible(mnuFileBarMRU, true);
+    }
+}
+
+}  // namespace quirn

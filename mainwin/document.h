@@ -1,0 +1,57 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/menu.h"
+#include "profile/program.h"
+
+namespace quirn {
+
+// What the document's commands need of the main window.
+struct DocumentView {
+    std::function<void()> ShowProfile;     // profile to controls
+    std::function<void()> CollectProfile;  // controls to profile
+    std::function<void()> ShowMacros;      // the sixteen macros only
+    std::function<void()> ShowMacroPage;   // brings the page "Macros Shift" to the front
+    std::function<void(const std::string&)> SetTitle;
+    std::function<void(const std::string&)> SetStatus;
+    std::function<void()> RefreshRecentMenu;
+};
+
+// The commands of the File menu on the profile as a document. All of them leave everything as it was when the player
+// cancels their dialog.
+class Document {
+public:
+    Document(Program& program, std::string baseTitle, DocumentView view);
+
+    // "Save changes to ...?" True: go on (saved, or the player does not want to); false: stop.
+    bool AskSaveChanges();
+
+    void New();
+    void Open();
+    void OpenDropped(const std::string& path);  // as Open does, with this file
+    void Save();
+    bool SaveAs();  // true when a file has been chosen and saved
+    void OpenRecent(size_t index);
+    void Import();
+
+private:
+    bool MayDiscard() { return !program_.dirty || AskSaveChanges(); }
+    bool OpenProfile();
+    void OpenProfile(const std::string& path);
+    void AddToRecentFiles(const std::string& path);
+    void ShowTitle(const std::string& file);
+
+    Program& program_;
+    std::string baseTitle_;
+    DocumentView view_;
+};
+
+// The File menu without recent files, as it starts.
+void HideRecentMenu(Menu& menu);
+
+// Shows the recent files in it. An item that once was visible stays so.
+void RefreshRecentMenu(Menu& menu, const RecentFiles& files);
+
+}  // namespace quirn
