@@ -284,7 +284,8 @@ std::string IconName(HWND box) {
     std::vector<Reference>& references = References();
     std::string name = "unclear";
     bool blank = true;
-    for (int i = 0; i < 60 && name == "unclear"; ++i) {
+    // A box without an icon has the control all the same; it stays blank.
+    for (int i = 0; i < (blank ? 12 : 60) && name == "unclear"; ++i) {
         SetWindowPos(box, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS);
         const Pixels pixels = PixelsOf(icon);
         blank = OneColour(pixels);
