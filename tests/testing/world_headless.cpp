@@ -1,3 +1,4 @@
+#include "platform/headless/events.h"
 #include "platform/headless/headless.h"
 #include "tests/testing/world.h"
 
@@ -15,6 +16,7 @@ void OpenWorld() {}
 void CloseWorld() {}
 
 void ResetWorld() {
+    headless::ResetEvents();
     headless::ResetWorld();
     headless::MakeFolder(kScratch);
 }
