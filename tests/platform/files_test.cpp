@@ -57,7 +57,6 @@ TEST_F(FilesTest, RefusesAndLeavesTheOldFileWhole) {
     SetReadOnly(In("fixed"));
     PutFile(In("held"), "old");
     MakeFolder(In("folder"));
-    PutFile(In("source"), "new");
     const struct {
         const char* name;
         int error;
@@ -66,13 +65,11 @@ TEST_F(FilesTest, RefusesAndLeavesTheOldFileWhole) {
         const HeldFile held(In("held"));
         for (const auto& row : rows) {
             EXPECT_EQ(NumberOf(WriteWholeFile(In(row.name), "new")), row.error) << row.name;
-            EXPECT_EQ(NumberOf(CopyWholeFile(In("source"), In(row.name))), row.error) << row.name;
             const Result<std::string> begun = BeginReplacement(In(row.name));
             EXPECT_EQ(begun.Failed() ? begun.Error().number : 0, row.error) << row.name;
             EXPECT_FALSE(Unfinished(row.name)) << row.name;
         }
         EXPECT_EQ(ReadWholeFile(In("held")).Error().number, 70);
-        EXPECT_EQ(NumberOf(CopyWholeFile(In("held"), In("copy"))), 70);
     }
     EXPECT_EQ(Bytes("fixed"), "old");
     EXPECT_EQ(Bytes("held"), "old");
@@ -114,37 +111,19 @@ TEST_F(FilesTest, ReplacementInSteps) {
     EXPECT_EQ(Bytes("fresh"), "");
 }
 
-TEST_F(FilesTest, Copies) {
-    PutFile(In("from"), "bytes");
-    SetReadOnly(In("from"));
-    EXPECT_FALSE(CopyWholeFile(In("from"), In("to")));
-    EXPECT_FALSE(CopyWholeFile(In("from"), In("to")));  // a read-only source makes no read-only copy
-    EXPECT_EQ(Bytes("to"), "bytes");
-    EXPECT_FALSE(CopyWholeFile(In("to"), In("TO")));
-    EXPECT_EQ(Bytes("to"), "bytes");
-    EXPECT_EQ(NumberOf(CopyWholeFile(In("missing"), In("to"))), 53);
-    EXPECT_EQ(NumberOf(CopyWholeFile(In("nowhere\\from"), In("to"))), 76);
-    EXPECT_EQ(Bytes("to"), "bytes");
-    EXPECT_FALSE(Unfinished("to"));
-}
-
-TEST_F(FilesTest, ReadsAndDeletesOrSaysWhyNot) {
+TEST_F(FilesTest, ReadsOrSaysWhyNot) {
     PutFile(In("file"), "x");
     PutFile(In("fixed"), "x");
     SetReadOnly(In("fixed"));
     MakeFolder(In("folder"));
     const struct {
         const char* name;
-        int read;
-        int deleted;
-    } rows[] = {{"missing", 53, 53}, {"nowhere\\file", 76, 76}, {"folder", 75, 75}, {"fixed", 0, 75}, {"file", 0, 0}};
+        int error;
+    } rows[] = {{"missing", 53}, {"nowhere\\file", 76}, {"folder", 75}, {"fixed", 0}, {"file", 0}};
     for (const auto& row : rows) {
         const Result<std::string> bytes = ReadWholeFile(In(row.name));
-        EXPECT_EQ(bytes.Failed() ? bytes.Error().number : 0, row.read) << row.name;
-        EXPECT_EQ(NumberOf(DeleteWholeFile(In(row.name))), row.deleted) << row.name;
+        EXPECT_EQ(bytes.Failed() ? bytes.Error().number : 0, row.error) << row.name;
     }
-    EXPECT_EQ(Bytes("file"), "(missing)");
-    EXPECT_EQ(Bytes("fixed"), "x");
     EXPECT_EQ(ReadWholeFile("").Error().number, 76);
 }
 
