@@ -345,7 +345,7 @@ def whole_desk():
     # Two sessions in one prefix would end each other's programs.
     with contextlib.ExitStack() as stack, open(f"{prefix}.lock", "w") as lock:
         fcntl.flock(lock, fcntl.LOCK_EX)
-        screen = Screen(ROOT / "build/journeys/icewm")
+        screen = Screen(ROOT / f"build/journeys/icewm{bits}")
         stack.callback(screen.stop)
         machine = Machine(screen, bits, prefix)
         stack.callback(machine.stop)
