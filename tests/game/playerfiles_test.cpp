@@ -1,0 +1,84 @@
+#include "game/playerfiles.h"
+
+#include "tests/testing/profiles.h"
+
+namespace quirn {
+namespace {
+
+using namespace test;
+
+class PlayerFilesTest : public WorldTest {
+protected:
+    PlayerFilesTest() {
+        MakeFolder(game_);
+        profile_.WaveFiles = {kNotSet, kNotSet};
+    }
+
+    const std::string game_ = Scratch() + "\\game";
+    const std::string ignore_ = game_ + "\\ignore.txt";
+    const std::string wave0_ = game_ + "\\record0.wav";
+    const std::string wave1_ = game_ + "\\record1.wav";
+    Profile profile_ = SampleProfile();
+};
+
+TEST_F(PlayerFilesTest, ReadsTheIgnoreListWithoutComments) {
+    PutFile(ignore_, " Mole \r\n\r\n  # not a player\r\n#x\nCaf\xE9 Bot");
+    EXPECT_FALSE(ReadIgnoreFile(profile_, game_));
+    EXPECT_EQ(profile_.IgnoreList, (std::vector<std::string>{"Mole", "", "Caf\xE9 Bot"}));
+    EXPECT_FALSE(ReadIgnoreFile(profile_, Scratch()));
+    EXPECT_TRUE(profile_.IgnoreList.empty());
+}
+
+TEST_F(PlayerFilesTest, WritesNamesAsTheyAreWithoutBlankOnes) {
+    profile_.IgnoreList = {"", " Mole ", "   ", "#1"};
+    EXPECT_FALSE(WriteIgnoreFile(profile_, game_));
+    EXPECT_EQ(FileBytes(ignore_), " Mole \r\n#1\r\n");
+    profile_.IgnoreList = {" "};
+    EXPECT_FALSE(WriteIgnoreFile(profile_, game_));
+    EXPECT_EQ(FileBytes(ignore_), "");
+}
+
+TEST_F(PlayerFilesTest, FindsTheGamesOwnWaves) {
+    PutFile(wave1_, "pong");
+    ReadPlayerFiles(profile_, game_);
+    EXPECT_EQ(profile_.WaveFiles[0], kNotSet);
+    EXPECT_EQ(profile_.WaveFiles[1], wave1_);
+}
+
+TEST_F(PlayerFilesTest, CopiesWavesUnlessNotSetOrTheGamesOwn) {
+    const std::string source = Scratch() + "\\ping.wav";
+    PutFile(source, "ping");
+    PutFile(wave1_, "old");
+    std::string sameFile = game_ + "\\RECORD1.Wav";
+    for (const std::string& path : {std::string(kNotSet), std::string("<"), std::string("<\\" + source), sameFile}) {
+        profile_.WaveFiles = {source, path};
+        WritePlayerFiles(profile_, game_);
+        EXPECT_EQ(FileBytes(wave0_), "ping");
+        EXPECT_EQ(FileBytes(wave1_), "old") << path;
+    }
+    profile_.WaveFiles[1] = source;
+    WritePlayerFiles(profile_, game_);
+    EXPECT_EQ(FileBytes(wave1_), "ping");
+    EXPECT_EQ(FileBytes(source), "ping");
+}
+
+TEST_F(PlayerFilesTest, EachFailureIsShownAndTheOtherStepsDone) {
+    const std::string source = Scratch() + "\\ping.wav";
+    PutFile(source, "ping");
+    PutFile(ignore_, "old");
+    SetReadOnly(ignore_);
+    profile_.WaveFiles = {Scratch() + "\\gone.wav", source};
+    ExpectError(75, "Path/File access error");
+    ExpectError(53, "File not found");
+    WritePlayerFiles(profile_, game_);
+    EXPECT_EQ(FileBytes(ignore_), "old");
+    EXPECT_EQ(FileBytes(wave1_), "ping");
+
+    profile_.WaveFiles = {kNotSet, kNotSet};
+    ExpectError(76, "Path not found");
+    WritePlayerFiles(profile_, Scratch() + "\\no game");
+    WritePlayerFiles(profile_, kNotSet);  // not a word
+}
+
+}  // namespace
+}  // namespace quirn

@@ -1,0 +1,114 @@
+#include "game/settingsstore.h"
+
+#include "tests/testing/profiles.h"
+
+namespace quirn {
+namespace {
+
+using namespace test;
+using namespace std::string_literals;
+
+const std::string kRoot = "Software\\Virgin\\SubSpace\\";
+
+class SettingsStoreTest : public WorldTest {
+protected:
+    SettingsStoreTest() {
+        for (const Section* section : profile_.Sections()) MakeKey(kRoot + section->name);
+        MakeFolder(game_);
+    }
+
+    static std::optional<StoredValue> Stored(const Section& section, int index) {
+        return GetValue(kRoot + section.name, section.Name(index));
+    }
+
+    const std::string game_ = Scratch() + "\\game";
+    Profile profile_ = SampleProfile();
+};
+
+TEST_F(SettingsStoreTest, ReadsTextsAndNumbersOnly) {
+    const struct {
+        int index;
+        uint32_t type;
+        std::string bytes;
+        const char* shown;
+    } rows[] = {{1, 1, "Ace\0"s, "Ace"},   {2, 1, "no end"s, "no end"},
+                {3, 1, "\0"s, ""},         {4, 4, "\xFB\xFF\xFF\xFF"s, "-5"},
+                {5, 3, "\1\2\3"s, ""},     {6, 1, "Caf\xE9 \x80\0"s, "Caf\xE9 \x80"},
+                {7, 4, "\x08\0\0\0"s, "8"}};
+    for (const auto& row : rows) PutValue(kRoot + "Dialog", profile_.Dialog.Name(row.index), row.type, row.bytes);
+    ReadProfileFromGame(profile_, game_);
+    for (const auto& row : rows) EXPECT_EQ(profile_.Dialog.Value(row.index), row.shown) << row.index;
+    for (int i = 1; i <= profile_.Options.Count(); ++i) EXPECT_EQ(profile_.Options.Value(i), "");
+    EXPECT_TRUE(profile_.IgnoreList.empty());
+    EXPECT_EQ(profile_.WaveFiles[0], kNotSet);
+}
+
+TEST_F(SettingsStoreTest, EverySettingComesBack) {
+    profile_.WaveFiles = {kNotSet, kNotSet};
+    WriteProfileToGame(profile_, game_);
+    EXPECT_EQ(Stored(profile_.Dialog, 1), (StoredValue{1, "D1\0"s}));
+    EXPECT_EQ(Stored(profile_.Options, 39), (StoredValue{4, "\x28\0\0\0"s}));
+    Profile read = EmptyProfile();
+    ReadProfileFromGame(read, game_);
+    ExpectSame(read, profile_);
+}
+
+TEST_F(SettingsStoreTest, TextsBecomeNumbersByTheirStart) {
+    const struct {
+        const char* text;
+        int32_t number;
+    } rows[] = {{"", 0}, {"none", 0}, {" 12 apples", 12}, {"-7.9", -7}, {"2147483647", 2147483647}, {"1e3", 1000}};
+    int index = 0;
+    for (const auto& row : rows) profile_.Options.Value(++index) = row.text;
+    profile_.WaveFiles = {kNotSet, kNotSet};
+    WriteProfileToGame(profile_, game_);
+    index = 0;
+    for (const auto& row : rows) {
+        const std::string bytes(reinterpret_cast<const char*>(&row.number), sizeof(row.number));
+        EXPECT_EQ(Stored(profile_.Options, ++index), (StoredValue{4, bytes})) << row.text;
+    }
+}
+
+TEST_F(SettingsStoreTest, ATooLargeNumberIsReportedOnceAndSkipped) {
+    PutValue(kRoot + "Options", "ShowStars", 4, "\7\0\0\0"s);
+    profile_.Options.Value(2) = "2147483648";
+    profile_.Advanced.Value(5) = "-99999999999";
+    profile_.WaveFiles = {kNotSet, kNotSet};
+    ExpectError(6, "Overflow");
+    WriteProfileToGame(profile_, game_);
+    EXPECT_EQ(Stored(profile_.Options, 2), (StoredValue{4, "\7\0\0\0"s}));
+    EXPECT_FALSE(Stored(profile_.Advanced, 5));
+    EXPECT_TRUE(Stored(profile_.HiddenOptions, 3));
+    EXPECT_TRUE(FileBytes(game_ + "\\ignore.txt"));
+}
+
+TEST_F(SettingsStoreTest, ValuesOfOtherTypesAreLeftAlone) {
+    PutValue(kRoot + "Dialog", "PlayerName", 3, "\1\2\3"s);
+    PutValue(kRoot + "Options", "Clock", 7, "a\0b\0\0"s);
+    PutValue(kRoot + "Dialog", "Favourite", 1, "other\0"s);
+    profile_.WaveFiles = {kNotSet, kNotSet};
+    WriteProfileToGame(profile_, game_);
+    EXPECT_EQ(GetValue(kRoot + "Dialog", "PlayerName"), (StoredValue{3, "\1\2\3"s}));
+    EXPECT_EQ(GetValue(kRoot + "Options", "Clock"), (StoredValue{7, "a\0b\0\0"s}));
+    EXPECT_EQ(GetValue(kRoot + "Dialog", "Favourite"), (StoredValue{1, "other\0"s}));
+
+    SettingValue value = 5;
+    EXPECT_EQ(QueryValueEx(RegistryKey(kRoot + "Dialog"), "PlayerName", value), kUnsupportedType);
+    EXPECT_NE(QueryValueEx(RegistryKey(kRoot + "Dialog"), "Absent", value), kRegistrySuccess);
+    EXPECT_EQ(value, SettingValue(5));
+    EXPECT_EQ(SetValueEx(RegistryKey(kRoot + "Dialog"), "Favourite", RegistryType::None, "x"s), kRegistrySuccess);
+    EXPECT_EQ(GetValue(kRoot + "Dialog", "Favourite"), (StoredValue{1, "other\0"s}));
+}
+
+class NoGameTest : public WorldTest {};
+
+TEST_F(NoGameTest, CreatesNoKeys) {
+    Profile profile = SampleProfile();
+    WriteProfileToGame(profile, kNotSet);
+    EXPECT_FALSE(KeyExists("Software\\Virgin"));
+    ReadProfileFromGame(profile, kNotSet);
+    ExpectSame(profile, EmptyProfile());
+}
+
+}  // namespace
+}  // namespace quirn

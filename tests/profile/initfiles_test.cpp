@@ -1,0 +1,50 @@
+#include "profile/initfiles.h"
+
+#include "platform/files.h"
+#include "tests/testing/world.h"
+
+namespace quirn {
+namespace {
+
+using namespace test;
+
+class InitFilesTest : public WorldTest {};
+
+TEST_F(InitFilesTest, ReplacesAShortFileNameAtTheFirstAccess) {
+    const std::string ownFile = ProgramFolder() + "\\QUIRN.ini";
+    for (const char* name : {"", "a.ini"}) {
+        clsIniTFiles file;
+        file.InitFileName = name;
+        file.SectionName = "Nothing";
+        EXPECT_EQ(file.ReadKey("key", "default"), "default");
+        EXPECT_EQ(file.InitFileName, ownFile);
+    }
+    clsIniTFiles file;
+    file.InitFileName = "ab.ini";
+    EXPECT_EQ(file.ReadEntireSection(), "");
+    EXPECT_EQ(file.InitFileName, "ab.ini");
+}
+
+TEST_F(InitFilesTest, ReadsWhatItWroteUpToItsBuffers) {
+    clsIniTFiles file;
+    file.InitFileName = Scratch() + "\\test.ini";
+    file.SectionName = "One";
+    EXPECT_EQ(file.WriteKey("long", std::string(300, 'x')), "True");
+    EXPECT_EQ(file.ReadKey("LONG", ""), std::string(254, 'x'));
+    EXPECT_EQ(file.ReadKey("absent", "as given"), "as given");
+
+    file.SectionName = "Two";
+    std::string entries;
+    for (int i = 0; i < 600; ++i) entries += "key" + std::to_string(1000 + i) + "=1" + '\0';
+    EXPECT_TRUE(file.WriteEntireSection(entries + '\0'));
+    EXPECT_EQ(file.ReadEntireSection(), entries.substr(0, 4094));
+    file.SectionName = "Three";
+    EXPECT_EQ(file.ReadEntireSection(), "");
+
+    file.InitFileName = Scratch() + "\\no folder\\test.ini";
+    EXPECT_EQ(file.WriteKey("key", "value"), "True");
+    EXPECT_FALSE(file.WriteEntireSection(entries + '\0'));
+}
+
+}  // namespace
+}  // namespace quirn
