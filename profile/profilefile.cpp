@@ -92,6 +92,19 @@ private:
     size_t size_ = 0;
 };
 
+// An upper bound of the bytes that saving may add to the two files.
+size_t RoomNeeded(const Profile& profile) {
+    constexpr size_t kEnoughForHeaders = 1024;
+    size_t room = kEnoughForHeaders;
+    for (const Section* section : profile.Sections()) {
+        for (int i = 1; i <= section->Count(); ++i) room += section->Name(i).size() + 2 * section->Value(i).size() + 5;
+    }
+    for (const std::string& path : profile.WaveFiles) room += path.size();
+    for (const std::string& name : profile.IgnoreList)
+        room += name.size() + IgnoreKey(profile.IgnoreList.size()).size() + 3;
+    return room;
+}
+
 // The game's own macro format: sixteen lines.
 std::string MacroFileText(const Profile& profile) {
     std::string text;
@@ -137,6 +150,13 @@ Failure SaveProfile(const Profile& profile, const std::string& gameFolder, const
     const std::string path = AbsolutePath(fileName);
     const Result<std::string> unfinished = BeginReplacement(path);
     if (unfinished.Failed()) return unfinished.Error();
+
+    // On a disk that fills up, the file is cut at its end, where it may hold lines that are not this program's and that
+    // reading back would not miss.
+    if (DiskIsFull(path, RoomNeeded(profile))) {
+        AbandonReplacement(path);
+        return MakeError(ErrorNumber::DiskFull);
+    }
 
     CheckedWriter writer(unfinished.Value());
     writer.Section(kTitle);
