@@ -79,7 +79,7 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
     windowClass.hbrBackground = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
     windowClass.lpszClassName = "SubSpaceClass";
     RegisterClassA(&windowClass);
-    const HWND window = CreateWindowA("SubSpaceClass", "Stand-in game", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 560, 420, 320,
+    const HWND window = CreateWindowA("SubSpaceClass", "Stand-in game", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 40, 560, 320,
                                       200, nullptr, nullptr, instance, nullptr);
     if (!window) return 1;
     const char* seconds = std::getenv("SUBSPACE_SECONDS");

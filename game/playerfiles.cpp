@@ -14,11 +14,21 @@ std::string WavePath(const std::string& gameFolder, size_t slot) {
     return gameFolder + "\\record" + std::to_string(slot) + ".wav";
 }
 
+// Writes a file of the game unless it already holds those bytes: most launches change nothing here, and a write that is
+// flushed to the disk takes longer than all the rest.
+Failure WriteGameFile(const std::string& path, const std::string& bytes) {
+    const Result<std::string> old = ReadWholeFile(path);
+    if (!old.Failed() && old.Value() == bytes) return {};
+    return WriteWholeFile(path, bytes);
+}
+
 // Copies the profile's wave file over the game's, unless it has none or already names the game's own.
 Failure CopyWave(const std::string& source, const std::string& target) {
     // The first character alone decides, on purpose: every path that begins with "<" counts as not set.
     if (source.starts_with('<') || source.empty() || EqualNoCase(source, target)) return {};
-    return CopyWholeFile(source, target);
+    const Result<std::string> wave = ReadWholeFile(source);
+    if (wave.Failed()) return wave.Error();
+    return WriteGameFile(target, wave.Value());
 }
 
 }  // namespace
@@ -27,7 +37,7 @@ Failure WriteIgnoreFile(const Profile& profile, const std::string& gameFolder) {
     std::string text;
     for (const std::string& name : profile.IgnoreList)
         if (!Trim(name).empty()) text += name + "\r\n";
-    return WriteWholeFile(IgnorePath(gameFolder), text);
+    return WriteGameFile(IgnorePath(gameFolder), text);
 }
 
 Failure ReadIgnoreFile(Profile& profile, const std::string& gameFolder) {

@@ -23,12 +23,7 @@ Result<std::string> ReadWholeFile(const std::string& path);
 // is whole. A read-only file is not replaced (75), nor one that another program holds (70).
 Failure WriteWholeFile(const std::string& path, std::string_view bytes);
 
-// Copies a file over another (which need not exist) with the same promise.
-Failure CopyWholeFile(const std::string& from, const std::string& to);
-
-Failure DeleteWholeFile(const std::string& path);
-
-// The steps of those two, for files that other functions write:
+// The steps of that, for files that other functions write:
 // BeginReplacement checks that the file may be replaced and makes the file beside it, a copy of the old one or
 // empty; its path is the result. FinishReplacement flushes that file and puts it in place. AbandonReplacement
 // deletes it.

@@ -145,21 +145,6 @@ Failure WriteWholeFile(const std::string& path, std::string_view bytes) {
     return FinishReplacement(path);
 }
 
-Failure CopyWholeFile(const std::string& from, const std::string& to) {
-    if (Failure failure = CheckReplaceable(to)) return failure;
-    const Result<std::string> bytes = ReadWholeFile(from);
-    if (bytes.Failed()) return bytes.Error();
-    if (Failure failure = MakeUnfinished(to, bytes.Value())) return failure;
-    return FinishReplacement(to);
-}
-
-Failure DeleteWholeFile(const std::string& path) {
-    if (Failure failure = CheckReplaceable(path)) return failure;
-    if (headless::FindFile(path) == nullptr) return MakeError(ErrorNumber::FileNotFound);
-    Remove(path);
-    return {};
-}
-
 Result<std::string> BeginReplacement(const std::string& path) {
     if (Failure failure = CheckReplaceable(path)) return *failure;
     const File* old = headless::FindFile(path);

@@ -135,22 +135,6 @@ Failure WriteWholeFile(const std::string& path, std::string_view bytes) {
     return FinishReplacement(path);
 }
 
-Failure CopyWholeFile(const std::string& from, const std::string& to) {
-    const Result<bool> old = CheckReplaceable(to);
-    if (old.Failed()) return old.Error();
-    DeleteUnfinished(to);
-    if (Failure failure = CopyFrom(from, UnfinishedPath(to))) {
-        DeleteUnfinished(to);
-        return failure;
-    }
-    return FinishReplacement(to);
-}
-
-Failure DeleteWholeFile(const std::string& path) {
-    if (DeleteFileA(path.c_str())) return {};
-    return LastError();
-}
-
 Result<std::string> BeginReplacement(const std::string& path) {
     const Result<bool> old = CheckReplaceable(path);
     if (old.Failed()) return old.Error();

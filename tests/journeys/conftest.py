@@ -172,7 +172,8 @@ class Box:
 
     def __init__(self, user, handle):
         self.user, self.handle = user, handle
-        wait_for(lambda: (user.ask("message", handle) or {}).get("buttons"), what="the box's buttons")
+        wait_for(lambda: [c for c in user.ask("controls", handle)["controls"] if c["class"] == "Button" and c["visible"]],
+                 what="the box's buttons")
         answer = user.ask("message", handle)
         self.caption, self.text, self.icon, self.buttons = (answer[k] for k in ("caption", "text", "icon", "buttons"))
 
@@ -344,7 +345,7 @@ def whole_desk():
     # Two sessions in one prefix would end each other's programs.
     with contextlib.ExitStack() as stack, open(f"{prefix}.lock", "w") as lock:
         fcntl.flock(lock, fcntl.LOCK_EX)
-        screen = Screen(ROOT / "build/journeys/icewm")
+        screen = Screen(ROOT / f"build/journeys/icewm{bits}")
         stack.callback(screen.stop)
         machine = Machine(screen, bits, prefix)
         stack.callback(machine.stop)

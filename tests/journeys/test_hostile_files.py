@@ -20,16 +20,18 @@ def rejected(desk, name, message):
     quirn.close()
 
 
+NO_PROFILE = {
+    "EMPTY.QRN": b"",
+    "BINARY.QRN": random.Random(161).randbytes(200_000).replace(b"[", b"("),
+    "LINE.QRN": b"x" * 5_000_000,
+    "NOEND.QRN": VERSION + b"[Dialog\r\nPlayerName=Mole\r\n",
+    "NULS.QRN": b"\0" * 4096,
+}
 
-@pytest.mark.parametrize("name, content", [
-    ("EMPTY.QRN", b""),
-    ("BINARY.QRN", random.Random(161).randbytes(200_000).replace(b"[", b"(")),
-    ("LINE.QRN", b"x" * 5_000_000),
-    ("NOEND.QRN", VERSION + b"[Dialog\r\nPlayerName=Mole\r\n"),
-    ("NULS.QRN", b"\0" * 4096),
-])
-def test_no_profile_at_all(desk, name, content):
-    desk.file("Profiles/" + name).write_bytes(content)
+
+@pytest.mark.parametrize("name", NO_PROFILE)
+def test_no_profile_at_all(desk, name):
+    desk.file("Profiles/" + name).write_bytes(NO_PROFILE[name])
     rejected(desk, name, NOT_VALID)
 
 
@@ -50,13 +52,17 @@ def test_a_file_that_another_program_holds(desk):
     assert desk.file("Profiles/DUEL.QRN").read_bytes() == before
 
 
-@pytest.mark.parametrize("name, content, player", [
+TOO_MUCH = {
     # A value longer than the reader's buffer comes back as its first 254 bytes.
-    ("LONG.QRN", b"PlayerName=" + b"n" * 10_000 + b"\r\n", "n" * 254),
-    ("MANY.QRN", b"PlayerName=First\r\n" + b"".join(b"Key%d=value\r\n" % i for i in range(70_000)), "First"),
-    ("NULKEYS.QRN", b"PlayerName=Bo\0Bo\r\nServer\0Name=x\r\n", "Bo"),
-])
-def test_too_much_of_everything(desk, name, content, player):
+    "LONG.QRN": (b"PlayerName=" + b"n" * 10_000 + b"\r\n", "n" * 254),
+    "MANY.QRN": (b"PlayerName=First\r\n" + b"".join(b"Key%d=value\r\n" % i for i in range(70_000)), "First"),
+    "NULKEYS.QRN": (b"PlayerName=Bo\0Bo\r\nServer\0Name=x\r\n", "Bo"),
+}
+
+
+@pytest.mark.parametrize("name", TOO_MUCH)
+def test_too_much_of_everything(desk, name):
+    content, player = TOO_MUCH[name]
     desk.file("Profiles/" + name).write_bytes(VERSION + b"[Dialog]\r\n" + content + b"[Advanced]\r\nSkipSplash=1\r\n")
     assert desk.start("/LR:" + name).ended(90) == 0
     assert desk.registry()[r"Dialog\PlayerName"] == (SZ, player)

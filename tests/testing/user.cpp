@@ -277,25 +277,24 @@ std::vector<Reference>& References() {
     return references;
 }
 
-// The nearest of the four icons, provided that no other comes close; "none" for a box without one.
+// The nearest of the four icons, provided that no other comes close; "none" for a box without one, which has the
+// control all the same.
 std::string IconName(HWND box) {
     HWND icon = IconControl(box);
-    if (!icon) return "none";
+    DWORD_PTR held = 0;
+    if (!icon || !SendMessageTimeoutA(icon, STM_GETICON, 0, 0, SMTO_ABORTIFHUNG, 2000, &held) || !held) return "none";
     std::vector<Reference>& references = References();
-    std::string name = "unclear";
-    bool blank = true;
-    for (int i = 0; i < 60 && name == "unclear"; ++i) {
+    for (int i = 0; i < 60; ++i) {
         SetWindowPos(box, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS);
         const Pixels pixels = PixelsOf(icon);
-        blank = OneColour(pixels);
         std::map<long long, const char*> byDistance;
         for (const Reference& reference : references)
             byDistance.emplace(Distance(pixels, reference.pixels), reference.name);
         if (byDistance.size() > 1 && byDistance.begin()->first * 3 < std::next(byDistance.begin())->first)
-            name = byDistance.begin()->second;
-        else Sleep(50);
+            return byDistance.begin()->second;
+        Sleep(50);
     }
-    return blank ? "none" : name;
+    return "unclear";
 }
 
 std::string Message(const Words& words) {

@@ -1,0 +1,145 @@
+#include "platform/files.h"
+
+#include "tests/testing/world.h"
+
+namespace quirn {
+namespace {
+
+using namespace test;
+
+int NumberOf(const Failure& failure) {
+    return failure ? failure->number : 0;
+}
+
+// Files by a short name in the scratch folder.
+class FilesTest : public WorldTest {
+protected:
+    static std::string In(const std::string& name) { return Scratch() + "\\" + name; }
+    static std::string Bytes(const std::string& name) { return FileBytes(In(name)).value_or("(missing)"); }
+    static bool Unfinished(const std::string& name) { return FileBytes(In(name) + kUnfinishedSuffix).has_value(); }
+};
+
+TEST_F(FilesTest, FindsPlainFilesOnly) {
+    PutFile(In("Alpha.qrn"), "");
+    PutFile(In("secret.txt"), "");
+    SetHidden(In("secret.txt"));
+    MakeFolder(In("sub"));
+    EXPECT_TRUE(FileExists(In("Alpha.qrn")));
+    EXPECT_TRUE(FileExists(In("aLPHA.QRN")));
+    EXPECT_TRUE(FileExists(In("sub\\..\\.\\Alpha.qrn")));
+    EXPECT_TRUE(FileExists(In("*.q?n")));
+    EXPECT_TRUE(FileExists(In("*.*")));  // the folders and the hidden file that also match do not end the search
+    for (const char* name : {"Alph.qrn", "*.wav", "secret.txt", "s*", "sub", "sub\\*", "", "nowhere\\Alpha.qrn"})
+        EXPECT_FALSE(FileExists(In(name))) << name;
+    EXPECT_FALSE(FileExists(""));
+
+    EXPECT_TRUE(FolderExists(In("SUB")));
+    EXPECT_TRUE(FolderExists(In("sub\\")));
+    EXPECT_FALSE(FolderExists(In("Alpha.qrn")));
+    EXPECT_FALSE(FolderExists(In("nowhere")));
+    EXPECT_FALSE(FolderExists(""));
+}
+
+TEST_F(FilesTest, EveryByteSurvives) {
+    std::string bytes;
+    for (int i = 0; i < 70000; ++i) bytes += static_cast<char>(i);
+    EXPECT_FALSE(WriteWholeFile(In("all.bin"), bytes));
+    EXPECT_EQ(ReadWholeFile(In("ALL.BIN")).Value(), bytes);
+    EXPECT_FALSE(WriteWholeFile(In("all.bin"), "short"));  // nothing of the longer one stays behind
+    EXPECT_EQ(Bytes("all.bin"), "short");
+    EXPECT_FALSE(WriteWholeFile(In("all.bin"), ""));
+    EXPECT_EQ(ReadWholeFile(In("all.bin")).Value(), "");
+    EXPECT_FALSE(Unfinished("all.bin"));
+}
+
+TEST_F(FilesTest, RefusesAndLeavesTheOldFileWhole) {
+    PutFile(In("fixed"), "old");
+    SetReadOnly(In("fixed"));
+    PutFile(In("held"), "old");
+    MakeFolder(In("folder"));
+    const struct {
+        const char* name;
+        int error;
+    } rows[] = {{"fixed", 75}, {"held", 70}, {"folder", 75}, {"nowhere\\file", 76}, {"a?b", 76}, {"held\\file", 76}};
+    {
+        const HeldFile held(In("held"));
+        for (const auto& row : rows) {
+            EXPECT_EQ(NumberOf(WriteWholeFile(In(row.name), "new")), row.error) << row.name;
+            const Result<std::string> begun = BeginReplacement(In(row.name));
+            EXPECT_EQ(begun.Failed() ? begun.Error().number : 0, row.error) << row.name;
+            EXPECT_FALSE(Unfinished(row.name)) << row.name;
+        }
+        EXPECT_EQ(ReadWholeFile(In("held")).Error().number, 70);
+    }
+    EXPECT_EQ(Bytes("fixed"), "old");
+    EXPECT_EQ(Bytes("held"), "old");
+    EXPECT_EQ(NumberOf(WriteWholeFile("", "new")), 76);
+}
+
+TEST_F(FilesTest, ReplacementInSteps) {
+    PutFile(In("file"), "old");
+    PutFile(In("file") + kUnfinishedSuffix, "left by a run that was cut off");
+    Result<std::string> begun = BeginReplacement(In("file"));
+    ASSERT_FALSE(begun.Failed());
+    EXPECT_EQ(FileBytes(begun.Value()), "old");
+    PutFile(begun.Value(), "half");
+    EXPECT_EQ(Bytes("file"), "old");
+    AbandonReplacement(In("file"));
+    EXPECT_EQ(Bytes("file"), "old");
+    EXPECT_FALSE(Unfinished("file"));
+    EXPECT_EQ(NumberOf(FinishReplacement(In("file"))), 53);
+    EXPECT_EQ(Bytes("file"), "old");
+
+    begun = BeginReplacement(In("file"));
+    PutFile(begun.Value(), "new");
+    EXPECT_FALSE(FinishReplacement(In("file")));
+    EXPECT_EQ(Bytes("file"), "new");
+    EXPECT_FALSE(Unfinished("file"));
+
+    // Held only after it was begun.
+    begun = BeginReplacement(In("file"));
+    {
+        const HeldFile held(In("file"));
+        EXPECT_TRUE(FinishReplacement(In("file")));
+    }
+    EXPECT_EQ(Bytes("file"), "new");
+    EXPECT_FALSE(Unfinished("file"));
+
+    begun = BeginReplacement(In("fresh"));
+    EXPECT_EQ(FileBytes(begun.Value()), "");
+    EXPECT_FALSE(FinishReplacement(In("fresh")));
+    EXPECT_EQ(Bytes("fresh"), "");
+}
+
+TEST_F(FilesTest, ReadsOrSaysWhyNot) {
+    PutFile(In("file"), "x");
+    PutFile(In("fixed"), "x");
+    SetReadOnly(In("fixed"));
+    MakeFolder(In("folder"));
+    const struct {
+        const char* name;
+        int error;
+    } rows[] = {{"missing", 53}, {"nowhere\\file", 76}, {"folder", 75}, {"fixed", 0}, {"file", 0}};
+    for (const auto& row : rows) {
+        const Result<std::string> bytes = ReadWholeFile(In(row.name));
+        EXPECT_EQ(bytes.Failed() ? bytes.Error().number : 0, row.error) << row.name;
+    }
+    EXPECT_EQ(ReadWholeFile("").Error().number, 76);
+}
+
+TEST_F(FilesTest, MakesPathsAbsolute) {
+    const std::string drive = Scratch().substr(0, 2);
+    EXPECT_EQ(AbsolutePath(drive + "\\a\\.\\b\\..\\c"), drive + "\\a\\c");
+    EXPECT_EQ(AbsolutePath(drive + "\\a/b/"), drive + "\\a\\b\\");
+    EXPECT_EQ(AbsolutePath(drive + "\\..\\.."), drive + "\\");
+    EXPECT_EQ(AbsolutePath(drive + "\\a\\NAME."), drive + "\\a\\NAME");
+    EXPECT_EQ(AbsolutePath(""), "");
+    EXPECT_EQ(AbsolutePath("x.qrn"), AbsolutePath(".\\sub\\..\\x.qrn"));
+    EXPECT_TRUE(AbsolutePath("x.qrn").ends_with("\\x.qrn"));
+    EXPECT_FALSE(ProgramFolder().ends_with('\\'));
+    EXPECT_TRUE(FolderExists(ProgramFolder()));
+    EXPECT_FALSE(DiskIsFull(In("file"), 1));
+}
+
+}  // namespace
+}  // namespace quirn

@@ -1,0 +1,62 @@
+#include "platform/headless/headless.h"
+
+#include "platform/files.h"
+#include "platform/inifile.h"
+#include "tests/testing/world.h"
+
+// What a test cannot bring about on a real machine.
+namespace quirn {
+namespace {
+
+using namespace test;
+using headless::TheWorld;
+
+class MemoryTest : public WorldTest {
+protected:
+    const std::string file_ = Scratch() + "\\file";
+    const std::string unfinished_ = file_ + kUnfinishedSuffix;
+};
+
+TEST_F(MemoryTest, FullDiskLeavesTheOldFileWhole) {
+    PutFile(file_, "old content");
+    TheWorld().diskRoom = 10;
+    EXPECT_TRUE(DiskIsFull(file_, 11));
+    EXPECT_FALSE(DiskIsFull(file_, 10));
+    EXPECT_EQ(WriteWholeFile(file_, "twelve bytes")->number, 61);
+    EXPECT_EQ(BeginReplacement(file_).Error().number, 61);
+    EXPECT_EQ(FileBytes(file_), "old content");
+    EXPECT_FALSE(FileBytes(unfinished_));
+    EXPECT_EQ(TheWorld().diskRoom, 10u);
+
+    EXPECT_FALSE(WriteWholeFile(file_, "ten bytes."));
+    EXPECT_EQ(TheWorld().diskRoom, 11u);
+}
+
+TEST_F(MemoryTest, IniFunctionsReportSuccessAndCutTheFile) {
+    PutFile(file_, "[s]\r\na=1\r\n");
+    TheWorld().diskRoom = 2;
+    EXPECT_TRUE(WriteIniValue(file_, "s", "k", "value"));
+    EXPECT_EQ(FileBytes(file_), "[s]\r\na=1\r\nk=");
+}
+
+// Windows documents these; not every system that runs its programs follows.
+TEST_F(MemoryTest, IniFunctionsDoAsWindowsDocuments) {
+    const struct {
+        std::string file, section, key;
+        size_t size;
+        std::string value;
+    } rows[] = {{"[\xC9t]\r\n\xD6=1\r\n", "\xE9T", "\xF6", 255, "1"},
+                {"[s]\r\nk\r\nk=v\r\n", "s", "k", 255, "v"},
+                {"[s]\r\n;k=v\r\n", "s", ";k", 255, "D"},
+                {"[s]\r\nk=\"value\"\r\n", "s", "k", 6, "value"}};
+    for (const auto& row : rows) {
+        PutFile(file_, row.file);
+        EXPECT_EQ(ReadIniValue(file_, row.section, row.key, "D", row.size), row.value) << row.file;
+    }
+    PutFile(file_, "[s]\n a = 1\n\n\n[t] junk\n\n");
+    EXPECT_TRUE(WriteIniValue(file_, "s", "k", "v"));
+    EXPECT_EQ(FileBytes(file_), "[s]\n a = 1\nk=v\r\n\n\n[t] junk\n\n");
+}
+
+}  // namespace
+}  // namespace quirn
