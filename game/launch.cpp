@@ -14,7 +14,7 @@ constexpr int kSearchPause = 50;   // milliseconds between two looks for the gam
 
 }  // namespace
 
-LaunchResult LaunchGame(Program& program, LaunchMode mode, Form* mainWindow) {
+LaunchResult LaunchGame(const Program& program, const Profile& profile, LaunchMode mode, Form* mainWindow) {
     if (program.gameFolder == kNotSet) {
         ShowMessage("You must set the location of the SUBSPACE.EXE file in the Options.", kExclamation);
         return LaunchResult::Refused;
@@ -22,7 +22,7 @@ LaunchResult LaunchGame(Program& program, LaunchMode mode, Form* mainWindow) {
 
     frmRunBox runBox;
     // With SkipSplash the game opens at once and the box would only be in its way.
-    if (program.profile.Advanced.Value(kSkipSplash) == "0") {
+    if (profile.Advanced.Value(kSkipSplash) == "0") {
         runBox.Show();
         runBox.Repaint();
     }

@@ -16,10 +16,10 @@ enum class LaunchResult {
     Done,     // in mode CommandLine the caller ends the program now, without any questions
 };
 
-// Starts the game in its folder, then waits, without a limit, until the game's window exists and one more second has
-// passed, the player closes the run box, or the program ends. The profile must have been written into the game before.
+// Starts the game in its folder with a profile that has been written into it before, then waits, without a limit, until
+// the game's window exists and one more second has passed, the player closes the run box, or the program ends.
 // mainWindow (null while there is none) is hidden as soon as the game has been started; in mode CommandLine it is
 // unloaded.
-LaunchResult LaunchGame(Program& program, LaunchMode mode, Form* mainWindow);
+LaunchResult LaunchGame(const Program& program, const Profile& profile, LaunchMode mode, Form* mainWindow);
 
 }  // namespace quirn

@@ -1,9 +1,18 @@
 #include "mainwin/frmmain.h"
 
+#include "auxiliary/addresses.h"
+#include "game/launch.h"
 #include "game/settingsstore.h"
 #include "mainwin/appsettings.h"
+#include "mainwin/bindingtables.h"
+#include "mainwin/frmoptions.h"
+#include "mainwin/menuhelp.h"
+#include "mainwin/menurows.h"
+#include "platform/dialogs.h"
 #include "platform/files.h"
+#include "platform/shell.h"
 #include "platform/version.h"
+#include "profile/profilefile.h"
 
 namespace quirn {
 
@@ -12,33 +21,238 @@ namespace {
 constexpr int kWidth = 8748;
 constexpr int kHeight = 6456;
 
-constexpr char kGameSettingsLabel[] = "<current SS settings>";
+// clang-format off
+//                              left   top  width  height
+constexpr Bounds kTabs{           90,   75, 8325, 4620};
+constexpr Bounds kRun{          2550, 4785, 3400, kButtonHeight};
+// On the page "Macros R-Shift":
+constexpr Bounds kCopyMacros{   2520, 3660, 1800, kButtonHeight};
+constexpr Bounds kDistinguish{  4560, 3720, 2400, kCheckHeight};
+// clang-format on
+
+constexpr int kMacrosShiftPage = 4;
+constexpr char kHelpPage[] = "\\help.html";
 
 }  // namespace
 
-frmMain::frmMain(Program& program) : Form(FormBorder::Fixed, kWidth, kHeight), program_(program) {
+frmMain::frmMain(Program& program)
+    : Form(FormBorder::Fixed, kWidth, kHeight),
+      program_(program),
+      edited_([this] { program_.dirty = true; }),
+      document_(program, VersionTitle(),
+                {
+                    .ShowProfile = [this] { ShowProfile(); },
+                    .CollectProfile = [this] { CollectProfile(); },
+                    .ShowMacros = [this] { ShowMacros(); },
+                    .ShowMacroPage = [this] { SSTab1.SetTab(kMacrosShiftPage); },
+                    .SetTitle = [this](const std::string& title) { SetCaption(title); },
+                    .SetStatus = [this](const std::string& text) { StatusBar1.SetText(text); },
+                    .RefreshRecentMenu = [this] { RefreshRecentMenu(menuBar_, program_.recentFiles); },
+                }),
+      menuBar_(kMainMenuRows),
+      mnuPUTrayIcon(kTrayMenuRows),
+      tray_(*this),
+      SSTab1(*this, kTabs),
+      identityPage_(SSTab1, program, edited_),
+      optionsPage_(SSTab1, program, edited_),
+      advancedPage_(SSTab1, program, edited_),
+      hiddenPage_(SSTab1, program, edited_),
+      shiftPage_(SSTab1, "Macros Shift", "Shift", program, 1, edited_),
+      rShiftPage_(SSTab1, "Macros R-Shift", "R-Shift", program, 1 + kMacrosPerSet, edited_),
+      ignorePage_(SSTab1, program, edited_),
+      txtShift(shiftPage_.Texts()),
+      txtRShift(rShiftPage_.Texts()),
+      Command4(rShiftPage_, kCopyMacros, "Copy from Shift"),
+      chkDistinguish(rShiftPage_, kDistinguish, kSettingBoxes[kDistinguishBox].caption),
+      Command3(*this, kRun, "Transfer Profile And Run Subspace"),
+      picker_(*this, SSTab1, edited_),
+      StatusBar1(*this) {
+    for (CheckBox& box : optionsPage_.Boxes()) chkSettings.push_back(&box);
+    chkSettings.push_back(&advancedPage_.EmulatorBox());
+    chkSettings.push_back(&chkDistinguish);
+    chkDistinguish.Tag = kSettingBoxes[kDistinguishBox].tag;
+    chkDistinguish.onClick = edited_;
+
+    Command3.SetToolTip("Transfer current Profile to Subspace");
+    Command3.onClick = [this] { Command3_Click(); };
+    Command4.SetToolTip("Copies macros from SHIFT set");
+    Command4.onClick = [this] { Command4_Click(); };
+    for (MacroPage* page : {&shiftPage_, &rShiftPage_}) {
+        page->onPercent = [this](TextBox& target) { picker_.Open(target); };
+        page->onImport = [this] { document_.Import(); };
+    }
+
+    SetMenu(menuBar_, {kMainShortcuts.begin(), kMainShortcuts.end()});
+    menuBar_.onCommand = [this](int command) { MenuCommand(command); };
+    menuBar_.onHighlight = [this](int command) { StatusBar1.SetText(MenuHelpText(command)); };
+    onSystemMenuHighlight = [this](int command) { StatusBar1.SetText(SystemMenuHelpText(command)); };
+    mnuPUTrayIcon.onCommand = [this](int command) { TrayCommand(command); };
+    tray_.onMouse = [this](unsigned message) { Tray_Mouse(message); };
+
     onLoad = [this] { Form_Load(); };
+    onQueryUnload = [this](UnloadMode mode) { return Form_QueryUnload(mode); };
     onUnload = [this] { return Form_Unload(); };
+    onDropFile = [this](const std::string& path) { document_.OpenDropped(path); };
 }
 
 void frmMain::Form_Load() {
     program_.helpFile = ProgramFolder() + "\\QUIRN.HLP";
     Move(ReadMainPlace(Place()));
     ReadLists(program_);
-    documentLabel_ = kGameSettingsLabel;
-    UpdateCaption();
+    BuildFavouritesMenu();
+    RefreshRecentMenu(menuBar_, program_.recentFiles);
+    // A second copy finds the first by the start of this text.
+    SetCaption(VersionTitle() + " - " + program_.CurrentFile);
+
+    std::optional<std::vector<Zone>> zones = LoadZoneList(program_.gameFolder, [this] { ShowOptions(false); });
+    if (!zones) {
+        // Without a list of zones there is nothing to play: the program ends.
+        Unload();
+        return;
+    }
+    identityPage_.SetZones(std::move(*zones));
     ReadProfileFromGame(program_.profile, program_.gameFolder);
+    ShowProfile();
+    tray_.Add();
     if (program_.quiet) Hide();
 }
 
-bool frmMain::Form_Unload() {
-    // A minimised window keeps nothing, on purpose, not even the recent files and favourites.
-    if (!IsMinimized()) WriteMainSettings(program_, Place());
-    program_.ending = true;
-    return true;
+// The close box only hides the window: the program stays in the tray.
+bool frmMain::Form_QueryUnload(UnloadMode mode) {
+    if (mode != UnloadMode::CloseBox) return true;
+    Hide();
+    return false;
 }
 
-// A second copy finds the first by the start of this text.
-void frmMain::UpdateCaption() { SetCaption(VersionTitle() + " - " + documentLabel_); }
+bool frmMain::Form_Unload() {
+    const bool goOn = !program_.dirty || document_.AskSaveChanges();
+    // A minimised window keeps nothing, on purpose, not even the recent files and favourites.
+    if (goOn && !IsMinimized()) WriteMainSettings(program_, Place());
+    // Also when the player has stayed at the question: the icon is then gone, on purpose.
+    tray_.Remove();
+    if (goOn) program_.ending = true;
+    return goOn;
+}
+
+void frmMain::ShowProfile() {
+    identityPage_.Show();
+    optionsPage_.Show();
+    for (CheckBox* box : chkSettings)
+        box->SetValue(OptionsSetting(program_.profile, box->Tag, SettingMode::CheckState));
+    advancedPage_.Show();
+    ShowMacros();
+    ignorePage_.Show();
+    hiddenPage_.Show();
+}
+
+void frmMain::CollectProfile() {
+    identityPage_.Collect();
+    optionsPage_.Collect();
+    for (const CheckBox* box : chkSettings) {
+        const int setting = OptionsSetting(program_.profile, box->Tag, SettingMode::Index);
+        program_.profile.Options.Value(setting) = std::to_string(box->Value());
+    }
+    advancedPage_.Collect();
+    shiftPage_.Collect();
+    rShiftPage_.Collect();
+    ignorePage_.Collect();
+    hiddenPage_.Collect();
+}
+
+void frmMain::ShowMacros() {
+    shiftPage_.Show();
+    rShiftPage_.Show();
+}
+
+void frmMain::MenuCommand(int command) {
+    switch (command) {
+        case mnuFile_New: document_.New(); break;
+        case mnuFile_Open: document_.Open(); break;
+        case mnuFile_Save: document_.Save(); break;
+        case mnuFile_SaveAs: document_.SaveAs(); break;
+        case mnuFile_Import: document_.Import(); break;
+        case mnuFile_Print: mnuFile_Print_Click(); break;
+        case mnuFile_Close: Hide(); break;
+        case mnuFile_Exit: Unload(); break;
+        case mnuOptions_Set: mnuOptions_Set_Click(); break;
+        case mnuHelp_Contents: mnuHelp_Contents_Click(); break;
+        case mnuHelp_GotoQUIRNWebSite: OpenDocument(kQuirnWebSite); break;
+        case mnuHelp_GotoSSWebSite: OpenDocument(kGameWebSite); break;
+        default:
+            if (command >= mnuFileMRU && command < mnuFileBarMRU)
+                document_.OpenRecent(static_cast<size_t>(command - mnuFileMRU));
+            break;
+    }
+}
+
+// Printing is not offered, on purpose.
+void frmMain::mnuFile_Print_Click() { ShowMessage("Function unavailable in this version.", kInformation); }
+
+void frmMain::mnuOptions_Set_Click() { ShowOptions(false); }
+
+void frmMain::mnuHelp_Contents_Click() {
+    if (!ShowHelpContents(*this, program_.helpFile)) OpenDocument(ProgramFolder() + kHelpPage);
+}
+
+void frmMain::OpenDocument(const std::string& target) {
+    if (!OpenWithRegisteredProgram(*this, target))
+        ShowMessage("Unable to load '" + target + "' : " + MakeError(ErrorNumber::FileNotFound).description,
+                    kExclamation);
+}
+
+void frmMain::ShowOptions(bool favourites) {
+    frmOptions dialog(program_, [this] { BuildFavouritesMenu(); });
+    if (favourites) dialog.SelectTab(frmOptions::kFavourites);
+    dialog.ShowModal(*this);
+}
+
+void frmMain::Tray_Mouse(unsigned message) {
+    if (message == kMouseLeftDoubleClick) ShowMainWindow();
+    if (message == kMouseRightDown) PopUpMenu(mnuPUTrayIcon, mnuPUTrayIcon_Open);
+}
+
+void frmMain::TrayCommand(int command) {
+    if (command == mnuPUTrayIcon_Open) ShowMainWindow();
+    else if (command == mnuPUTrayIcon_Exit) Unload();
+    else if (command >= mnuPUTrayIcon_Fav && command < mnuPUTrayIconBarExit)
+        mnuPUTrayIcon_Fav_Click(static_cast<size_t>(command - mnuPUTrayIcon_Fav));
+}
+
+void frmMain::mnuPUTrayIcon_Fav_Click(size_t slot) {
+    const Favourite& favourite = program_.favourites[slot];
+    if (favourite.IsEmpty()) {
+        Show();
+        ShowOptions(true);
+        return;
+    }
+    // Played without touching what the window shows: its profile may have edits that are not saved.
+    Profile profile = program_.profile;
+    if (!LoadProfile(profile, favourite.path)) return;
+    Hide();
+    WriteProfileToGame(profile, program_.gameFolder);
+    LaunchGame(program_, profile, LaunchMode::Interactive, this);
+}
+
+void frmMain::BuildFavouritesMenu() {
+    for (size_t i = 0; i < program_.favourites.size(); ++i)
+        mnuPUTrayIcon.SetCaption(mnuPUTrayIcon_Fav + static_cast<int>(i), program_.favourites[i].name);
+}
+
+void frmMain::ShowMainWindow() {
+    if (!Visible()) Show();
+    BringToFront();
+}
+
+void frmMain::Command3_Click() {
+    if (program_.dirty && !document_.AskSaveChanges()) return;
+    CollectProfile();
+    WriteProfileToGame(program_.profile, program_.gameFolder);
+    LaunchGame(program_, program_.profile, LaunchMode::Interactive, this);
+}
+
+void frmMain::Command4_Click() {
+    for (size_t i = 0; i < txtShift.size(); ++i) txtRShift[i].SetText(txtShift[i].Text());
+    edited_();
+}
 
 }  // namespace quirn

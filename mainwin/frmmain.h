@@ -1,22 +1,73 @@
 #pragma once
 
+#include "mainwin/advancedpage.h"
+#include "mainwin/document.h"
+#include "mainwin/hiddenpage.h"
+#include "mainwin/identitypage.h"
+#include "mainwin/ignorepage.h"
+#include "mainwin/macropage.h"
+#include "mainwin/macropicker.h"
+#include "mainwin/optionspage.h"
 #include "platform/form.h"
+#include "platform/tray.h"
 #include "profile/program.h"
 
 namespace quirn {
 
-// The program's one document window.
+// The program's one document window: the current profile on seven pages, the menus, and the icon in the tray.
 class frmMain : public Form {
 public:
     explicit frmMain(Program& program);
 
+    // Profile to controls and back. Showing marks nothing as edited.
+    void ShowProfile();
+    void CollectProfile();
+
 private:
     void Form_Load();
+    bool Form_QueryUnload(UnloadMode mode);
     bool Form_Unload();
-    void UpdateCaption();
+
+    void MenuCommand(int command);
+    void mnuFile_Print_Click();
+    void mnuOptions_Set_Click();
+    void mnuHelp_Contents_Click();
+    void OpenDocument(const std::string& target);
+
+    void Tray_Mouse(unsigned message);
+    void TrayCommand(int command);
+    void mnuPUTrayIcon_Fav_Click(size_t slot);
+    void BuildFavouritesMenu();
+    void ShowMainWindow();
+
+    void Command3_Click();
+    void Command4_Click();
+    void ShowOptions(bool favourites);
+    void ShowMacros();
 
     Program& program_;
-    std::string documentLabel_;
+    Edited edited_;
+    Document document_;
+    Menu menuBar_;
+    Menu mnuPUTrayIcon;
+    TrayIcon tray_;
+
+    TabStrip SSTab1;
+    IdentityPage identityPage_;
+    OptionsPage optionsPage_;
+    AdvancedPage advancedPage_;
+    HiddenPage hiddenPage_;
+    MacroPage shiftPage_;
+    MacroPage rShiftPage_;
+    IgnorePage ignorePage_;
+    ControlArray<TextBox>& txtShift;
+    ControlArray<TextBox>& txtRShift;
+    Button Command4;
+    CheckBox chkDistinguish;
+    std::vector<CheckBox*> chkSettings;  // wherever they stand, in no order: their tags say what they are
+    Button Command3;
+    MacroPicker picker_;
+    StatusBar StatusBar1;
 };
 
 }  // namespace quirn

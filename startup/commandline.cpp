@@ -22,7 +22,7 @@ bool LoadAndRun(Program& program, const std::string& argument) {
     if (!LoadProfile(program.profile, file)) return false;
     WriteProfileToGame(program.profile, program.gameFolder);
     // The main window is not there yet, so there is none to put away.
-    return LaunchGame(program, LaunchMode::CommandLine, nullptr) == LaunchResult::Done;
+    return LaunchGame(program, program.profile, LaunchMode::CommandLine, nullptr) == LaunchResult::Done;
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ protected:
 TEST_F(LaunchTest, RefusesWithoutAGameFolder) {
     program_.gameFolder = kNotSet;
     ExpectMessage("You must set the location of the SUBSPACE.EXE file in the Options.", kExclamation);
-    EXPECT_EQ(LaunchGame(program_, LaunchMode::Interactive, &mainWindow_), LaunchResult::Refused);
+    EXPECT_EQ(LaunchGame(program_, program_.profile, LaunchMode::Interactive, &mainWindow_), LaunchResult::Refused);
     EXPECT_TRUE(mainWindow_.Visible());
 }
 
@@ -40,7 +40,7 @@ TEST_F(LaunchTest, SaysWhenTheGameCannotBeStarted) {
         program_.profile.Advanced.Value(kSkipSplash) = skipSplash;
         TheWorld().programsFailToStart = true;
         ExpectMessage("ERROR - Could not start Subspace, but Macros were transfered.", kCritical);
-        EXPECT_EQ(LaunchGame(program_, LaunchMode::CommandLine, &mainWindow_), LaunchResult::Failed);
+        EXPECT_EQ(LaunchGame(program_, program_.profile, LaunchMode::CommandLine, &mainWindow_), LaunchResult::Failed);
         EXPECT_TRUE(mainWindow_.Visible());
     }
 }
@@ -49,7 +49,7 @@ TEST_F(LaunchTest, WaitsForTheGameAndOneSecondMore) {
     program_.profile.Advanced.Value(kSkipSplash) = "0";
     const long slow = 600'000;  // no time-out
     GameWindowAppearsAfter(slow);
-    EXPECT_EQ(LaunchGame(program_, LaunchMode::Interactive, &mainWindow_), LaunchResult::Done);
+    EXPECT_EQ(LaunchGame(program_, program_.profile, LaunchMode::Interactive, &mainWindow_), LaunchResult::Done);
     EXPECT_GE(headless::Now(), slow + 1000);
     EXPECT_LE(headless::Now(), slow + 1100);
     const std::pair<std::string, std::string> started{program_.gameFolder + "\\subspace.exe", program_.gameFolder};
@@ -59,14 +59,14 @@ TEST_F(LaunchTest, WaitsForTheGameAndOneSecondMore) {
 
     // The game runs already: its window is there at once.
     const long before = headless::Now();
-    EXPECT_EQ(LaunchGame(program_, LaunchMode::CommandLine, &mainWindow_), LaunchResult::Done);
+    EXPECT_EQ(LaunchGame(program_, program_.profile, LaunchMode::CommandLine, &mainWindow_), LaunchResult::Done);
     EXPECT_LE(headless::Now(), before + 1100);
     EXPECT_FALSE(mainWindow_.IsLoaded());
 }
 
 TEST_F(LaunchTest, EndingTheProgramEndsTheWait) {
     headless::PostAfter(5000, [this] { program_.ending = true; });
-    EXPECT_EQ(LaunchGame(program_, LaunchMode::Interactive, &mainWindow_), LaunchResult::Done);
+    EXPECT_EQ(LaunchGame(program_, program_.profile, LaunchMode::Interactive, &mainWindow_), LaunchResult::Done);
     EXPECT_LE(headless::Now(), 5100);
 }
 

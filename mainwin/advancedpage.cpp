@@ -1,0 +1,92 @@
+#include "mainwin/advancedpage.h"
+
+#include "mainwin/bindingtables.h"
+#include "mainwin/frmconfig.h"
+#include "platform/form.h"
+
+namespace quirn {
+
+namespace {
+
+// clang-format off
+//                             left   top  width  height
+constexpr Bounds kGammaLabel{   120,  165,  2250, kLabelHeight};
+constexpr Bounds kGamma{       2400,  120,   510, kRowHeight};
+constexpr Bounds kEmulator{    3360,  150,  1725, kCheckHeight};
+constexpr Bounds kCodeLabel{   5160,  165,   960, kLabelHeight};
+constexpr Bounds kCode{        6150,   90,  1950, kButtonHeight};
+constexpr Bounds kFrame{        120,  510,  7980, 3600};
+constexpr Bounds kBox{          120,  225,  1890, 225};   // in the frame
+constexpr int    kStepX =      1965;
+constexpr int    kStepY =       238;
+constexpr int    kRows =         14;
+// clang-format on
+
+// The position code and ":" before the name of the setting.
+constexpr size_t kTagPrefix = 3;
+
+}  // namespace
+
+AdvancedPage::AdvancedPage(TabStrip& strip, Program& program, Edited edited)
+    : TabPage(strip, "Advanced"),
+      program_(program),
+      edited_(std::move(edited)),
+      lblGamma(*this, kGammaLabel, "Gamma Correction Percentage :"),
+      txtGamma(*this, kGamma),
+      UpDown4(*this, txtGamma, 1, 400),
+      chkEmulator(*this, kEmulator, kSettingBoxes[kEmulatorBox].caption),
+      Label16(*this, kCodeLabel, "Config Code:"),
+      cmdConfigCode(*this, kCode, ""),
+      Frame2(*this, kFrame, "Force Into System Memory") {
+    for (size_t i = 0; i < kAdvancedSwitches.size(); ++i) {
+        const int position = static_cast<int>(i);
+        CheckBox& box = chkAdvanced.emplace_back(
+            Frame2,
+            Bounds{kBox.left + position / kRows * kStepX, kBox.top + position % kRows * kStepY, kBox.width,
+                   kBox.height},
+            kAdvancedSwitches[i].caption);
+        box.Tag = kAdvancedSwitches[i].Tag();
+        box.onClick = edited_;
+        box.onMouseUp = [this] { chkAdvanced_MouseUp(); };
+    }
+    chkEmulator.Tag = kSettingBoxes[kEmulatorBox].tag;
+    chkEmulator.onClick = edited_;
+    txtGamma.onChange = edited_;
+    cmdConfigCode.onClick = [this] { cmdConfigCode_Click(); };
+}
+
+void AdvancedPage::Show() {
+    for (CheckBox& box : chkAdvanced)
+        box.SetValue(AdvancedSetting(program_.profile, box.Tag.substr(kTagPrefix), SettingMode::CheckState));
+    txtGamma.SetText(program_.profile.Advanced.Value(kGammaPercent));
+    cmdConfigCode.SetText(EncodeConfigCode(States()));
+}
+
+void AdvancedPage::Collect() {
+    Profile& profile = program_.profile;
+    for (const CheckBox& box : chkAdvanced) {
+        const int setting = AdvancedSetting(profile, box.Tag.substr(kTagPrefix), SettingMode::Index);
+        profile.Advanced.Value(setting) = std::to_string(box.Value());
+    }
+    profile.Advanced.Value(kGammaPercent) = txtGamma.Text();
+}
+
+AdvancedStates AdvancedPage::States() const {
+    AdvancedStates states{};
+    for (size_t i = 0; i < states.size(); ++i) states[i] = chkAdvanced[i].Value();
+    return states;
+}
+
+void AdvancedPage::chkAdvanced_MouseUp() { cmdConfigCode.SetText(EncodeConfigCode(States())); }
+
+void AdvancedPage::cmdConfigCode_Click() {
+    const std::optional<std::string> text = AskConfigCode(Owner());
+    if (!text) return;
+    AdvancedStates states = States();
+    DecodeConfigCode(*text, states);
+    for (size_t i = 0; i < states.size(); ++i) chkAdvanced[i].SetValue(states[i]);
+    cmdConfigCode.SetText(AcceptedConfigCode(*text));
+    edited_();
+}
+
+}  // namespace quirn

@@ -1,0 +1,159 @@
+#include "mainwin/frmoptions.h"
+
+#include "mainwin/favourites.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "profile/splitpath.h"
+
+namespace quirn {
+
+namespace {
+
+constexpr int kWidth = 6300;
+constexpr int kHeight = 4080;
+
+// clang-format off
+//                         left   top  width  height
+constexpr Bounds kTabs{     120,  120,  5910, 2850};
+constexpr Bounds kOk{      1590, 3090,  1380,  345};
+constexpr Bounds kCancel{  3120, 3090,  1380,  345};
+constexpr Bounds kApply{   4650, 3090,  1380,  345};
+// On the page "File Locations":
+constexpr Bounds kSubLabel{ 180,  240,  5400,  195};
+constexpr Bounds kSubLoc{   180,  480,  4200,  300};
+constexpr Bounds kBrowse0{ 4500,  450,  1140,  345};
+constexpr Bounds kQrnLabel{ 180, 1110,  5400,  195};
+constexpr Bounds kQrnLoc{   180, 1350,  4200,  300};
+constexpr Bounds kBrowse1{ 4500, 1320,  1140,  345};
+// On the page "Favourites":
+constexpr Bounds kList{     180,  240,  4200, 1815};
+constexpr Bounds kAdd{     4500,  240,  1140,  345};
+constexpr Bounds kRemove{  4500,  690,  1140,  345};
+constexpr Bounds kClear{   4500, 1140,  1140,  345};
+// clang-format on
+
+std::string FolderOf(const std::string& path) {
+    const PathParts parts = SplitPath(path);
+    return parts.folder.empty() ? parts.drive + "\\" : parts.drive + parts.folder;
+}
+
+}  // namespace
+
+frmOptions::frmOptions(Program& program, std::function<void()> applied)
+    : Form(FormBorder::Dialog, kWidth, kHeight),
+      program_(program),
+      applied_(std::move(applied)),
+      SSTab1(*this, kTabs),
+      locationsPage(SSTab1, "File Locations"),
+      Label1(locationsPage, kSubLabel, "Location of   Subspace.exe :"),
+      txtSubLoc(locationsPage, kSubLoc, kNotSet),
+      cmdBrowse0(locationsPage, kBrowse0, "Browse..."),
+      Label2(locationsPage, kQrnLabel, "Default location of QRN files :"),
+      txtQRNLoc(locationsPage, kQrnLoc, kNotSet),
+      cmdBrowse1(locationsPage, kBrowse1, "Browse..."),
+      favouritesPage(SSTab1, "Favourites"),
+      lstFavourites(favouritesPage, kList, ListStyle::Extended),
+      cmdAddFav(favouritesPage, kAdd, "Add"),
+      cmdRemoveFav(favouritesPage, kRemove, "Remove"),
+      cmdClearFav(favouritesPage, kClear, "Clear All"),
+      cmdOK(*this, kOk, "OK"),
+      cmdCancel(*this, kCancel, "Cancel"),
+      cmdApply(*this, kApply, "Apply") {
+    SetCaption("Options");
+    SetButtons(&cmdOK, &cmdCancel);
+    onLoad = [this] { Form_Load(); };
+    cmdBrowse0.onClick = [this] { cmdBrowse0_Click(); };
+    cmdBrowse1.onClick = [this] { cmdBrowse1_Click(); };
+    cmdAddFav.onClick = [this] { cmdAddFav_Click(); };
+    cmdRemoveFav.onClick = [this] { cmdRemoveFav_Click(); };
+    cmdClearFav.onClick = [this] { cmdClearFav_Click(); };
+    cmdApply.onClick = [this] { Commit(); };
+    cmdCancel.onClick = [this] { Unload(); };
+    cmdOK.onClick = [this] {
+        Commit();
+        Unload();
+    };
+}
+
+void frmOptions::Form_Load() {
+    txtSubLoc.SetText(program_.gameFolder);
+    txtQRNLoc.SetText(program_.qrnFolder);
+    std::vector<std::string> rows;
+    for (size_t i = 0; i < program_.favourites.size(); ++i) {
+        rows.push_back(program_.favourites[i].name);
+        paths_[i] = program_.favourites[i].path;
+    }
+    lstFavourites.SetItems(std::move(rows));
+}
+
+void frmOptions::cmdBrowse0_Click() {
+    FileDialog dialog;
+    dialog.title = "Locate Subspace.EXE";
+    dialog.filter = "EXE Files (*.exe)|*.exe";
+    dialog.folder = ProgramFolder();
+    dialog.fileName = "subspace.exe";
+    dialog.flags = kHideReadOnly;
+    if (const auto chosen = AskOpenFile(dialog)) {
+        txtSubLoc.SetText(FolderOf(*chosen));
+        subLocChanged_ = true;
+    }
+}
+
+// The player picks any file in the wanted folder; it need not exist.
+void frmOptions::cmdBrowse1_Click() {
+    FileDialog dialog;
+    dialog.title = "Default QRN File Location";
+    dialog.filter = "Pick Any File|*.*";
+    dialog.folder = txtQRNLoc.Text();
+    dialog.fileName = "AnyFile";
+    dialog.flags = kHideReadOnly;
+    if (const auto chosen = AskOpenFile(dialog)) {
+        txtQRNLoc.SetText(FolderOf(*chosen));
+        qrnLocChanged_ = true;
+    }
+}
+
+void frmOptions::cmdAddFav_Click() {
+    if (FirstEmptyRow(lstFavourites.Items()) < 0) {
+        ShowMessage("No room to add more. Remove one first.", kExclamation);
+        return;
+    }
+    AddFavourite();
+}
+
+void frmOptions::AddFavourite() {
+    FileDialog dialog;
+    dialog.title = "Add Favourite QRN File";
+    dialog.filter = "QRN Files|*.qrn";
+    dialog.folder = program_.qrnFolder;
+    dialog.fileName = "*.qrn";
+    dialog.flags = kHideReadOnly | kPathMustExist | kFileMustExist;
+    const auto chosen = AskOpenFile(dialog);
+    if (!chosen) return;
+    const int row = FirstEmptyRow(lstFavourites.Items());
+    lstFavourites.SetItem(row, FavouriteName(*chosen));
+    paths_[static_cast<size_t>(row)] = *chosen;
+}
+
+void frmOptions::cmdRemoveFav_Click() {
+    for (const int row : lstFavourites.SelectedItems()) ClearRow(row);
+}
+
+void frmOptions::cmdClearFav_Click() {
+    for (int row = 0; row < static_cast<int>(paths_.size()); ++row) ClearRow(row);
+}
+
+void frmOptions::ClearRow(int row) {
+    lstFavourites.SetItem(row, EmptyFavouriteName(static_cast<size_t>(row)));
+    paths_[static_cast<size_t>(row)].clear();
+}
+
+void frmOptions::Commit() {
+    if (subLocChanged_) program_.gameFolder = txtSubLoc.Text();
+    if (qrnLocChanged_) program_.qrnFolder = txtQRNLoc.Text();
+    for (size_t i = 0; i < paths_.size(); ++i)
+        program_.favourites[i] = {lstFavourites.Items()[i], paths_[i]};
+    applied_();
+}
+
+}  // namespace quirn

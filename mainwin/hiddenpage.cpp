@@ -1,0 +1,54 @@
+#include "mainwin/hiddenpage.h"
+
+#include "platform/text.h"
+
+namespace quirn {
+
+namespace {
+
+// clang-format off
+//                              left   top  width  height
+constexpr Bounds kShowFrameRatePlace{ 240,  240,  7700, kCheckHeight};
+constexpr Bounds kForce60Place{      240,  570,  7700, kCheckHeight};
+constexpr Bounds kFlickSysMemPlace{  240,  900,  7700, kCheckHeight};
+constexpr Bounds kWarning{       240, 1500,  7700, 1500};
+// clang-format on
+
+// A number other than 0 and 1 is shown as checked and stays as it is until the player clicks.
+void CollectBox(const CheckBox& box, std::string& value) {
+    if ((Val(value) != 0) != (box.Value() != 0) || value.empty()) value = std::to_string(box.Value());
+}
+
+}  // namespace
+
+HiddenPage::HiddenPage(TabStrip& strip, Program& program, Edited edited)
+    : TabPage(strip, "Hidden"),
+      program_(program),
+      chkShowFrameRate(*this, kShowFrameRatePlace, "Show Frame Rate (displays framerate info on game screen)"),
+      chkForce60(*this, kForce60Place, "Force 60 (forces 60Hz refresh rate)"),
+      chkFlickSysMem(*this, kFlickSysMemPlace, "Flick System Memory (your guess is as good as mine)"),
+      // The spelling and the double blanks are meant to be so.
+      Label14(*this, kWarning,
+              "WARNING! - Its is NOT recommended that you alter ANY of these settings.  The ability to alter these "
+              "settings are included here for completeness.  If you break Subspace because you have changed these "
+              "settings, neither Virgin Interactive(tm) or the author of this program will provide you with support.  "
+              "YOU HAVE BEEN WARNED!") {
+    for (CheckBox* box : {&chkShowFrameRate, &chkForce60, &chkFlickSysMem}) box->onClick = edited;
+    Label14.SetForeColor(Rgb(192, 0, 0));
+}
+
+void HiddenPage::Show() {
+    const Section& hidden = program_.profile.HiddenOptions;
+    chkForce60.SetValue(Val(hidden.Value(kForce60)) != 0 ? 1 : 0);
+    chkShowFrameRate.SetValue(Val(hidden.Value(kShowFrameRate)) != 0 ? 1 : 0);
+    chkFlickSysMem.SetValue(Val(hidden.Value(kFlickSystemMemory)) != 0 ? 1 : 0);
+}
+
+void HiddenPage::Collect() {
+    Section& hidden = program_.profile.HiddenOptions;
+    CollectBox(chkFlickSysMem, hidden.Value(kFlickSystemMemory));
+    CollectBox(chkForce60, hidden.Value(kForce60));
+    CollectBox(chkShowFrameRate, hidden.Value(kShowFrameRate));
+}
+
+}  // namespace quirn

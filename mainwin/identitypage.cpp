@@ -1,0 +1,235 @@
+#include "mainwin/identitypage.h"
+
+#include "mainwin/bindingtables.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "platform/sound.h"
+#include "profile/splitpath.h"
+
+namespace quirn {
+
+namespace {
+
+// clang-format off
+//                                       left   top  width  height
+constexpr Bounds kPilotNameLabel{         120,  165,  1500, kLabelHeight};
+constexpr Bounds kPilotName{             1680,  120,  2520, kRowHeight};
+constexpr Bounds kPasswordLabel{          120,  540,  1500, kLabelHeight};
+constexpr Bounds kPassword{              1680,  495,  2520, kRowHeight};
+constexpr Bounds kShowPassword{          4500,  525,  2400, kCheckHeight};
+constexpr Bounds kShipTypeLabel{          120,  930,  1500, kLabelHeight};
+constexpr Bounds kShipType{              1680,  870,  2520, kRowHeight};
+constexpr Bounds kResolutionLabel{       4500,  930,  1080, kLabelHeight};
+constexpr Bounds kResolution{            5580,  870,  2520, kRowHeight};
+constexpr Bounds kZoneLabel{              120, 1350,  1500, kLabelHeight};
+constexpr Bounds kZone{                  1680, 1290,  6420, kRowHeight};
+constexpr Bounds kServerIP{              1680, 1665,  2700, kLabelHeight};
+constexpr Bounds kPortLabel{             4500, 1665,  1050, kLabelHeight};
+constexpr Bounds kPortPlace{             5580, 1665,  2520, kLabelHeight};
+constexpr Bounds kZoneDescription{       1680, 1920,  6420, kLabelHeight};
+constexpr Bounds kUseProxy{               120, 2310,  1980, kCheckHeight};
+constexpr Bounds kProxyAddress{          2160, 2280,   570, kRowHeight};
+constexpr int    kProxyStep =             690;
+constexpr Bounds kChatNameLabel{          120, 2715,  1500, kLabelHeight};
+constexpr Bounds kChatPlace{             1680, 2670,  6420, kRowHeight};
+constexpr Bounds kWaveFrame{              120, 3060,  7980, 1080};
+// In the frame, the first of two rows:
+constexpr Bounds kWaveLabel{              150,  330,  1020, kLabelHeight};
+constexpr Bounds kWaveName{              1200,  330,  4350, kLabelHeight};
+constexpr Bounds kWaveBrowse{            5640,  240,  1140, 330};
+constexpr Bounds kWavePlay{              6870,  240,   960, 330};
+constexpr int    kWaveStep =              390;
+// clang-format on
+
+constexpr const char* kWaveCaptions[] = {"Shift-F11 :", "Shift-F12 :"};
+
+constexpr Bounds MovedBy(Bounds place, int right, int down) {
+    return {place.left + right, place.top + down, place.width, place.height};
+}
+
+}  // namespace
+
+IdentityPage::IdentityPage(TabStrip& strip, Program& program, Edited edited)
+    : TabPage(strip, "Identity"),
+      program_(program),
+      edited_(std::move(edited)),
+      lblPilotName(*this, kPilotNameLabel, "Pilot Name :"),
+      txtPilotName(*this, kPilotName),
+      lblPassword(*this, kPasswordLabel, "Pilot Password :"),
+      txtPassword(*this, kPassword),
+      Check1(*this, kShowPassword, "Show Password"),
+      lblShipType(*this, kShipTypeLabel, "Ship Type :"),
+      cmbShipType(*this, kShipType),
+      lblResolution(*this, kResolutionLabel, "Resolution :"),
+      cmbResolution(*this, kResolution),
+      lblZone(*this, kZoneLabel, "Zone to Start In :"),
+      cmbZone(*this, kZone),
+      lblServerIP(*this, kServerIP, "", Alignment::Left, Label::kShowsData),
+      lblPortCaption(*this, kPortLabel, "Port :"),
+      lblServerPort(*this, kPortPlace, "", Alignment::Left, Label::kShowsData),
+      lblZoneDesc(*this, kZoneDescription, "Zone Description", Alignment::Left, Label::kShowsData),
+      chkUseProxy(*this, kUseProxy, "Use Proxy Address :"),
+      lblChatName(*this, kChatNameLabel, "Chat Name :"),
+      txtChatName(*this, kChatPlace),
+      Frame3(*this, kWaveFrame, "Wave Messages") {
+    for (int i = 0; i < 4; ++i) {
+        MaskedBox& box = mskProxyAddress.emplace_back(*this, MovedBy(kProxyAddress, i * kProxyStep, 0), "999");
+        box.onChange = edited_;
+        // A point goes on to the next part, as in an address that is typed in one go.
+        box.onKeyPress = [this, i](char key) {
+            if (key != '.') return false;
+            if (i + 1 < 4) mskProxyAddress[static_cast<size_t>(i) + 1].SetFocus();
+            return true;
+        };
+    }
+    for (size_t i = 0; i < 2; ++i) {
+        const int down = static_cast<int>(i) * kWaveStep;
+        lblWaveCaption.emplace_back(Frame3, MovedBy(kWaveLabel, 0, down), kWaveCaptions[i]);
+        lblWaveFileName.emplace_back(Frame3, MovedBy(kWaveName, 0, down), "Wave Filename", Alignment::Left,
+                                     Label::kShowsData);
+        cmdWaveBrowse.emplace_back(Frame3, MovedBy(kWaveBrowse, 0, down), "Browse...").onClick = [this, i] {
+            cmdWaveBrowse_Click(i);
+        };
+        cmdWavePlay.emplace_back(Frame3, MovedBy(kWavePlay, 0, down), "Play").onClick = [this, i] {
+            cmdWavePlay_Click(i);
+        };
+    }
+
+    txtPassword.SetMasked(true);
+    cmbShipType.SetItems({std::begin(kShipTypes), std::end(kShipTypes)});
+    cmbResolution.SetItems({std::begin(kResolutions), std::end(kResolutions)});
+    cmbResolution.SetListIndex(0);
+    EnableProxy();
+
+    txtPilotName.onChange = edited_;
+    txtPassword.onChange = edited_;
+    txtChatName.onChange = edited_;
+    cmbShipType.onClick = edited_;
+    cmbResolution.onClick = edited_;
+    Check1.onClick = [this] { Check1_Click(); };
+    cmbZone.onClick = [this] { cmbZone_Click(); };
+    cmbZone.onHighlight = [this](int index) { ShowZone(index); };
+    chkUseProxy.onClick = [this] { chkUseProxy_Click(); };
+    txtChatName.onLostFocus = [this] { txtChatName_LostFocus(); };
+}
+
+void IdentityPage::SetZones(std::vector<Zone> zones) {
+    zones_ = std::move(zones);
+    std::vector<std::string> names;
+    for (const Zone& zone : zones_) names.push_back(zone.name);
+    cmbZone.SetItems(std::move(names));
+}
+
+void IdentityPage::Show() {
+    const Profile& profile = program_.profile;
+    txtPilotName.SetText(profile.Dialog.Value(kPlayerName));
+    txtPassword.SetText(profile.Dialog.Value(kPlayerPassword));
+    cmbShipType.SetListIndex(IndexOf(profile.Dialog.Value(kPlayerShipType)));
+
+    const int zone = FindZoneIndex(zones_, profile.Dialog.Value(kServerArena));
+    cmbZone.SetListIndex(zone);
+    ShowZone(zone);
+
+    for (size_t i = 0; i < lblWaveFileName.size(); ++i) {
+        lblWaveFileName[i].SetText(profile.WaveFiles[i]);
+        lblWaveFileName[i].SetToolTip(profile.WaveFiles[i]);
+    }
+    // Only the width counts, on purpose: the item of the list decides both.
+    cmbResolution.SetListIndex(ResolutionIndex(profile.Options.Value(kResolutionX)));
+
+    const std::string& proxy = profile.Dialog.Value(kProxyIP);
+    const bool useProxy = proxy.find('.') != std::string::npos;
+    const ProxyParts parts = SplitProxyAddress(proxy);
+    for (size_t i = 0; i < parts.size(); ++i) {
+        if (useProxy) mskProxyAddress[i].SetText(parts[i]);
+        else mskProxyAddress[i].Clear();
+    }
+    chkUseProxy.SetValue(useProxy ? 1 : 0);
+    EnableProxy();
+
+    txtChatName.SetText(profile.Messages.Value(kChatName));
+}
+
+void IdentityPage::Collect() {
+    Profile& profile = program_.profile;
+    profile.Dialog.Value(kPlayerName) = txtPilotName.Text();
+    profile.Dialog.Value(kPlayerPassword) = txtPassword.Text();
+    // With nothing selected the profile holds a ship or a zone that the lists do not know; it keeps it.
+    std::string& ship = profile.Dialog.Value(kPlayerShipType);
+    ship = SelectedValue(cmbShipType.ListIndex(), ship);
+    if (cmbZone.ListIndex() >= 0) {
+        const Zone& zone = zones_[static_cast<size_t>(cmbZone.ListIndex())];
+        profile.Dialog.Value(kServerArena) = zone.name;
+        profile.Dialog.Value(kServerName) = zone.address;
+        profile.Dialog.Value(kServerPort) = zone.port;
+    }
+    for (size_t i = 0; i < lblWaveFileName.size(); ++i) profile.WaveFiles[i] = lblWaveFileName[i].Text();
+    SplitResolution(cmbResolution.SelectedText(), profile.Options.Value(kResolutionX),
+                    profile.Options.Value(kResolutionY));
+
+    std::string& proxy = profile.Dialog.Value(kProxyIP);
+    if (chkUseProxy.Value() == 0) {
+        proxy.clear();
+    } else {
+        ProxyParts parts;
+        for (size_t i = 0; i < parts.size(); ++i) parts[i] = mskProxyAddress[i].Text();
+        proxy = JoinProxyAddress(parts, proxy);
+    }
+    profile.Messages.Value(kChatName) = txtChatName.Text();
+}
+
+void IdentityPage::cmbZone_Click() {
+    ShowZone(cmbZone.ListIndex());
+    edited_();
+}
+
+// Also while the player moves through the open list. Without a zone in the list the profile's own is shown.
+void IdentityPage::ShowZone(int index) {
+    const Section& dialog = program_.profile.Dialog;
+    const bool listed = index >= 0 && static_cast<size_t>(index) < zones_.size();
+    const Zone zone = listed ? zones_[static_cast<size_t>(index)]
+                             : Zone{"", dialog.Value(kServerName), dialog.Value(kServerPort), ""};
+    lblServerIP.SetText(zone.address);
+    lblServerPort.SetText(zone.port);
+    lblZoneDesc.SetText(zone.description);
+    lblZoneDesc.SetToolTip(zone.description);
+}
+
+void IdentityPage::chkUseProxy_Click() {
+    EnableProxy();
+    edited_();
+}
+
+void IdentityPage::EnableProxy() {
+    for (MaskedBox& box : mskProxyAddress) box.SetEnabled(chkUseProxy.Value() == 1);
+}
+
+void IdentityPage::txtChatName_LostFocus() {
+    const std::string normalized = NormalizeChatName(txtChatName.Text());
+    if (normalized == txtChatName.Text()) return;
+    txtChatName.SetText(normalized);
+    edited_();
+}
+
+void IdentityPage::Check1_Click() { txtPassword.SetMasked(Check1.Value() == 0); }
+
+void IdentityPage::cmdWaveBrowse_Click(size_t index) {
+    FileDialog dialog;
+    dialog.title = "Open";
+    dialog.filter = "WAV Files (*.wav)|*.wav";
+    dialog.flags = kHideReadOnly | kFileMustExist;
+    const std::string current = lblWaveFileName[index].Text();
+    if (!current.starts_with('<')) {
+        const PathParts parts = SplitPath(current);
+        dialog.folder = parts.drive + parts.folder;
+    }
+    const std::optional<std::string> chosen = AskOpenFile(dialog);
+    if (!chosen) return;
+    lblWaveFileName[index].SetText(*chosen);
+    lblWaveFileName[index].SetToolTip(*chosen);
+    edited_();
+}
+
+void IdentityPage::cmdWavePlay_Click(size_t index) { PlaySoundFile(lblWaveFileName[index].Text()); }
+
+}  // namespace quirn

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <array>
+
+#include "game/zonelist.h"
+#include "mainwin/page.h"
+#include "profile/program.h"
+
+namespace quirn {
+
+// The page "Identity": who the player is, where he starts, how he gets there.
+class IdentityPage : public TabPage {
+public:
+    IdentityPage(TabStrip& strip, Program& program, Edited edited);
+
+    // The list of the zone box. Selects nothing.
+    void SetZones(std::vector<Zone> zones);
+
+    // Profile to controls and back.
+    void Show();
+    void Collect();
+
+private:
+    void cmbZone_Click();
+    void ShowZone(int index);
+    void chkUseProxy_Click();
+    void EnableProxy();
+    void txtChatName_LostFocus();
+    void Check1_Click();
+    void cmdWaveBrowse_Click(size_t index);
+    void cmdWavePlay_Click(size_t index);
+
+    Program& program_;
+    Edited edited_;
+    std::vector<Zone> zones_;
+
+    Label lblPilotName;
+    TextBox txtPilotName;
+    Label lblPassword;
+    TextBox txtPassword;
+    CheckBox Check1;
+    Label lblShipType;
+    ComboBox cmbShipType;
+    Label lblResolution;
+    ComboBox cmbResolution;
+    Label lblZone;
+    ComboBox cmbZone;
+    Label lblServerIP;
+    Label lblPortCaption;
+    Label lblServerPort;
+    Label lblZoneDesc;
+    CheckBox chkUseProxy;
+    ControlArray<MaskedBox> mskProxyAddress;
+    Label lblChatName;
+    TextBox txtChatName;
+    Frame Frame3;
+    ControlArray<Label> lblWaveCaption;
+    ControlArray<Label> lblWaveFileName;
+    ControlArray<Button> cmdWaveBrowse;
+    ControlArray<Button> cmdWavePlay;
+};
+
+}  // namespace quirn

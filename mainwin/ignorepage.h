@@ -1,0 +1,30 @@
+#pragma once
+
+#include "mainwin/page.h"
+#include "profile/program.h"
+
+namespace quirn {
+
+// The page "Ignore List": the players whose chat is hidden.
+class IgnorePage : public TabPage {
+public:
+    IgnorePage(TabStrip& strip, Program& program, Edited edited);
+
+    void Show();
+    void Collect();
+
+private:
+    bool txtIgnoreAdd_KeyPress(char key);
+    void Command1_Click();
+    void Command2_Click();
+
+    Program& program_;
+    Edited edited_;
+    ListBox lstIgnoreList;
+    Label Label12;
+    TextBox txtIgnoreAdd;
+    Button Command1;
+    Button Command2;
+};
+
+}  // namespace quirn

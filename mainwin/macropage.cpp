@@ -1,0 +1,47 @@
+#include "mainwin/macropage.h"
+
+namespace quirn {
+
+namespace {
+
+// clang-format off
+//                      left   top  width  height
+constexpr Bounds kLabel{ 120,  195,  1140, kLabelHeight};
+constexpr Bounds kText{ 1290,  150,  6810, kRowHeight};
+constexpr int    kStep = 420;
+constexpr Bounds kImport{120, 3660,  2280, kButtonHeight};
+// clang-format on
+
+}  // namespace
+
+MacroPage::MacroPage(TabStrip& strip, const char* caption, const char* keyName, Program& program, int firstMacro,
+                     Edited edited)
+    : TabPage(strip, caption), program_(program), firstMacro_(firstMacro) {
+    for (int i = 0; i < kMacrosPerSet; ++i) {
+        const int down = i * kStep;
+        labels_.emplace_back(*this, Bounds{kLabel.left, kLabel.top + down, kLabel.width, kLabel.height},
+                             std::string(keyName) + " F" + std::to_string(i + 1) + " -");
+        TextBox& text = txtMacro.emplace_back(*this, Bounds{kText.left, kText.top + down, kText.width, kText.height});
+        text.onChange = edited;
+        text.onKeyPress = [this, &text](char key) {
+            if (key != '%' || !onPercent) return false;
+            onPercent(text);
+            return true;
+        };
+    }
+    Command5.emplace_back(*this, kImport, "Import SS Macro File").onClick = [this] {
+        if (onImport) onImport();
+    };
+}
+
+void MacroPage::Show() {
+    for (int i = 0; i < kMacrosPerSet; ++i)
+        txtMacro[static_cast<size_t>(i)].SetText(program_.profile.Messages.Value(firstMacro_ + i));
+}
+
+void MacroPage::Collect() {
+    for (int i = 0; i < kMacrosPerSet; ++i)
+        program_.profile.Messages.Value(firstMacro_ + i) = txtMacro[static_cast<size_t>(i)].Text();
+}
+
+}  // namespace quirn

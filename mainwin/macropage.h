@@ -1,0 +1,37 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+
+#include "mainwin/page.h"
+#include "profile/program.h"
+
+namespace quirn {
+
+inline constexpr int kMacrosPerSet = 8;
+
+// One of the two pages with eight chat macros each. txtShift(0..7) on "Macros Shift", txtRShift(0..7) on "Macros R-Shift".
+class MacroPage : public TabPage {
+public:
+    // firstMacro: the index in Messages of the page's first macro, 1 or 9. keyName stands before "F1 -" in the labels.
+    MacroPage(TabStrip& strip, const char* caption, const char* keyName, Program& program, int firstMacro,
+              Edited edited);
+
+    void Show();
+    void Collect();
+
+    ControlArray<TextBox>& Texts() { return txtMacro; }
+
+    std::function<void(TextBox&)> onPercent;  // "%" typed in a macro
+    std::function<void()> onImport;
+
+private:
+    Program& program_;
+    int firstMacro_;
+    ControlArray<Label> labels_;
+    ControlArray<TextBox> txtMacro;
+    ControlArray<Button> Command5;
+};
+
+}  // namespace quirn

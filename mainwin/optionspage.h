@@ -1,0 +1,39 @@
+#pragma once
+
+#include "mainwin/page.h"
+#include "profile/program.h"
+
+namespace quirn {
+
+// The page "Options": what the game shows and plays. Its check boxes chkSettings(n) carry the name of their setting as
+// their tag; the main window binds them together with the two that stand on other pages.
+class OptionsPage : public TabPage {
+public:
+    OptionsPage(TabStrip& strip, Program& program, Edited edited);
+
+    void Show();
+    void Collect();
+
+    ControlArray<CheckBox>& Boxes() { return chkSettings; }
+
+private:
+
+    Program& program_;
+    ControlArray<Frame> Frame1;  // (0..5) the option groups, (6) Miscellaneous
+    OptionGroup optWeapon, optStatus, optEnergy, optRadar, optFont, optSound;
+    ControlArray<OptionButton> buttons_;
+    Label lblMsgNameLen;
+    TextBox txtMsgNameLen;
+    Label lblMusicVolume;
+    TextBox txtMusicVolume;
+    Label lblMsgLines;
+    TextBox txtMsgLines;
+    Label lblBounty;
+    TextBox txtBounty;
+    ControlArray<UpDown> UpDown_;
+    ControlArray<CheckBox> chkSettings;
+
+    OptionGroup* const groups_[6] = {&optWeapon, &optStatus, &optEnergy, &optRadar, &optFont, &optSound};
+};
+
+}  // namespace quirn

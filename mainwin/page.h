@@ -1,0 +1,24 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+
+#include "platform/controls.h"
+
+// What the pages of the main window have in common. Each page is a class with its controls as members, in creation
+// order, which is the tab order; its layout is a table at the top of its .cpp, in twips inside the page.
+namespace quirn {
+
+// Called when the player has changed something that belongs to the profile.
+using Edited = std::function<void()>;
+
+// Several controls of one kind, addressed by index from 0. They never move once created.
+template <class T>
+using ControlArray = std::deque<T>;
+
+inline constexpr int kRowHeight = 285;    // a text box or list
+inline constexpr int kLabelHeight = 195;  // one line of text
+inline constexpr int kCheckHeight = 225;
+inline constexpr int kButtonHeight = 345;
+
+}  // namespace quirn
