@@ -1,0 +1,259 @@
+#include "mainwin/document.h"
+
+#include "mainwin/menurows.h"
+#include "platform/headless/dialogs.h"
+#include "profile/profilefile.h"
+#include "tests/testing/profiles.h"
+
+namespace quirn {
+namespace {
+
+using namespace test;
+using headless::ExpectOpenFile;
+using headless::ExpectSaveFile;
+
+constexpr char kFilter[] = "All Files (*.*)|*.*|QRN Files (*.qrn)|*.qrn|Text Files (*.txt)|*.txt";
+
+// The main window is two texts and a pilot name and a macro that the player may be typing in.
+class DocumentCommandsTest : public WorldTest {
+protected:
+    DocumentCommandsTest() {
+        program_.profile = SampleProfile();
+        program_.gameFolder = Scratch() + "\\game";
+        program_.qrnFolder = Scratch();
+        MakeFolder(program_.gameFolder);
+        PutFile(old_, "[QUIRN]\r\nVersion=1.61\r\n[Dialog]\r\nPlayerName=Old\r\n");
+        ShowProfile();
+    }
+
+    void ShowProfile() {
+        pilot_ = program_.profile.Dialog.Value(kPlayerName);
+        macro_ = program_.profile.Messages.Value(16);
+    }
+
+    DocumentView View() {
+        return {.ShowProfile = [this] { ShowProfile(); },
+                .CollectProfile =
+                    [this] {
+                        program_.profile.Dialog.Value(kPlayerName) = pilot_;
+                        program_.profile.Messages.Value(16) = macro_;
+                    },
+                .ShowMacros = [this] { macro_ = program_.profile.Messages.Value(16); },
+                .ShowMacroPage = [this] { macroPageInFront_ = true; },
+                .SetTitle = [this](const std::string& title) { title_ = title; },
+                .SetStatus = [this](const std::string& status) { status_ = status; },
+                .RefreshRecentMenu = [this] { recentInMenu_ = program_.recentFiles[0]; }};
+    }
+
+    void ExpectQuestion(Answer answer) {
+        ExpectMessage("Save changes to " + program_.CurrentFile, 35, answer, "Save Changes?");
+    }
+
+    std::string PilotIn(const std::string& file) {
+        Profile profile = EmptyProfile();
+        return LoadProfile(profile, file) ? profile.Dialog.Value(kPlayerName) : "no file";
+    }
+
+    const std::string old_ = Scratch() + "\\old.qrn";
+    const std::string new_ = Scratch() + "\\my.best.qrn";
+    Program program_;
+    std::string pilot_, macro_, title_ = "as before", status_, recentInMenu_;
+    bool macroPageInFront_ = false;
+    Document document_{program_, "QUIRN v1.61", View()};
+};
+
+TEST_F(DocumentCommandsTest, NewDoesNothingToACleanProfile) {
+    document_.New();
+    EXPECT_EQ(program_.CurrentFile, "<current SS settings>");
+    EXPECT_EQ(title_, "as before");
+    EXPECT_EQ(pilot_, "D1");
+
+    program_.dirty = true;
+    ExpectQuestion(Answer::Cancel);
+    document_.New();
+    EXPECT_TRUE(program_.dirty);
+    EXPECT_EQ(pilot_, "D1");
+
+    ExpectQuestion(Answer::No);
+    document_.New();
+    EXPECT_EQ(program_.CurrentFile, "<untitled.qrn>");
+    EXPECT_EQ(title_, "QUIRN v1.61 - <untitled.qrn>");
+    EXPECT_EQ(pilot_, "");
+    EXPECT_FALSE(program_.dirty);
+    EXPECT_EQ(program_.profile.Options.Value(1), SampleProfile().Options.Value(1));
+}
+
+TEST_F(DocumentCommandsTest, OpenAsksFirstAndKeepsANameThatFailed) {
+    program_.dirty = true;
+    ExpectQuestion(Answer::Cancel);
+    document_.Open();
+
+    program_.dirty = false;
+    ExpectOpenFile("Open", std::nullopt);
+    document_.Open();
+    EXPECT_EQ(headless::LastFileDialog().filter, kFilter);
+    EXPECT_EQ(headless::LastFileDialog().filterIndex, 2);
+    EXPECT_EQ(headless::LastFileDialog().folder, Scratch());
+    EXPECT_EQ(headless::LastFileDialog().fileName, "");
+    EXPECT_EQ(headless::LastFileDialog().flags, 0x1004u);
+    EXPECT_EQ(program_.CurrentFile, kCurrentSettings);
+    EXPECT_EQ(status_, "");
+
+    ExpectOpenFile("Open", old_);
+    document_.Open();
+    EXPECT_EQ(program_.CurrentFile, old_);
+    EXPECT_EQ(title_, "QUIRN v1.61 - old.qrn");
+    EXPECT_EQ(status_, "File has been loaded");
+    EXPECT_EQ(pilot_, "Old");
+    EXPECT_EQ(recentInMenu_, old_);
+
+    ExpectOpenFile("Open", new_);
+    ExpectMessage("ERROR - Could not find profile named '" + new_ + "'", kCritical);
+    document_.Open();
+    EXPECT_EQ(program_.CurrentFile, new_);
+    EXPECT_EQ(title_, "QUIRN v1.61 - old.qrn");
+    EXPECT_EQ(status_, "ERROR loading file");
+    EXPECT_EQ(program_.recentFiles[0], old_);
+
+    program_.dirty = true;
+    ExpectQuestion(Answer::No);
+    document_.OpenDropped(old_);
+    EXPECT_EQ(program_.CurrentFile, old_);
+    EXPECT_FALSE(program_.dirty);
+}
+
+TEST_F(DocumentCommandsTest, SaveAsTakesNameTitleAndPlaceInTheList) {
+    ExpectSaveFile("Save As", std::nullopt);
+    document_.Save();  // untitled
+    EXPECT_EQ(headless::LastFileDialog().filter, kFilter);
+    EXPECT_EQ(headless::LastFileDialog().filterIndex, 2);
+    EXPECT_EQ(headless::LastFileDialog().folder, Scratch());
+    EXPECT_EQ(headless::LastFileDialog().fileName, "untitled.qrn");
+    EXPECT_EQ(headless::LastFileDialog().flags, 6u);
+    EXPECT_EQ(title_, "as before");
+
+    program_.dirty = true;
+    pilot_ = "Typed";
+    ExpectSaveFile("Save As", new_);
+    EXPECT_TRUE(document_.SaveAs());
+    EXPECT_EQ(program_.CurrentFile, new_);
+    EXPECT_EQ(title_, "QUIRN v1.61 - my.best.qrn");
+    EXPECT_EQ(status_, "File has been saved");
+    EXPECT_EQ(recentInMenu_, new_);
+    EXPECT_FALSE(program_.dirty);
+    EXPECT_EQ(PilotIn(new_), "Typed");
+
+    // The question saves by the dialog, whatever the profile's name.
+    program_.dirty = true;
+    ExpectQuestion(Answer::Yes);
+    ExpectSaveFile("Save As", std::nullopt);
+    EXPECT_FALSE(document_.AskSaveChanges());
+    EXPECT_EQ(headless::LastFileDialog().fileName, "my.best.qrn");
+    EXPECT_TRUE(program_.dirty);
+    ExpectQuestion(Answer::Yes);
+    ExpectSaveFile("Save As", old_);
+    EXPECT_TRUE(document_.AskSaveChanges());
+    EXPECT_FALSE(program_.dirty);
+    EXPECT_EQ(PilotIn(old_), "Typed");
+}
+
+TEST_F(DocumentCommandsTest, SaveWritesTheCurrentFileAndNothingElse) {
+    program_.CurrentFile = old_;
+    program_.dirty = true;
+    pilot_ = "Typed";
+    document_.Save();
+    EXPECT_EQ(PilotIn(old_), "Typed");
+    EXPECT_EQ(status_, "File has been saved");
+    EXPECT_FALSE(program_.dirty);
+    EXPECT_EQ(title_, "as before");
+    EXPECT_EQ(program_.recentFiles[0], "");
+}
+
+TEST_F(DocumentCommandsTest, ASaveThatFailsIsShownAndLeavesTheChangesUnsaved) {
+    program_.CurrentFile = old_;
+    program_.dirty = true;
+    SetReadOnly(old_);
+    ExpectError(75, "Path/File access error");
+    document_.Save();
+    ExpectSaveFile("Save As", old_);
+    ExpectError(75, "Path/File access error");
+    EXPECT_FALSE(document_.SaveAs());
+    EXPECT_TRUE(program_.dirty);
+    EXPECT_EQ(status_, "");
+    EXPECT_EQ(program_.recentFiles[0], "");
+    ExpectQuestion(Answer::Yes);
+    ExpectSaveFile("Save As", Scratch() + "\\no folder\\a.qrn");
+    ExpectError(76, "Path not found");
+    EXPECT_FALSE(document_.AskSaveChanges());
+}
+
+TEST_F(DocumentCommandsTest, ARecentFileLoadsWithoutAskingAndKeepsTheCurrentName) {
+    program_.recentFiles = {new_, old_, "", "", ""};
+    program_.CurrentFile = new_;
+    program_.dirty = true;
+    document_.OpenRecent(1);
+    EXPECT_EQ(pilot_, "Old");
+    EXPECT_EQ(title_, "QUIRN v1.61 - old.qrn");
+    EXPECT_EQ(status_, "File has been loaded");
+    EXPECT_EQ(recentInMenu_, old_);
+    EXPECT_EQ(program_.CurrentFile, new_);
+    EXPECT_TRUE(program_.dirty);
+
+    ExpectMessage("ERROR - Could not find profile named '" + new_ + "'", kCritical);
+    document_.OpenRecent(1);
+    EXPECT_EQ(status_, "ERROR loading file");
+    EXPECT_EQ(program_.recentFiles[1], new_);
+    EXPECT_EQ(title_, "QUIRN v1.61 - old.qrn");
+}
+
+TEST_F(DocumentCommandsTest, ImportKeepsWhatWasTypedInOtherMacros) {
+    const std::string macros = Scratch() + "\\duel.ssm";
+    PutFile(macros, "one\r\ntwo\r\n");
+    macro_ = "typed";
+    ExpectOpenFile("Import Subspace Macro File", macros);
+    document_.Import();
+    EXPECT_EQ(headless::LastFileDialog().filter,
+              "All Files (*.*)|*.*|Subspace Macro Files (*.ssm)|*.ssm|Text Files (*.txt)|*.txt");
+    EXPECT_EQ(headless::LastFileDialog().filterIndex, 2);
+    EXPECT_EQ(headless::LastFileDialog().folder, program_.gameFolder);
+    EXPECT_EQ(headless::LastFileDialog().flags, 4u);
+    EXPECT_EQ(program_.profile.Messages.Value(2), "two");
+    EXPECT_EQ(macro_, "typed");
+    EXPECT_TRUE(macroPageInFront_);
+    EXPECT_TRUE(program_.dirty);
+    EXPECT_EQ(status_, "Macro file has been imported");
+
+    program_.dirty = false;
+    status_.clear();
+    ExpectOpenFile("Import Subspace Macro File", macros);
+    document_.Import();  // the same again
+    EXPECT_FALSE(program_.dirty);
+    EXPECT_EQ(status_, "Macro file has been imported");
+
+    status_.clear();
+    ExpectOpenFile("Import Subspace Macro File", Scratch() + "\\gone.ssm");
+    ExpectError(53, "File not found");
+    document_.Import();
+    EXPECT_EQ(status_, "");
+    ExpectOpenFile("Import Subspace Macro File", std::nullopt);
+    document_.Import();
+    EXPECT_EQ(status_, "");
+}
+
+TEST(RecentMenuTest, ShowsFilesOnceThereAreSome) {
+    Menu menu(kMainMenuRows);
+    HideRecentMenu(menu);
+    RefreshRecentMenu(menu, {"", "  ", "", "", ""});
+    EXPECT_FALSE(menu.At(mnuFileMRU).visible);
+    EXPECT_FALSE(menu.At(mnuFileBarMRU).visible);
+    EXPECT_TRUE(menu.At(mnuFile_Close).visible);
+    RefreshRecentMenu(menu, {"C:\\a.qrn", "", "", "", "D:\\b.qrn"});
+    EXPECT_EQ(menu.At(mnuFileMRU).caption, "&1 C:\\a.qrn");
+    EXPECT_EQ(menu.At(mnuFileMRU + 4).caption, "&5 D:\\b.qrn");
+    EXPECT_TRUE(menu.At(mnuFileMRU + 4).visible);
+    EXPECT_FALSE(menu.At(mnuFileMRU + 1).visible);
+    EXPECT_TRUE(menu.At(mnuFileBarMRU).visible);
+}
+
+}  // namespace
+}  // namespace quirn
