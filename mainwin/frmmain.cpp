@@ -100,6 +100,7 @@ void frmMain::Form_Load() {
     Move(ReadMainPlace(Place()));
     ReadLists(program_);
     BuildFavouritesMenu();
+    HideRecentMenu(menuBar_);
     RefreshRecentMenu(menuBar_, program_.recentFiles);
     // A second copy finds the first by the start of this text.
     SetCaption(VersionTitle() + " - " + program_.CurrentFile);
