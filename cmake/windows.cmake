@@ -17,7 +17,7 @@ file(GLOB backend_sources CONFIGURE_DEPENDS platform/win32/*.cpp)
 set(entry_sources ${CMAKE_SOURCE_DIR}/platform/win32/entry.cpp ${CMAKE_SOURCE_DIR}/platform/win32/dialogs.cpp)
 list(REMOVE_ITEM backend_sources ${entry_sources})
 add_library(quirn_backend OBJECT ${backend_sources})
-target_link_libraries(quirn_backend PUBLIC quirn_options user32 gdi32 comctl32 comdlg32 advapi32 shell32 winmm)
+target_link_libraries(quirn_backend PUBLIC quirn_options user32 gdi32 comctl32 comdlg32 advapi32 shell32 ole32 winmm)
 
 # The icon is drawn once, as a vector picture, and rendered in the sizes that Windows asks for.
 set(icon ${CMAKE_BINARY_DIR}/quirn.ico)

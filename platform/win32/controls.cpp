@@ -1,83 +1,169 @@
-#include "platform/win32/controls.h"
+#include <windows.h>
 
-#include "platform/form.h"
+#include <commctrl.h>  // needs windows.h first
+
+#include <algorithm>
+
 #include "platform/native.h"
 #include "platform/win32/metrics.h"
+#include "platform/win32/window.h"
 
+// Windows for controls: class and styles by kind, place, font.
 namespace quirn {
 
 namespace win32 {
 
 namespace {
 
-HWND WindowOf(const Control& control) { return static_cast<HWND>(control.window); }
+struct Look {
+    const char* className;
+    DWORD style;
+    DWORD extendedStyle = 0;
+    DWORD commonClass = 0;  // to be registered before the first use
+};
 
-Control* ControlOf(HWND window) { return reinterpret_cast<Control*>(GetWindowLongPtrA(window, GWLP_USERDATA)); }
-
-void ApplyFont(Control& control) {
-    const HWND window = WindowOf(control);
-    const auto old = reinterpret_cast<HFONT>(SendMessageA(window, WM_GETFONT, 0, 0));
-    const HFONT font = CreateFontFor(control.FontUsed(), DpiOf(window));
-    SendMessageA(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
-    if (old != nullptr) DeleteObject(old);
+DWORD LabelStyle(const Label& label) {
+    DWORD style = label.ShowsData() ? SS_NOPREFIX | SS_ENDELLIPSIS : 0;
+    if (!label.ToolTip().empty()) style |= SS_NOTIFY;
+    switch (label.AlignmentUsed()) {
+        case Alignment::Left: return style | SS_LEFT;
+        case Alignment::Center: return style | SS_CENTER;
+        case Alignment::Right: return style | SS_RIGHT;
+    }
+    return style;
 }
 
-DWORD StyleOf(const Control& control) {
+Look LookOf(const Control& control) {
+    const Form& form = control.Holder().Owner();
     switch (control.Kind()) {
-        case ControlKind::Label:
-            switch (static_cast<const Label&>(control).AlignmentUsed()) {
-                case Alignment::Left: return SS_NOPREFIX | SS_LEFT;
-                case Alignment::Center: return SS_NOPREFIX | SS_CENTER;
-                case Alignment::Right: return SS_NOPREFIX | SS_RIGHT;
-            }
-            return 0;
-        case ControlKind::Picture: return SS_OWNERDRAW;
+        case ControlKind::Label: return {"STATIC", LabelStyle(static_cast<const Label&>(control))};
+        case ControlKind::Picture: return {"STATIC", SS_OWNERDRAW};
+        case ControlKind::Button:
+            return {"BUTTON", WS_TABSTOP | static_cast<DWORD>(&control == form.DefaultButton() ? BS_DEFPUSHBUTTON
+                                                                                               : BS_PUSHBUTTON)};
+        // Neither changes by itself when clicked: the control's state does, and the window follows.
+        case ControlKind::CheckBox: return {"BUTTON", WS_TABSTOP | BS_CHECKBOX};
+        case ControlKind::OptionButton: return {"BUTTON", BS_RADIOBUTTON};
+        case ControlKind::TextBox:
+        case ControlKind::MaskedBox: return {"EDIT", WS_TABSTOP | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE};
+        case ControlKind::ComboBox: return {"COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST};
+        case ControlKind::ListBox: {
+            const bool extended = static_cast<const ListBox&>(control).Style() == ListStyle::Extended;
+            return {"LISTBOX",
+                    WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT |
+                        static_cast<DWORD>(extended ? LBS_EXTENDEDSEL : 0),
+                    WS_EX_CLIENTEDGE};
+        }
+        case ControlKind::Frame: return {"BUTTON", BS_GROUPBOX};
+        case ControlKind::TabStrip: return {WC_TABCONTROLA, WS_TABSTOP | WS_CLIPSIBLINGS, 0, ICC_TAB_CLASSES};
+        case ControlKind::UpDown: return {UPDOWN_CLASSA, UDS_ARROWKEYS, 0, ICC_UPDOWN_CLASS};
+        case ControlKind::StatusBar:
+            return {STATUSCLASSNAMEA, static_cast<DWORD>(form.Border() == FormBorder::Sizable ? SBARS_SIZEGRIP : 0), 0,
+                    ICC_BAR_CLASSES};
     }
-    return 0;
+    return {"STATIC", 0};
+}
+
+void RegisterCommonClass(DWORD commonClass) {
+    static DWORD registered = 0;
+    if ((registered & commonClass) == commonClass) return;
+    registered |= commonClass;
+    const INITCOMMONCONTROLSEX classes{sizeof(INITCOMMONCONTROLSEX), commonClass};
+    InitCommonControlsEx(&classes);
+}
+
+const Control* Predecessor(const Control& control) {
+    const auto& all = control.Holder().Controls();
+    const auto at = std::find(all.begin(), all.end(), &control);
+    return at == all.begin() || at == all.end() ? nullptr : *(at - 1);
+}
+
+// Arrow keys and screen readers see what lies between two controls that start a group as one.
+bool StartsGroup(const Control& control) {
+    const Control* before = Predecessor(control);
+    const bool afterOption = before != nullptr && before->Kind() == ControlKind::OptionButton;
+    if (control.Kind() != ControlKind::OptionButton) return before == nullptr || afterOption;
+    return static_cast<const OptionButton&>(control).Index() == 0;
+}
+
+// Siblings above a window are cut out of what it paints, except in a frame: that lies above what is in it.
+bool CutsSiblings(const Control& control) {
+    if (control.Kind() == ControlKind::Frame) return false;
+    const Bounds& place = control.Place();
+    const auto& all = control.Holder().Controls();
+    return std::none_of(all.begin(), all.end(), [&](const Control* other) {
+        const Bounds& frame = other->Place();
+        return other->Kind() == ControlKind::Frame && place.left < frame.Right() && frame.left < place.Right() &&
+               place.top < frame.Bottom() && frame.top < place.Bottom();
+    });
+}
+
+RECT PixelPlace(const Control& control) {
+    RECT place = ToPixels(control.Place(), DpiOf(control));
+    // The place of a combo box's window reaches to the end of its open list.
+    constexpr int kLinesDropped = 11;
+    if (control.Kind() == ControlKind::ComboBox) place.bottom += kLinesDropped * (place.bottom - place.top);
+    return place;
+}
+
+void ApplyFont(const Control& control) {
+    const HFONT font = FontFor(control.FontUsed(), DpiOf(control));
+    SendMessageA(WindowOf(control), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    if (control.Kind() == ControlKind::ComboBox) {
+        constexpr int kBorders = 6;
+        const int height = ToPixels(control.Place().height, DpiOf(control));
+        SendMessageA(WindowOf(control), CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), height - kBorders);
+    }
+    if (control.Kind() == ControlKind::TabStrip)
+        SendMessageA(WindowOf(control), TCM_SETITEMSIZE, 0,
+                     MAKELPARAM(0, ToPixels(TabStrip::kTabHeight, DpiOf(control))));
 }
 
 }  // namespace
 
-void CreateControl(HWND parent, Control& control) {
-    DWORD style = WS_CHILD | StyleOf(control);
+RECT ToPixels(const Bounds& place, int dpi) {
+    const int left = ToPixels(place.left, dpi);
+    const int top = ToPixels(place.top, dpi);
+    return {left, top, left + ToPixels(place.width, dpi), top + ToPixels(place.height, dpi)};
+}
+
+int DpiOf(const Control& control) {
+    return DpiOf(WindowOf(control.Holder().Owner()));
+}
+
+void CreateControls(Container& container) {
+    for (Control* control : container.Controls())
+        if (control->Visible() && control->window == nullptr) CreateControl(*control);
+}
+
+void CreateControl(Control& control) {
+    const Look look = LookOf(control);
+    RegisterCommonClass(look.commonClass);
+    DWORD style = WS_CHILD | look.style;
     if (control.Visible()) style |= WS_VISIBLE;
     if (!control.Enabled()) style |= WS_DISABLED;
-    const HWND window = CreateWindowExA(0, "STATIC", control.Text().c_str(), style, 0, 0, 0, 0, parent, nullptr,
-                                        GetModuleHandleA(nullptr), nullptr);
-    SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&control));
+    if (StartsGroup(control)) style |= WS_GROUP;
+    if (CutsSiblings(control)) style |= WS_CLIPSIBLINGS;
+    const RECT place = PixelPlace(control);
+    const HWND window = CreateWindowExA(look.extendedStyle, look.className, control.Text().c_str(), style, place.left,
+                                        place.top, place.right - place.left, place.bottom - place.top,
+                                        WindowOf(control.Holder()), nullptr, Instance(), nullptr);
+    if (window == nullptr) return;
     control.window = window;
-    PlaceControl(control);
+    ApplyFont(control);
+    FillControl(control);
+    SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&control));
+    Subclass(control);
+    if (control.Kind() == ControlKind::TabStrip) ShowFrontPage(static_cast<TabStrip&>(control));
 }
 
 void PlaceControl(Control& control) {
-    const int dpi = DpiOf(WindowOf(control));
-    const Bounds& place = control.Place();
-    MoveWindow(WindowOf(control), ToPixels(place.left, dpi), ToPixels(place.top, dpi), ToPixels(place.width, dpi),
-               ToPixels(place.height, dpi), TRUE);
+    const RECT place = PixelPlace(control);
+    SetWindowPos(WindowOf(control), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
     ApplyFont(control);
-}
-
-HBRUSH ColorStatic(const Form& form, HDC device, HWND window) {
-    const Control* control = ControlOf(window);
-    if (control == nullptr) return nullptr;
-    const Color back = form.BackColor().value_or(GetSysColor(COLOR_BTNFACE));
-    SetTextColor(device, control->ForeColor().value_or(GetSysColor(COLOR_WINDOWTEXT)));
-    SetBkColor(device, back);
-    SetDCBrushColor(device, back);
-    return static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
-}
-
-void DrawControl(const DRAWITEMSTRUCT& item) {
-    const Control* control = ControlOf(item.hwndItem);
-    if (control == nullptr || control->Kind() != ControlKind::Picture) return;
-    const int width = item.rcItem.right - item.rcItem.left;
-    const int height = item.rcItem.bottom - item.rcItem.top;
-    const auto icon = static_cast<HICON>(LoadImageA(
-        GetModuleHandleA(nullptr), MAKEINTRESOURCEA(static_cast<const Picture*>(control)->Resource()), IMAGE_ICON,
-        width, height, LR_DEFAULTCOLOR));
-    if (icon == nullptr) return;
-    DrawIconEx(item.hDC, item.rcItem.left, item.rcItem.top, icon, width, height, 0, nullptr, DI_NORMAL);
-    DestroyIcon(icon);
+    if (control.Kind() == ControlKind::TabStrip) PlacePages(static_cast<TabStrip&>(control));
+    InvalidateRect(WindowOf(control), nullptr, TRUE);
 }
 
 }  // namespace win32
@@ -88,23 +174,10 @@ using namespace win32;
 
 void DestroyControl(Control& control) {
     const HWND window = WindowOf(control);
-    if (window == nullptr) return;
-    const auto font = reinterpret_cast<HFONT>(SendMessageA(window, WM_GETFONT, 0, 0));
-    DestroyWindow(window);
-    if (font != nullptr) DeleteObject(font);
     control.window = nullptr;
-}
-
-void ControlChanged(Control& control, Aspect aspect) {
-    const HWND window = WindowOf(control);
-    switch (aspect) {
-        case Aspect::Text: SetWindowTextA(window, control.Text().c_str()); break;
-        case Aspect::Enabled: EnableWindow(window, control.Enabled()); break;
-        case Aspect::Visible: ShowWindow(window, control.Visible() ? SW_SHOWNA : SW_HIDE); break;
-        case Aspect::Place: PlaceControl(control); break;
-        case Aspect::Font: ApplyFont(control); break;
-        case Aspect::Colors: InvalidateRect(window, nullptr, TRUE); break;
-    }
+    StateOf(control.Holder().Owner()).toolTipOwners.erase(window);
+    SetWindowLongPtrA(window, GWLP_USERDATA, 0);
+    DestroyWindow(window);
 }
 
 }  // namespace native

@@ -2,11 +2,14 @@
 
 #include <windows.h>
 
+#include <shellapi.h>  // needs windows.h first
+
+#include <array>
 #include <map>
 
 #include "platform/native.h"
-#include "platform/win32/controls.h"
 #include "platform/win32/metrics.h"
+#include "platform/win32/window.h"
 #include "resources/resource.h"
 
 namespace quirn {
@@ -17,9 +20,7 @@ namespace {
 
 constexpr char kFormClass[] = "QUIRNForm";
 
-int loadedForms = 0;
-
-HWND WindowOf(const Form& form) { return static_cast<HWND>(form.window); }
+std::map<const Form*, FormWindow> loadedForms;
 
 DWORD StyleOf(const Form& form) {
     switch (form.Border()) {
@@ -66,93 +67,108 @@ void TellPlace(Form& form) {
                       ToTwips(rect.right - rect.left, dpi), ToTwips(rect.bottom - rect.top, dpi)});
 }
 
+void ChangeDpi(Form& form, const RECT& place) {
+    SetWindowPos(WindowOf(form), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+    ForEachControl(form, [](Control& control) {
+        if (control.window != nullptr) PlaceControl(control);
+    });
+}
+
+void Resize(Form& form) {
+    TellPlace(form);
+    for (const Control* control : form.Controls())
+        if (control->Kind() == ControlKind::StatusBar && control->window != nullptr)
+            SendMessageA(WindowOf(*control), WM_SIZE, 0, 0);
+    form.WindowResized();
+}
+
+void DropFile(Form& form, HDROP drop) {
+    std::array<char, MAX_PATH + 1> path{};
+    DragQueryFileA(drop, 0, path.data(), static_cast<UINT>(path.size()));
+    DragFinish(drop);
+    if (form.onDropFile && path[0] != '\0') CallHandler([&] { form.onDropFile(path.data()); });
+}
+
+// The window itself has the keyboard only when it has just been activated; the control that had it gets it back.
+void RestoreFocus(const Form& form) {
+    const Control* active = form.ActiveControl();
+    if (active != nullptr && active->window != nullptr && IsWindowVisible(WindowOf(*active)))
+        SetFocus(WindowOf(*active));
+}
+
+void PaintBackground(HWND window, HDC device, Color color) {
+    RECT area{};
+    GetClientRect(window, &area);
+    SetDCBrushColor(device, color);
+    FillRect(device, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+}
+
 LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     auto* form = reinterpret_cast<Form*>(GetWindowLongPtrA(window, GWLP_USERDATA));
     if (form == nullptr) return DefWindowProcA(window, message, wParam, lParam);
+    if (const auto result = NotificationFromControl(*form, message, wParam, lParam)) return *result;
+    if (TrayMessage(*form, message, wParam, lParam)) return 0;
     switch (message) {
         case WM_CLOSE: form->UserCloses(UnloadMode::CloseBox); return 0;
         case WM_QUERYENDSESSION: form->UserCloses(UnloadMode::SystemShutdown); return form->IsLoaded() ? FALSE : TRUE;
-        case WM_CHAR: form->UserTypes(static_cast<char>(wParam)); return 0;
-        case WM_SHOWWINDOW: form->WindowShown(wParam != FALSE); break;
+        case WM_COMMAND:
+            if (HIWORD(wParam) == 0 && form->MenuBar() != nullptr) form->MenuBar()->UserChooses(LOWORD(wParam));
+            return 0;
+        case WM_MENUSELECT: MenuHighlighted(*form, wParam, lParam); break;
+        case WM_DROPFILES: DropFile(*form, reinterpret_cast<HDROP>(wParam)); return 0;
+        case WM_SETFOCUS: RestoreFocus(*form); return 0;
+        case WM_SHOWWINDOW:
+            // An owner that is minimised takes its windows with it, which is no hiding of theirs.
+            if (lParam == 0) form->WindowShown(wParam != FALSE);
+            break;
         case WM_SIZE:
             form->WindowMinimized(wParam == SIZE_MINIMIZED);
-            TellPlace(*form);
-            break;
-        case WM_MOVE: TellPlace(*form); break;
-        case WM_DPICHANGED: {
-            const auto* place = reinterpret_cast<const RECT*>(lParam);
-            SetWindowPos(window, nullptr, place->left, place->top, place->right - place->left,
-                         place->bottom - place->top, SWP_NOZORDER | SWP_NOACTIVATE);
-            for (Control* control : form->Controls()) PlaceControl(*control);
+            if (wParam != SIZE_MINIMIZED) Resize(*form);
             return 0;
-        }
+        case WM_MOVE: TellPlace(*form); break;
+        case WM_DPICHANGED: ChangeDpi(*form, *reinterpret_cast<const RECT*>(lParam)); return 0;
         case WM_ERASEBKGND:
-            if (const auto color = form->BackColor()) {
-                RECT area{};
-                GetClientRect(window, &area);
-                const HBRUSH brush = CreateSolidBrush(*color);
-                FillRect(reinterpret_cast<HDC>(wParam), &area, brush);
-                DeleteObject(brush);
-                return TRUE;
-            }
-            break;
-        case WM_CTLCOLORSTATIC:
-            if (const HBRUSH brush = ColorStatic(*form, reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)))
-                return reinterpret_cast<LRESULT>(brush);
-            break;
-        case WM_DRAWITEM: DrawControl(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
+            if (!form->BackColor()) break;
+            PaintBackground(window, reinterpret_cast<HDC>(wParam), *form->BackColor());
+            return TRUE;
         default: break;
     }
     return DefWindowProcA(window, message, wParam, lParam);
 }
 
-void RegisterFormClass() {
-    static const bool registered = [] {
+ATOM FormClass() {
+    static const ATOM registered = [] {
         WNDCLASSEXA description{};
         description.cbSize = sizeof(description);
         description.lpfnWndProc = FormProc;
-        description.hInstance = GetModuleHandleA(nullptr);
+        description.hInstance = Instance();
         description.hIcon = LoadIconA(description.hInstance, MAKEINTRESOURCEA(IDI_QUIRN));
         description.hCursor = LoadCursor(nullptr, IDC_ARROW);
         description.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
         description.lpszClassName = kFormClass;
-        return RegisterClassExA(&description) != 0;
+        return RegisterClassExA(&description);
     }();
-    (void)registered;
-}
-
-std::map<UINT_PTR, Timer*>& RunningTimers() {
-    static std::map<UINT_PTR, Timer*> timers;
-    return timers;
-}
-
-void CALLBACK OnTimer(HWND, UINT, UINT_PTR id, DWORD) {
-    const auto found = RunningTimers().find(id);
-    if (found != RunningTimers().end()) found->second->Fire();
+    return registered;
 }
 
 }  // namespace
 
+FormWindow& StateOf(const Form& form) {
+    return loadedForms[&form];
+}
+
+Form* FormOf(HWND window) {
+    const HWND top = GetAncestor(window, GA_ROOT);
+    if (top == nullptr || GetClassLongPtrA(top, GCW_ATOM) != FormClass()) return nullptr;
+    return reinterpret_cast<Form*>(GetWindowLongPtrA(top, GWLP_USERDATA));
+}
+
 }  // namespace win32
 
-void DoEvents() {
-    MSG message;
-    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
-        TranslateMessage(&message);
-        DispatchMessageA(&message);
-    }
-}
-
-void WaitForEvents(int milliseconds) {
-    MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(milliseconds), QS_ALLINPUT, MWMO_INPUTAVAILABLE);
-    DoEvents();
-}
-
 void RunEventLoop() {
-    while (win32::loadedForms > 0) {
-        DoEvents();
-        if (win32::loadedForms > 0) WaitMessage();
-    }
+    while (!win32::loadedForms.empty())
+        if (!win32::RunOneEvent()) WaitMessage();
 }
 
 namespace native {
@@ -160,28 +176,35 @@ namespace native {
 using namespace win32;
 
 void CreateForm(Form& form) {
-    RegisterFormClass();
-    ++loadedForms;
+    FormClass();
+    loadedForms[&form] = {};
     const RECT place = PixelPlace(form);
-    const HWND window = CreateWindowExA(
-        form.Border() == FormBorder::None ? WS_EX_TOOLWINDOW : 0, kFormClass, form.Caption().c_str(), StyleOf(form),
-        place.left, place.top, place.right - place.left, place.bottom - place.top, nullptr, nullptr,
-        GetModuleHandleA(nullptr), nullptr);
+    DWORD extendedStyle = WS_EX_CONTROLPARENT;
+    if (form.Border() == FormBorder::None) extendedStyle |= WS_EX_TOOLWINDOW;
+    if (form.onDropFile) extendedStyle |= WS_EX_ACCEPTFILES;
+    const HMENU menu = form.MenuBar() == nullptr ? nullptr : MakeMenuBar(*form.MenuBar());
+    const HWND window =
+        CreateWindowExA(extendedStyle, kFormClass, form.Caption().c_str(), StyleOf(form), place.left, place.top,
+                        place.right - place.left, place.bottom - place.top, nullptr, menu, Instance(), nullptr);
     form.window = window;
     // The monitor, and with it the DPI, is known only now.
     if (DpiOf(window) != DpiOf(nullptr)) FormChanged(form, Aspect::Place);
     SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&form));
     TellPlace(form);
-    for (Control* control : form.Controls()) CreateControl(window, *control);
 }
 
 void DestroyForm(Form& form) {
-    --loadedForms;
     const HWND window = WindowOf(form);
+    EndModal(form);
     SetWindowLongPtrA(window, GWLP_USERDATA, 0);
-    for (Control* control : form.Controls()) DestroyControl(*control);
-    DestroyWindow(window);
+    ForEachControl(form, [](Control& control) {
+        if (control.window != nullptr) SetWindowLongPtrA(WindowOf(control), GWLP_USERDATA, 0);
+        control.window = nullptr;
+        control.Holder().window = nullptr;
+    });
     form.window = nullptr;
+    DestroyWindow(window);
+    loadedForms.erase(&form);
     // Wakes the event loop, which may be waiting for a message with no form left.
     PostThreadMessageA(GetCurrentThreadId(), WM_NULL, 0, 0);
 }
@@ -190,12 +213,19 @@ void FormChanged(Form& form, Aspect aspect) {
     if (aspect == Aspect::Text) SetWindowTextA(WindowOf(form), form.Caption().c_str());
     if (aspect == Aspect::Place) {
         const RECT place = PixelPlace(form);
-        SetWindowPos(WindowOf(form), nullptr, place.left, place.top, place.right - place.left,
-                     place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+        SetWindowPos(WindowOf(form), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
     }
 }
 
-void ShowForm(Form& form, bool visible) { ShowWindow(WindowOf(form), visible ? SW_SHOWNORMAL : SW_HIDE); }
+void ShowForm(Form& form, bool visible) {
+    if (!visible) EndModal(form);
+    if (visible && !StateOf(form).controlsMade) {
+        StateOf(form).controlsMade = true;
+        CreateControls(form);
+    }
+    ShowWindow(WindowOf(form), visible ? SW_SHOWNORMAL : SW_HIDE);
+}
 
 void BringToFront(Form& form) {
     if (form.IsMinimized()) ShowWindow(WindowOf(form), SW_RESTORE);
@@ -206,17 +236,11 @@ void Repaint(Form& form) {
     RedrawWindow(WindowOf(form), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
-void StopTimer(Timer& timer) {
-    std::erase_if(RunningTimers(), [&](const auto& entry) {
-        if (entry.second == &timer) KillTimer(nullptr, entry.first);
-        return entry.second == &timer;
-    });
-}
-
-void StartTimer(Timer& timer) {
-    StopTimer(timer);
-    const UINT_PTR id = SetTimer(nullptr, 0, static_cast<UINT>(timer.Interval()), OnTimer);
-    if (id != 0) RunningTimers()[id] = &timer;
+Size InnerSize(const Form& form) {
+    RECT area{};
+    GetClientRect(WindowOf(form), &area);
+    const int dpi = DpiOf(WindowOf(form));
+    return {ToTwips(area.right, dpi), ToTwips(area.bottom, dpi)};
 }
 
 }  // namespace native

@@ -1,6 +1,6 @@
 #include "platform/win32/metrics.h"
 
-#include <algorithm>
+#include <vector>
 
 namespace quirn::win32 {
 
@@ -26,16 +26,7 @@ int SystemDpi() {
     return dpi > 0 ? dpi : USER_DEFAULT_SCREEN_DPI;
 }
 
-}  // namespace
-
-int DpiOf(HWND window) {
-    static const auto getDpiForWindow = User32<UINT(WINAPI*)(HWND)>("GetDpiForWindow");
-    if (window != nullptr && getDpiForWindow != nullptr)
-        if (const UINT dpi = getDpiForWindow(window)) return static_cast<int>(dpi);
-    return SystemDpi();
-}
-
-HFONT CreateFontFor(const Font& font, int dpi) {
+HFONT MakeFont(const Font& font, int dpi) {
     LOGFONTA description{};
     if (font.face.empty()) {
         // The system's message font, but always at 8 points: the layouts are measured for that size.
@@ -52,6 +43,28 @@ HFONT CreateFontFor(const Font& font, int dpi) {
     if (font.bold) description.lfWeight = FW_BOLD;
     if (font.italic) description.lfItalic = TRUE;
     return CreateFontIndirectA(&description);
+}
+
+}  // namespace
+
+int DpiOf(HWND window) {
+    static const auto getDpiForWindow = User32<UINT(WINAPI*)(HWND)>("GetDpiForWindow");
+    if (window != nullptr && getDpiForWindow != nullptr)
+        if (const UINT dpi = getDpiForWindow(window)) return static_cast<int>(dpi);
+    return SystemDpi();
+}
+
+HFONT FontFor(const Font& font, int dpi) {
+    struct Made {
+        Font font;
+        int dpi;
+        HFONT handle;
+    };
+    static std::vector<Made> made;
+    for (const Made& entry : made)
+        if (entry.dpi == dpi && entry.font == font) return entry.handle;
+    made.push_back({font, dpi, MakeFont(font, dpi)});
+    return made.back().handle;
 }
 
 }  // namespace quirn::win32

@@ -13,7 +13,7 @@ int DpiOf(HWND window);
 inline int ToPixels(int twips, int dpi) { return MulDiv(twips, dpi, 1440); }
 inline int ToTwips(int pixels, int dpi) { return MulDiv(pixels, 1440, dpi); }
 
-// A window font for a control's; the caller deletes it.
-HFONT CreateFontFor(const Font& font, int dpi);
+// The system's font for a control's, shared by all that use it and kept for good.
+HFONT FontFor(const Font& font, int dpi);
 
 }  // namespace quirn::win32

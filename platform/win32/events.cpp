@@ -1,0 +1,97 @@
+#include <windows.h>
+
+#include "platform/form.h"
+#include "platform/win32/window.h"
+
+// Messages from the queue, and the keyboard: what it means for the form comes before what it means for a control.
+namespace quirn {
+
+namespace win32 {
+
+namespace {
+
+bool Pressed(int key) {
+    return GetKeyState(key) < 0;
+}
+
+enum class Key { Done, ForControl, ForDialogManager };
+
+// Enter and Esc never reach the dialog manager: it would send the form the commands 1 and 2, which are menu items.
+Key AnswerEnterOrEscape(Form& form, bool enter) {
+    const Control* active = form.ActiveControl();
+    if (active != nullptr && active->Kind() == ControlKind::ComboBox &&
+        SendMessageA(WindowOf(*active), CB_GETDROPPEDSTATE, 0, 0))
+        return Key::ForControl;
+    if (active != nullptr && active->Kind() == ControlKind::ListBox && static_cast<const ListBox*>(active)->onKeyPress)
+        return Key::ForControl;
+    form.UserTypes(static_cast<char>(enter ? kKeyEnter : kKeyEscape));
+    if (!form.IsLoaded()) return Key::Done;
+    if (enter) form.UserPressesEnter();
+    else form.UserPressesEscape();
+    return Key::Done;
+}
+
+// Keys of a box of text that are none of the form's while the box has the focus.
+bool BelongsToTextBox(const Form& form, WPARAM key) {
+    const Control* active = form.ActiveControl();
+    return key == VK_DELETE && active != nullptr &&
+           (active->Kind() == ControlKind::TextBox || active->Kind() == ControlKind::MaskedBox);
+}
+
+Key AnswerKey(Form& form, WPARAM key) {
+    const bool control = Pressed(VK_CONTROL);
+    const bool shift = Pressed(VK_SHIFT);
+    if (Pressed(VK_MENU)) return Key::ForDialogManager;  // AltGr is Ctrl and Alt
+    if (control && key == VK_TAB && form.UserTurnsPage(shift ? -1 : 1)) return Key::Done;
+    if (control && (key == VK_NEXT || key == VK_PRIOR) && form.UserTurnsPage(key == VK_NEXT ? 1 : -1)) return Key::Done;
+    if (!shift && !BelongsToTextBox(form, key) && form.UserPressesShortcut(static_cast<int>(key), control))
+        return Key::Done;
+    // The dialog manager knows two more names of these.
+    if (key == VK_RETURN || key == VK_EXECUTE) return AnswerEnterOrEscape(form, true);
+    if (key == VK_ESCAPE || key == VK_CANCEL) return AnswerEnterOrEscape(form, false);
+    return Key::ForDialogManager;
+}
+
+// True when the message needs nothing more.
+bool Answered(MSG& message) {
+    Form* const form = FormOf(message.hwnd);
+    if (form == nullptr) return false;
+    const HWND window = WindowOf(*form);
+    if (message.message == WM_CHAR) {
+        form->UserTypes(static_cast<char>(message.wParam));
+        if (!IsWindow(message.hwnd)) return true;
+    }
+    if (message.message == WM_KEYDOWN) {
+        switch (AnswerKey(*form, message.wParam)) {
+            case Key::Done: return true;
+            case Key::ForControl: return false;
+            case Key::ForDialogManager: break;
+        }
+    }
+    return IsDialogMessageA(window, &message) != FALSE;
+}
+
+}  // namespace
+
+bool RunOneEvent() {
+    MSG message;
+    if (!PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) return false;
+    if (Answered(message)) return true;
+    TranslateMessage(&message);
+    DispatchMessageA(&message);
+    return true;
+}
+
+}  // namespace win32
+
+void DoEvents() {
+    while (win32::RunOneEvent()) {
+    }
+}
+
+void WaitForEvents(int milliseconds) {
+    MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(milliseconds), QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+    DoEvents();
+}
+
+}  // namespace quirn

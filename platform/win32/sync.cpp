@@ -1,0 +1,195 @@
+#include <windows.h>
+
+#include <commctrl.h>  // needs windows.h first
+
+#include "platform/native.h"
+#include "platform/win32/window.h"
+
+// Brings windows up to the state of their controls.
+namespace quirn {
+
+namespace win32 {
+
+namespace {
+
+constexpr char kBullet = '\x95';
+
+void FillList(HWND window, UINT reset, UINT add, const std::vector<std::string>& items) {
+    SendMessageA(window, WM_SETREDRAW, FALSE, 0);
+    SendMessageA(window, reset, 0, 0);
+    for (const std::string& item : items) SendMessageA(window, add, 0, reinterpret_cast<LPARAM>(item.c_str()));
+    SendMessageA(window, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(window, nullptr, TRUE);
+}
+
+void ApplyItems(Control& control) {
+    const HWND window = WindowOf(control);
+    if (control.Kind() == ControlKind::ComboBox)
+        FillList(window, CB_RESETCONTENT, CB_ADDSTRING, static_cast<ComboBox&>(control).Items());
+    if (control.Kind() == ControlKind::ListBox)
+        FillList(window, LB_RESETCONTENT, LB_ADDSTRING, static_cast<ListBox&>(control).Items());
+}
+
+void ApplySelection(Control& control) {
+    const HWND window = WindowOf(control);
+    if (control.Kind() == ControlKind::ComboBox) {
+        const int index = static_cast<ComboBox&>(control).ListIndex();
+        if (SendMessageA(window, CB_GETCURSEL, 0, 0) != index)
+            SendMessageA(window, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    }
+    if (control.Kind() != ControlKind::ListBox) return;
+    const auto& list = static_cast<ListBox&>(control);
+    if (list.Style() == ListStyle::Single) {
+        if (SendMessageA(window, LB_GETCURSEL, 0, 0) != list.ListIndex())
+            SendMessageA(window, LB_SETCURSEL, static_cast<WPARAM>(list.ListIndex()), 0);
+        return;
+    }
+    for (int i = 0; i < static_cast<int>(list.Items().size()); ++i)
+        if ((SendMessageA(window, LB_GETSEL, static_cast<WPARAM>(i), 0) > 0) != list.IsSelected(i))
+            SendMessageA(window, LB_SETSEL, list.IsSelected(i), i);
+}
+
+// The Tab key stops at the selected button of a group, or at the first when none is.
+void ApplyOption(const OptionButton& option) {
+    const HWND window = WindowOf(option);
+    const int selected = option.Group().Selected();
+    SendMessageA(window, BM_SETCHECK, selected == option.Index() ? BST_CHECKED : BST_UNCHECKED, 0);
+    const LONG_PTR style = GetWindowLongPtrA(window, GWL_STYLE);
+    const bool stops = selected == option.Index() || (selected < 0 && option.Index() == 0);
+    SetWindowLongPtrA(window, GWL_STYLE, stops ? style | WS_TABSTOP : style & ~static_cast<LONG_PTR>(WS_TABSTOP));
+}
+
+void ApplyValue(Control& control) {
+    const HWND window = WindowOf(control);
+    switch (control.Kind()) {
+        case ControlKind::CheckBox:
+            SendMessageA(window, BM_SETCHECK, static_cast<WPARAM>(static_cast<CheckBox&>(control).Value()), 0);
+            break;
+        case ControlKind::OptionButton: ApplyOption(static_cast<OptionButton&>(control)); break;
+        case ControlKind::TextBox: {
+            const WPARAM shown = static_cast<TextBox&>(control).IsMasked() ? static_cast<unsigned char>(kBullet) : 0;
+            if (static_cast<WPARAM>(SendMessageA(window, EM_GETPASSWORDCHAR, 0, 0)) == shown) break;
+            SendMessageA(window, EM_SETPASSWORDCHAR, shown, 0);
+            InvalidateRect(window, nullptr, TRUE);
+            break;
+        }
+        case ControlKind::TabStrip: {
+            auto& strip = static_cast<TabStrip&>(control);
+            if (SendMessageA(window, TCM_GETCURSEL, 0, 0) != strip.Tab())
+                SendMessageA(window, TCM_SETCURSEL, static_cast<WPARAM>(strip.Tab()), 0);
+            ShowFrontPage(strip);
+            break;
+        }
+        default: break;
+    }
+}
+
+void AddTabs(const TabStrip& strip) {
+    for (const TabPage* page : strip.Pages()) {
+        TCITEMA item{};
+        item.mask = TCIF_TEXT;
+        item.pszText = const_cast<char*>(page->Caption().c_str());
+        SendMessageA(WindowOf(strip), TCM_INSERTITEMA, strip.Pages().size(), reinterpret_cast<LPARAM>(&item));
+    }
+    SendMessageA(WindowOf(strip), TCM_SETCURSEL, static_cast<WPARAM>(strip.Tab()), 0);
+}
+
+void PrepareUpDown(const UpDown& arrows) {
+    // The window counts nothing itself; a range around its position keeps both arrows alive.
+    SendMessageA(WindowOf(arrows), UDM_SETRANGE32, static_cast<WPARAM>(-10000), 10000);
+    SendMessageA(WindowOf(arrows), UDM_SETBUDDY, reinterpret_cast<WPARAM>(WindowOf(arrows.Buddy())), 0);
+}
+
+// A window's text is set only when it differs, which also keeps the caret where it is.
+void ApplyText(const Control& control) {
+    const HWND window = WindowOf(control);
+    if (TextOf(window) != control.Text()) SetWindowTextA(window, control.Text().c_str());
+}
+
+void ApplyVisible(Control& control) {
+    if (control.window == nullptr) {
+        if (!control.Visible() || !StateOf(control.Holder().Owner()).controlsMade) return;
+        const auto& all = control.Holder().Controls();
+        HWND before = nullptr;
+        for (const Control* other : all) {
+            if (other == &control) break;
+            if (other->window != nullptr) before = WindowOf(*other);
+        }
+        CreateControl(control);
+        // The order of the windows is the tab order.
+        if (before != nullptr)
+            SetWindowPos(WindowOf(control), before, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
+    ShowWindow(WindowOf(control), control.Visible() ? SW_SHOWNA : SW_HIDE);
+    if (control.Kind() == ControlKind::TabStrip) ShowFrontPage(static_cast<TabStrip&>(control));
+    // A list that appears and goes lies over whatever is there.
+    if (control.Kind() == ControlKind::ListBox && control.Visible())
+        SetWindowPos(WindowOf(control), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+}  // namespace
+
+void FillControl(Control& control) {
+    switch (control.Kind()) {
+        case ControlKind::ComboBox:
+        case ControlKind::ListBox:
+            ApplyItems(control);
+            ApplySelection(control);
+            break;
+        case ControlKind::OptionButton: ApplyValue(control); break;
+        case ControlKind::CheckBox:
+            if (static_cast<CheckBox&>(control).Value() != 0) ApplyValue(control);
+            break;
+        case ControlKind::TextBox:
+            if (static_cast<TextBox&>(control).IsMasked()) ApplyValue(control);
+            break;
+        case ControlKind::TabStrip: AddTabs(static_cast<TabStrip&>(control)); break;
+        case ControlKind::UpDown: PrepareUpDown(static_cast<UpDown&>(control)); break;
+        default: break;
+    }
+}
+
+}  // namespace win32
+
+namespace native {
+
+using namespace win32;
+
+void ControlChanged(Control& control, Aspect aspect) {
+    const HWND window = WindowOf(control);
+    switch (aspect) {
+        case Aspect::Text: ApplyText(control); break;
+        case Aspect::Enabled: EnableWindow(window, control.Enabled()); break;
+        case Aspect::Visible: ApplyVisible(control); break;
+        case Aspect::Place:
+        case Aspect::Font: PlaceControl(control); break;
+        case Aspect::Colors: InvalidateRect(window, nullptr, TRUE); break;
+        case Aspect::Value: ApplyValue(control); break;
+        case Aspect::Items:
+            ApplyItems(control);
+            ApplySelection(control);
+            break;
+        case Aspect::Selection: ApplySelection(control); break;
+        case Aspect::ToolTip: ToolTipChanged(control); break;
+    }
+}
+
+void FocusControl(Control& control) {
+    SetFocus(WindowOf(control));
+    // Behind a modal form the keyboard comes back only with the form itself.
+    if (!control.HasFocus()) control.UserFocuses(true);
+}
+
+void SelectAll(TextBox& box) {
+    SendMessageA(WindowOf(box), EM_SETSEL, 0, -1);
+}
+
+void PutCaretAtEnd(TextBox& box) {
+    const auto end = static_cast<LPARAM>(box.Text().size());
+    SendMessageA(WindowOf(box), EM_SETSEL, static_cast<WPARAM>(end), end);
+    SendMessageA(WindowOf(box), EM_SCROLLCARET, 0, 0);
+}
+
+}  // namespace native
+
+}  // namespace quirn

@@ -1,0 +1,83 @@
+#include "platform/tray.h"
+
+#include <windows.h>
+
+#include <shellapi.h>  // needs windows.h first
+
+#include <algorithm>
+#include <cstring>
+#include <vector>
+
+#include "platform/native.h"
+#include "platform/win32/window.h"
+#include "resources/resource.h"
+
+namespace quirn {
+
+namespace win32 {
+
+namespace {
+
+constexpr UINT kIconId = 100;
+constexpr UINT kCallbackMessage = 1124;
+constexpr char kTip[] = "Nothing here yet.";
+
+// The 32-bit record is 88 bytes long in its first form; 152, the size with a wide tip, is what this program has always
+// passed, and the system takes it for the first form. The structure is longer than that, so nothing foreign is read.
+// A 64-bit system's record has other sizes: there it is the first form's own.
+constexpr DWORD kRecordSize = sizeof(void*) == 4 ? 152 : NOTIFYICONDATAA_V1_SIZE;
+static_assert(sizeof(NOTIFYICONDATAA) >= kRecordSize);
+
+std::vector<TrayIcon*> icons;
+
+void Tell(DWORD mode, const TrayIcon& icon) {
+    static const auto picture =
+        static_cast<HICON>(LoadImageA(Instance(), MAKEINTRESOURCEA(IDI_QUIRN), IMAGE_ICON,
+                                      GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_DEFAULTCOLOR));
+    NOTIFYICONDATAA record{};
+    record.cbSize = kRecordSize;
+    record.hWnd = WindowOf(icon.Owner());
+    record.uID = kIconId;
+    record.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP;
+    record.uCallbackMessage = kCallbackMessage;
+    record.hIcon = picture;
+    std::memcpy(record.szTip, kTip, sizeof(kTip));
+    Shell_NotifyIconA(mode, &record);
+}
+
+UINT TaskbarCreated() {
+    static const UINT message = RegisterWindowMessageA("TaskbarCreated");
+    return message;
+}
+
+}  // namespace
+
+bool TrayMessage(Form& form, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message != kCallbackMessage && (icons.empty() || message != TaskbarCreated())) return false;
+    const auto found =
+        std::find_if(icons.begin(), icons.end(), [&](const TrayIcon* icon) { return &icon->Owner() == &form; });
+    if (found == icons.end()) return false;
+    if (message == TaskbarCreated()) Tell(NIM_ADD, **found);
+    else if (wParam == kIconId) (*found)->UserPoints(static_cast<unsigned>(lParam));
+    return true;
+}
+
+}  // namespace win32
+
+namespace native {
+
+using namespace win32;
+
+void AddTrayIcon(TrayIcon& icon) {
+    icons.push_back(&icon);
+    Tell(NIM_ADD, icon);
+}
+
+void RemoveTrayIcon(TrayIcon& icon) {
+    std::erase(icons, &icon);
+    Tell(NIM_DELETE, icon);
+}
+
+}  // namespace native
+
+}  // namespace quirn

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+#include <set>
+
+#include "platform/controls.h"
+#include "platform/form.h"
+
+// The windows of forms, pages and controls, for the files of win32/ only.
+namespace quirn::win32 {
+
+// What this back end keeps of a loaded form.
+struct FormWindow {
+    bool controlsMade = false;
+    HWND disabledOwner = nullptr;  // while the form is modal
+    HWND toolTip = nullptr;
+    std::set<HWND> toolTipOwners;
+};
+FormWindow& StateOf(const Form& form);
+
+inline HWND WindowOf(const Container& container) {
+    return static_cast<HWND>(container.window);
+}
+inline HWND WindowOf(const Control& control) {
+    return static_cast<HWND>(control.window);
+}
+inline HINSTANCE Instance() {
+    return GetModuleHandleA(nullptr);
+}
+
+// The control that a window of this program shows; null for one that is being destroyed.
+inline Control* ControlOf(HWND window) {
+    return reinterpret_cast<Control*>(GetWindowLongPtrA(window, GWLP_USERDATA));
+}
+
+// The form of a window; null when the window belongs to no form.
+Form* FormOf(HWND window);
+
+// A place in a container's inner area.
+RECT ToPixels(const Bounds& place, int dpi);
+int DpiOf(const Control& control);
+
+template <class Visit>
+void ForEachControl(const Form& form, Visit visit) {
+    for (Control* control : form.Controls()) {
+        visit(*control);
+        if (control->Kind() != ControlKind::TabStrip) continue;
+        for (TabPage* page : static_cast<TabStrip*>(control)->Pages())
+            for (Control* inPage : page->Controls()) visit(*inPage);
+    }
+}
+
+// controls.cpp: windows from the state of controls.
+void CreateControls(Container& container);  // those that are visible
+void CreateControl(Control& control);
+void PlaceControl(Control& control);  // at its place, and in its font, by the form's DPI
+
+// sync.cpp: brings a part of a new window up to its control's state.
+void FillControl(Control& control);
+
+// controlproc.cpp: lets this program see the messages of a control's window first.
+void Subclass(const Control& control);
+bool FocusArrives(HWND window);  // the window is just taking the focus
+
+// editing.cpp: what the subclass does for boxes of text; nothing means that the window's own handling goes on.
+std::optional<LRESULT> TextBoxMessage(TextBox& box, UINT message, WPARAM wParam);
+std::optional<LRESULT> MaskedBoxMessage(MaskedBox& box, UINT message, WPARAM wParam);
+std::string TextOf(HWND window);
+
+// page.cpp
+void ShowFrontPage(TabStrip& strip);
+void PlacePages(TabStrip& strip);
+
+// notify.cpp: messages that a control's window sends to its form or page; nothing means the default handling.
+std::optional<LRESULT> NotificationFromControl(Form& form, UINT message, WPARAM wParam, LPARAM lParam);
+
+// tooltip.cpp
+void PrepareToolTip(Control& control);
+void ToolTipChanged(Control& control);
+
+// menu.cpp
+HMENU MakeMenuBar(const Menu& menu);
+void MenuHighlighted(Form& form, WPARAM wParam, LPARAM lParam);
+
+// modal.cpp
+void EndModal(Form& form);
+
+// tray.cpp: true when the message was the tray's.
+bool TrayMessage(Form& form, UINT message, WPARAM wParam, LPARAM lParam);
+
+// events.cpp
+bool RunOneEvent();  // false: there is none
+
+}  // namespace quirn::win32
