@@ -1,6 +1,7 @@
 #include "auxiliary/frmsplash.h"
 
 #include "platform/version.h"
+#include "resources/look.h"
 #include "resources/resource.h"
 
 namespace quirn {
@@ -22,10 +23,10 @@ frmSplash::frmSplash()
       Picture1(*this, kPicturePlace, IDI_QUIRN),
       lblTitle(*this, kTitlePlace, kFullTitle),
       lblVersion(*this, kVersionPlace, VersionTitle()) {
-    SetBackColor(Rgb(8, 12, 40));
+    SetBackColor(kSpaceBackground);
     lblTitle.SetFont({"Arial", 12, true});
     lblTitle.SetForeColor(Rgb(255, 255, 255));
-    lblVersion.SetForeColor(Rgb(190, 200, 225));
+    lblVersion.SetForeColor(kSpaceText);
     onKeyPress = [this](char) { Unload(); };
 }
 

@@ -10,7 +10,10 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4)
 else()
     target_link_options(quirn_options INTERFACE -Wl,--high-entropy-va)
 endif()
-target_link_options(quirn_options INTERFACE -static -Wl,--gc-sections -Wl,--dynamicbase -Wl,--nxcompat
+target_link_options(quirn_options INTERFACE -static -Wl,--gc-sections
+                                            # Windows 7; older numbers give a program the frames of older systems.
+                                            -Wl,--major-subsystem-version,6,--minor-subsystem-version,1
+                                            -Wl,--dynamicbase -Wl,--nxcompat
                                             -Wl,--no-insert-timestamp $<$<CONFIG:Release>:-s>)
 
 file(GLOB backend_sources CONFIGURE_DEPENDS platform/win32/*.cpp)

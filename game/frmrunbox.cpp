@@ -1,6 +1,7 @@
 #include "game/frmrunbox.h"
 
 #include "platform/version.h"
+#include "resources/look.h"
 
 namespace quirn {
 
@@ -11,14 +12,11 @@ constexpr int kHeight = 2700;
 constexpr int kInner = 4200;  // the width of the rows, less the frame
 
 //                             left   top  width  height
-constexpr Bounds kLabel1Place{  120,  150, kInner,  315};
-constexpr Bounds kLabel5Place{  120,  480, kInner,  585};
-constexpr Bounds kLabel2Place{  120, 1080, kInner,  315};
-constexpr Bounds kLabel3Place{  120, 1530, kInner,  225};
+constexpr Bounds kLabel3Place{  120,  120, kInner,  225};
+constexpr Bounds kLabel1Place{  120,  390, kInner,  315};
+constexpr Bounds kLabel5Place{  120,  720, kInner,  585};
+constexpr Bounds kLabel2Place{  120, 1320, kInner,  315};
 constexpr Bounds kLabel4Place{  120, 1800, kInner,  420};
-
-constexpr Color kBackground = Rgb(8, 12, 40);
-constexpr Color kPlainText = Rgb(190, 200, 225);
 
 // The colours of the moving labels, one step a tick.
 constexpr Color kColors[] = {Rgb(255, 214, 92), Rgb(255, 150, 70), Rgb(245, 90, 110),
@@ -39,11 +37,11 @@ frmRunBox::frmRunBox()
       Label4(*this, kLabel4Place, "SubSpace and its name are copyright and trademark of their owners.",
              Alignment::Center) {
     SetCaption(kTitle);
-    SetBackColor(kBackground);
+    SetBackColor(kSpaceBackground);
     Label1.SetFont({"Arial", 14, true});
     Label5.SetFont({"Arial Black", 24});
     Label2.SetFont({"Arial", 14, true});
-    for (Label* label : {&Label1, &Label2, &Label3, &Label4}) label->SetForeColor(kPlainText);
+    for (Label* label : {&Label1, &Label2, &Label3, &Label4}) label->SetForeColor(kSpaceText);
 
     Timer1.onTimer = [this] { Timer1_Timer(); };
     Timer2.onTimer = [this] { Timer2_Timer(); };

@@ -39,7 +39,10 @@ LaunchResult LaunchGame(const Program& program, const Profile& profile, LaunchMo
     }
 
     // No time-out, by design: a slow machine may take minutes to show the game.
-    const auto waiting = [&] { return !runBox.RunDone() && !program.ending; };
+    const auto waiting = [&] {
+        const bool leaving = program.ending && mode == LaunchMode::Interactive;
+        return !runBox.RunDone() && !leaving;
+    };
     DoEvents();
     while (waiting() && !WindowOfClassExists(kGameWindowClass)) WaitForEvents(kSearchPause);
     if (waiting()) runBox.CloseAfter(kGraceTime);

@@ -14,6 +14,11 @@ std::string WavePath(const std::string& gameFolder, size_t slot) {
     return gameFolder + "\\record" + std::to_string(slot) + ".wav";
 }
 
+bool IsMissing(const RuntimeError& error) {
+    return error.number == static_cast<int>(ErrorNumber::FileNotFound) ||
+           error.number == static_cast<int>(ErrorNumber::PathNotFound);
+}
+
 // Writes a file of the game unless it already holds those bytes: most launches change nothing here, and a write that is
 // flushed to the disk takes longer than all the rest.
 Failure WriteGameFile(const std::string& path, const std::string& bytes) {
@@ -24,7 +29,8 @@ Failure WriteGameFile(const std::string& path, const std::string& bytes) {
 
 // Copies the profile's wave file over the game's, unless it has none or already names the game's own.
 Failure CopyWave(const std::string& source, const std::string& target) {
-    // The first character alone decides, on purpose: every path that begins with "<" counts as not set.
+    // The first character alone decides, on purpose: every path that begins with "<" counts as not set. An empty path
+    // is none either.
     if (source.starts_with('<') || source.empty() || EqualNoCase(source, target)) return {};
     const Result<std::string> wave = ReadWholeFile(source);
     if (wave.Failed()) return wave.Error();
@@ -34,6 +40,7 @@ Failure CopyWave(const std::string& source, const std::string& target) {
 }  // namespace
 
 Failure WriteIgnoreFile(const Profile& profile, const std::string& gameFolder) {
+    if (profile.ignoreFileUnread && profile.IgnoreList.empty()) return {};
     std::string text;
     for (const std::string& name : profile.IgnoreList)
         if (!Trim(name).empty()) text += name + "\r\n";
@@ -42,9 +49,13 @@ Failure WriteIgnoreFile(const Profile& profile, const std::string& gameFolder) {
 
 Failure ReadIgnoreFile(Profile& profile, const std::string& gameFolder) {
     profile.IgnoreList.clear();
-    if (!FileExists(IgnorePath(gameFolder))) return {};
+    profile.ignoreFileUnread = false;
     const Result<std::string> text = ReadWholeFile(IgnorePath(gameFolder));
-    if (text.Failed()) return text.Error();
+    if (text.Failed()) {
+        if (IsMissing(text.Error())) return {};
+        profile.ignoreFileUnread = true;
+        return text.Error();
+    }
     for (std::string_view line : SplitLines(text.Value())) {
         line = Trim(line);
         if (!line.starts_with('#')) profile.IgnoreList.emplace_back(line);

@@ -20,7 +20,7 @@ std::string AsText(const SettingValue& value) {
 
 int AsNumber(const SettingValue& value) {
     if (const auto* number = std::get_if<int>(&value)) return *number;
-    return ToInteger(AsText(value)).value_or(0);
+    return ToInteger(AsText(value)).value_or(0);  // callers write no text that does not fit
 }
 
 }  // namespace

@@ -7,8 +7,8 @@
 #include "profile/profile.h"
 
 // The game's settings in the current user's registry: one key per section below "Software\Virgin\SubSpace". Keys are
-// opened, never made: this program configures an installed game, it does not install one. A failure produces no
-// message.
+// opened, never made: this program configures an installed game, it does not install one. A failure of the registry
+// produces no message.
 namespace quirn {
 
 // A text (REG_SZ, with the NUL that the registry keeps), a number (REG_DWORD), or nothing when the value is missing
@@ -24,7 +24,7 @@ SettingValue QueryValue(const std::string& keyPath, const std::string& name);
 long QueryValueEx(const RegistryKey& key, const std::string& name, SettingValue& value);
 
 // Writes one value as text or number. A value that the game keeps in another type (binary, say) is left alone.
-// The status is the registry's.
+// The status is the registry's, or kUnsupportedType for such a value.
 long SetKeyValue(const std::string& keyPath, const std::string& name, const SettingValue& value, RegistryType type);
 
 // The same into an open key; nothing is written for another type, and the status is then 0.

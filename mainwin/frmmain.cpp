@@ -96,7 +96,6 @@ frmMain::frmMain(Program& program)
 }
 
 void frmMain::Form_Load() {
-    program_.helpFile = ProgramFolder() + "\\QUIRN.HLP";
     Move(ReadMainPlace(Place()));
     ReadLists(program_);
     BuildFavouritesMenu();

@@ -10,6 +10,7 @@ const char* Description(ErrorNumber number) {
     switch (number) {
         case ErrorNumber::Overflow: return "Overflow";
         case ErrorNumber::OutOfMemory: return "Out of memory";
+        case ErrorNumber::InternalError: return "Internal error";
         case ErrorNumber::FileNotFound: return "File not found";
         case ErrorNumber::DeviceIo: return "Device I/O error";
         case ErrorNumber::DiskFull: return "Disk full";

@@ -11,6 +11,7 @@ namespace quirn {
 enum class ErrorNumber {
     Overflow = 6,
     OutOfMemory = 7,
+    InternalError = 51,
     FileNotFound = 53,
     DeviceIo = 57,
     DiskFull = 61,

@@ -192,7 +192,9 @@ void CallHandler(const std::function<void()>& handler) {
     } catch (const std::bad_alloc&) {
         ShowError(MakeError(ErrorNumber::OutOfMemory));
     } catch (const std::exception& error) {
-        ShowError({51, kTitle, std::string("Internal error: ") + error.what()});
+        RuntimeError internal = MakeError(ErrorNumber::InternalError);
+        internal.description += std::string(": ") + error.what();
+        ShowError(internal);
     }
 }
 

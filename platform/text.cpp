@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 
 namespace quirn {
 
@@ -62,7 +63,8 @@ double Val(std::string_view text) {
     double value = 0;
     const char* end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data() + at, end, value);
-    if (error == std::errc::result_out_of_range) value = HUGE_VAL;
+    // Too large, or too small to tell from 0: strtod says which.
+    if (error == std::errc::result_out_of_range) value = std::strtod(std::string(text.substr(at)).c_str(), nullptr);
     return negative ? -value : value;
 }
 
@@ -77,7 +79,7 @@ std::vector<std::string_view> SplitLines(std::string_view text) {
     while (!text.empty()) {
         const size_t end = text.find('\n');
         std::string_view line = text.substr(0, end);
-        if (end != std::string_view::npos && line.ends_with('\r')) line.remove_suffix(1);
+        if (line.ends_with('\r')) line.remove_suffix(1);
         lines.push_back(line);
         text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
     }

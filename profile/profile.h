@@ -6,7 +6,8 @@
 
 namespace quirn {
 
-// What a path, a wave file or the game folder holds when it is not configured. Tested for letter by letter.
+// What the game folder or a wave file holds when it is not configured. A game folder is tested for it letter by letter,
+// a wave file by its first character.
 inline constexpr char kNotSet[] = "<not set>";
 
 // One group of game settings: three parallel arrays, indexed from 1 to Count(); slot 0 is unused. The order is fixed:
@@ -41,6 +42,7 @@ struct Profile {
     Section Dialog, Messages, Options, Advanced, HiddenOptions;
     std::array<std::string, 2> WaveFiles{kNotSet, kNotSet};  // for F11 and F12: full paths or kNotSet
     std::vector<std::string> IgnoreList;                     // player names; Ignore1 of a QRN file is element 0
+    bool ignoreFileUnread = false;  // the game's file could not be read: an empty list does not mean an empty file
 
     // All five in catalogue order.
     std::array<Section*, 5> Sections() { return {&Dialog, &Messages, &Options, &Advanced, &HiddenOptions}; }

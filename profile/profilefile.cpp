@@ -53,7 +53,8 @@ public:
     }
 
     // The private-profile functions report success on a full disk; only reading back tells.
-    Failure Check() const {
+    // Checks what has been written since the last check.
+    Failure Check() {
         for (const Entry& entry : written_) {
             const std::string found = ReadIniValue(file_.InitFileName, entry.section, entry.key, "",
                                                    entry.value.size() + kRoomForQuotes);
@@ -61,7 +62,17 @@ public:
                 return MakeError(DiskIsFull(file_.InitFileName, size_) ? ErrorNumber::DiskFull
                                                                        : ErrorNumber::PathFileAccess);
         }
+        written_.clear();
         return {};
+    }
+
+    // What reading gives for a written text: the blanks around it and one pair of quotes are lost, and a text ends with
+    // its line.
+    static std::string_view AsRead(std::string_view text) {
+        text = WithoutBlanks(text.substr(0, text.find_first_of(std::string_view("\r\n\0", 3))));
+        const bool quoted =
+            text.size() >= 2 && text.front() == text.back() && (text.front() == '"' || text.front() == '\'');
+        return quoted ? WithoutBlanks(text.substr(1, text.size() - 2)) : text;
     }
 
 private:
@@ -76,15 +87,6 @@ private:
         while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
         while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
         return text;
-    }
-
-    // What reading gives for a written text: the blanks around it and one pair of quotes are lost, and a text ends with
-    // its line.
-    static std::string_view AsRead(std::string_view text) {
-        text = WithoutBlanks(text.substr(0, text.find_first_of(std::string_view("\r\n\0", 3))));
-        const bool quoted =
-            text.size() >= 2 && text.front() == text.back() && (text.front() == '"' || text.front() == '\'');
-        return quoted ? WithoutBlanks(text.substr(1, text.size() - 2)) : text;
     }
 
     clsIniTFiles file_;
@@ -142,6 +144,7 @@ bool LoadProfile(Profile& profile, const std::string& fileName) {
     ReadSection(file, profile.Advanced, "0");
     if (Val(profile.Advanced.Value(kGammaPercent)) == 0) profile.Advanced.Value(kGammaPercent) = "100";
     ReadIgnoreList(file, profile.IgnoreList);
+    profile.ignoreFileUnread = false;
     ReadSection(file, profile.HiddenOptions, "0");
     return true;
 }
@@ -171,21 +174,27 @@ Failure SaveProfile(const Profile& profile, const std::string& gameFolder, const
     writer.Section("IgnoreList");
     size_t count = 0;
     for (const std::string& name : profile.IgnoreList) {
-        // An empty value would end the list for the reader, and the names after it would be lost.
-        if (!Trim(name).empty()) writer.Key(IgnoreKey(++count), name);
+        // What reads back as nothing would end the list for the reader, and the names after it would be lost.
+        if (!CheckedWriter::AsRead(name).empty()) writer.Key(IgnoreKey(++count), name);
     }
     // Ends the list on purpose: names of an older, longer list in the same file are never read.
     writer.Key(IgnoreKey(count + 1), "");
 
-    const Failure macroFailure =
-        WriteWholeFile(gameFolder + "\\" + SplitPath(path).name + ".ssm", MacroFileText(profile));
-    if (!macroFailure) writer.All(profile.HiddenOptions);
-
-    if (Failure failure = writer.Check()) {
+    // The macro file is replaced only when all before it is safe.
+    Failure failure = writer.Check();
+    Failure macroFailure;
+    if (!failure) {
+        macroFailure = WriteWholeFile(gameFolder + "\\" + SplitPath(path).name + ".ssm", MacroFileText(profile));
+        if (!macroFailure) {
+            writer.All(profile.HiddenOptions);
+            failure = writer.Check();
+        }
+    }
+    if (failure) {
         AbandonReplacement(path);
         return failure;
     }
-    if (Failure failure = FinishReplacement(path)) return failure;
+    if ((failure = FinishReplacement(path))) return failure;
     return macroFailure;
 }
 

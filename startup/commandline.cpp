@@ -17,7 +17,7 @@ constexpr std::string_view kQuiet = "/Q";
 bool LoadAndRun(Program& program, const std::string& argument) {
     const PathParts parts = SplitPath(argument);
     const bool bareName = parts.drive.empty() && parts.folder.empty();
-    // A bare name without an extension ends in a point and is then not found; that is kept on purpose.
+    // A bare name without an extension ends in a point, on purpose: it finds only a file that has none.
     const std::string file = bareName ? program.qrnFolder + "\\" + parts.File() : argument;
     if (!LoadProfile(program.profile, file)) return false;
     WriteProfileToGame(program.profile, program.gameFolder);

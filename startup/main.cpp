@@ -33,7 +33,11 @@ void Main() {
     if (!program.quiet) {
         splash.Unload();
         // Loading may have ended in an exit.
-        if (mainWindow.IsLoaded()) mainWindow.Show();
+        if (mainWindow.IsLoaded()) {
+            mainWindow.Show();
+            // With the splash went the program's only window, and with it its place in front.
+            mainWindow.BringToFront();
+        }
     }
     // Loading has filled the controls, which is no change that anyone would want to save.
     program.dirty = false;

@@ -12,7 +12,12 @@ std::string ShortDateAndTime() {
     std::array<char, 128> date{};
     std::array<char, 128> time{};
     GetDateFormatA(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &now, nullptr, date.data(), static_cast<int>(date.size()));
-    GetTimeFormatA(LOCALE_USER_DEFAULT, TIME_NOSECONDS, &now, nullptr, time.data(), static_cast<int>(time.size()));
+    // The short time is a setting of its own (from Windows 7 on); where there is none, the long one without seconds.
+    std::array<char, 128> format{};
+    if (GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SSHORTTIME, format.data(), static_cast<int>(format.size())) > 0)
+        GetTimeFormatA(LOCALE_USER_DEFAULT, 0, &now, format.data(), time.data(), static_cast<int>(time.size()));
+    else
+        GetTimeFormatA(LOCALE_USER_DEFAULT, TIME_NOSECONDS, &now, nullptr, time.data(), static_cast<int>(time.size()));
     return std::string(date.data()) + " " + time.data();
 }
 

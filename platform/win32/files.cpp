@@ -148,11 +148,19 @@ Result<std::string> BeginReplacement(const std::string& path) {
 }
 
 Failure FinishReplacement(const std::string& path) {
+    // A virus scanner or an indexer likes to open a file that has just been written, for some milliseconds.
+    constexpr int kTries = 5;
+    constexpr DWORD kPause = 20;  // milliseconds
     const std::string unfinished = UnfinishedPath(path);
-    Failure failure = Flush(unfinished);
-    if (!failure && !MoveFileExA(unfinished.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+    Failure failure;
+    for (int i = 0; i < kTries; ++i) {
+        if (i > 0) Sleep(kPause);
+        failure = Flush(unfinished);
+        if (failure) continue;
+        if (MoveFileExA(unfinished.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return {};
         failure = LastError();
-    if (failure) DeleteUnfinished(path);
+    }
+    DeleteUnfinished(path);
     return failure;
 }
 

@@ -25,8 +25,24 @@ TEST_F(PlayerFilesTest, ReadsTheIgnoreListWithoutComments) {
     PutFile(ignore_, " Mole \r\n\r\n  # not a player\r\n#x\nCaf\xE9 Bot");
     EXPECT_FALSE(ReadIgnoreFile(profile_, game_));
     EXPECT_EQ(profile_.IgnoreList, (std::vector<std::string>{"Mole", "", "Caf\xE9 Bot"}));
+    SetHidden(ignore_);
+    EXPECT_FALSE(ReadIgnoreFile(profile_, game_));
+    EXPECT_EQ(profile_.IgnoreList.size(), 3u);
     EXPECT_FALSE(ReadIgnoreFile(profile_, Scratch()));
     EXPECT_TRUE(profile_.IgnoreList.empty());
+}
+
+TEST_F(PlayerFilesTest, AnIgnoreFileThatCouldNotBeReadIsNotEmptied) {
+    PutFile(ignore_, "Mole\r\n");
+    {
+        const HeldFile held(ignore_);
+        EXPECT_TRUE(ReadIgnoreFile(profile_, game_));
+    }
+    EXPECT_FALSE(WriteIgnoreFile(profile_, game_));
+    EXPECT_EQ(FileBytes(ignore_), "Mole\r\n");
+    profile_.IgnoreList = {"Bot"};
+    EXPECT_FALSE(WriteIgnoreFile(profile_, game_));
+    EXPECT_EQ(FileBytes(ignore_), "Bot\r\n");
 }
 
 TEST_F(PlayerFilesTest, WritesNamesAsTheyAreWithoutBlankOnes) {

@@ -39,6 +39,7 @@ TEST(Text, ReadsNumbers) {
     EXPECT_EQ(ToInteger("-2147483648"), std::numeric_limits<int>::min());
     EXPECT_EQ(ToInteger("2147483647.9"), std::numeric_limits<int>::max());
     EXPECT_EQ(ToInteger("-1.9"), -1);
+    EXPECT_EQ(ToInteger("-1e-999"), 0);
     for (const char* text : {"2147483648", "-2147483649", "1e999", "-1e999"}) EXPECT_EQ(ToInteger(text), std::nullopt);
 }
 
@@ -47,7 +48,7 @@ TEST(Text, SplitsLines) {
     EXPECT_EQ(SplitLines(""), Lines());
     EXPECT_EQ(SplitLines("a\r\nb\n\nc\rd"), (Lines{"a", "b", "", "c\rd"}));
     EXPECT_EQ(SplitLines("\r\n"), Lines{""});
-    EXPECT_EQ(SplitLines("a\r"), Lines{"a\r"});
+    EXPECT_EQ(SplitLines("a\r"), Lines{"a"});
 }
 
 }  // namespace

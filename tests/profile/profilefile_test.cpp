@@ -114,7 +114,7 @@ TEST_F(ProfileFileTest, AShorterIgnoreListHidesTheRestOfALongerOne) {
     EXPECT_EQ(Saved(profile_).IgnoreList, (std::vector<std::string>{"x", "y"}));
     EXPECT_NE(FileBytes(file_)->find("Ignore1=x\r\nIgnore2=y\r\nIgnore3=\r\nIgnore4=d\r\nIgnore5=e\r\n"),
               std::string::npos);
-    profile_.IgnoreList = {"x", "", "  ", "z"};  // empty lines of ignore.txt must not end the list
+    profile_.IgnoreList = {"x", "", "  ", "\t", "\"\"", "z"};  // empty lines of ignore.txt must not end the list
     EXPECT_EQ(Saved(profile_).IgnoreList, (std::vector<std::string>{"x", "z"}));
 }
 

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "platform/control.h"
+
+// The colours that the splash and the run box share.
+namespace quirn {
+
+inline constexpr Color kSpaceBackground = Rgb(8, 12, 40);
+inline constexpr Color kSpaceText = Rgb(190, 200, 225);
+
+}  // namespace quirn
