@@ -7,6 +7,7 @@
 
 #include "platform/dialogs.h"
 #include "platform/native.h"
+#include "platform/text.h"
 #include "platform/version.h"
 
 namespace quirn {
@@ -15,6 +16,13 @@ namespace {
 
 constexpr int kFrameGuess = 90;     // both sides together
 constexpr int kCaptionGuess = 375;  // with the frame above and below
+
+bool HasAccessKey(const Control& control, char key) {
+    const std::string& text = control.Text();
+    for (size_t at = text.find('&'); at != std::string::npos && at + 1 < text.size(); at = text.find('&', at + 2))
+        if (text[at + 1] != '&' && FoldCase(text[at + 1]) == FoldCase(key)) return true;
+    return false;
+}
 
 }  // namespace
 
@@ -130,6 +138,31 @@ bool Form::UserPressesShortcut(int key, bool control) {
     if (found == shortcuts_.end()) return false;
     menu_->UserChooses(found->command);
     return true;
+}
+
+bool Form::UserPressesAccessKey(char key) {
+    for (Control* control : TabOrder()) {
+        const bool data = control->Kind() == ControlKind::Label && static_cast<const Label*>(control)->ShowsData();
+        const TabPage* page = PageOf(control->Holder());
+        if (data || !control->Visible() || !control->Enabled() || (page != nullptr && !page->IsInFront()) ||
+            !HasAccessKey(*control, key))
+            continue;
+        switch (control->Kind()) {
+            case ControlKind::Label:
+            case ControlKind::Frame: FocusNext(control); return true;
+            case ControlKind::Button: static_cast<Button*>(control)->UserClicks(); return true;
+            case ControlKind::CheckBox:
+                control->SetFocus();
+                static_cast<CheckBox*>(control)->UserClicks();
+                return true;
+            case ControlKind::OptionButton:
+                control->SetFocus();
+                static_cast<OptionButton*>(control)->UserClicks();
+                return true;
+            default: break;
+        }
+    }
+    return false;
 }
 
 bool Form::UserTurnsPage(int steps) {

@@ -96,6 +96,7 @@ public:
     void UserPressesEnter();
     void UserPressesEscape();
     bool UserPressesShortcut(int key, bool control);  // false: it is none
+    bool UserPressesAccessKey(char key);              // Alt and a letter; false: no control has it
     bool UserTurnsPage(int steps);                    // of the first tab strip; false: there is none
     void FocusNext(const Control* after);             // the first that can have it, in tab order and round the end
     void WindowMoved(const Bounds& place) { place_ = place; }

@@ -19,7 +19,6 @@ RuntimeError ErrorFrom(DWORD code) {
         case ERROR_WRITE_PROTECT:
         case ERROR_ACCESS_DENIED: return MakeError(ErrorNumber::PathFileAccess);
         case ERROR_DISK_FULL:
-        case ERROR_DISK_QUOTA_EXCEEDED:
         case ERROR_HANDLE_DISK_FULL: return MakeError(ErrorNumber::DiskFull);
         case ERROR_NOT_ENOUGH_MEMORY:
         case ERROR_OUTOFMEMORY: return MakeError(ErrorNumber::OutOfMemory);

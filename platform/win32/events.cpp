@@ -52,6 +52,21 @@ Key AnswerKey(Form& form, WPARAM key) {
     return Key::ForDialogManager;
 }
 
+// The dialog manager would find access keys too, but for a label it asks the form to move the focus, which only a
+// dialog box understands.
+bool AnswerAccessKey(Form& form, const MSG& message) {
+    if (message.message == WM_CHAR) {
+        const LRESULT wants = SendMessageA(message.hwnd, WM_GETDLGCODE, 0, 0);
+        if ((wants & (DLGC_WANTCHARS | DLGC_WANTALLKEYS)) != 0 || message.wParam <= ' ') return false;
+    } else if (message.message != WM_SYSCHAR) {
+        return false;
+    }
+    if (!form.UserPressesAccessKey(static_cast<char>(message.wParam))) return false;
+    const HWND focus = GetFocus();
+    if (SendMessageA(focus, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) SendMessageA(focus, EM_SETSEL, 0, -1);
+    return true;
+}
+
 // True when the message needs nothing more.
 bool Answered(MSG& message) {
     Form* const form = FormOf(message.hwnd);
@@ -68,6 +83,7 @@ bool Answered(MSG& message) {
             case Key::ForDialogManager: break;
         }
     }
+    if (AnswerAccessKey(*form, message)) return true;
     return IsDialogMessageA(window, &message) != FALSE;
 }
 
