@@ -72,21 +72,6 @@ std::optional<LRESULT> ListMessage(ListBox& list, WNDPROC original, const Messag
     return std::nullopt;
 }
 
-// The open list asks for its colours before it paints, hence after each step of the selection in it.
-void ReportHighlight(ComboBox& box, HWND list) {
-    static HWND lastList = nullptr;
-    static int lastIndex = -1;
-    if (!SendMessageA(WindowOf(box), CB_GETDROPPEDSTATE, 0, 0)) {
-        lastList = nullptr;
-        return;
-    }
-    const int index = static_cast<int>(SendMessageA(list, LB_GETCURSEL, 0, 0));
-    if (list == lastList && index == lastIndex) return;
-    lastList = list;
-    lastIndex = index;
-    box.UserHighlights(index);
-}
-
 std::optional<LRESULT> KindMessage(Control& control, WNDPROC original, const Message& m) {
     switch (control.Kind()) {
         case ControlKind::OptionButton: return OptionMessage(static_cast<OptionButton&>(control), original, m);
@@ -95,7 +80,7 @@ std::optional<LRESULT> KindMessage(Control& control, WNDPROC original, const Mes
         case ControlKind::MaskedBox: return MaskedBoxMessage(static_cast<MaskedBox&>(control), m.message, m.wParam);
         case ControlKind::ComboBox:
             if (m.message == WM_CTLCOLORLISTBOX)
-                ReportHighlight(static_cast<ComboBox&>(control), reinterpret_cast<HWND>(m.lParam));
+                OpenListMoved(static_cast<ComboBox&>(control), reinterpret_cast<HWND>(m.lParam));
             return std::nullopt;
         default: return std::nullopt;
     }

@@ -61,9 +61,11 @@ bool AnswerAccessKey(Form& form, const MSG& message) {
     } else if (message.message != WM_SYSCHAR) {
         return false;
     }
+    const HWND before = GetFocus();
     if (!form.UserPressesAccessKey(static_cast<char>(message.wParam))) return false;
     const HWND focus = GetFocus();
-    if (SendMessageA(focus, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) SendMessageA(focus, EM_SETSEL, 0, -1);
+    if (focus != before && (SendMessageA(focus, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0)
+        SendMessageA(focus, EM_SETSEL, 0, -1);
     return true;
 }
 

@@ -17,19 +17,6 @@ void EditCommand(Control& control, WORD code) {
     else static_cast<MaskedBox&>(control).UserEdits(text);
 }
 
-// While the list is open, moving in it only highlights; a choice is what the list is closed with.
-void ComboCommand(ComboBox& box, WORD code) {
-    const HWND window = WindowOf(box);
-    const auto current = [&] { return static_cast<int>(SendMessageA(window, CB_GETCURSEL, 0, 0)); };
-    const bool open = SendMessageA(window, CB_GETDROPPEDSTATE, 0, 0) != FALSE;
-    if (code == CBN_SELENDOK || (code == CBN_SELCHANGE && !open)) {
-        box.UserSelects(current());
-    } else if (code == CBN_SELENDCANCEL) {
-        if (current() != box.ListIndex()) SendMessageA(window, CB_SETCURSEL, static_cast<WPARAM>(box.ListIndex()), 0);
-        box.UserHighlights(box.ListIndex());
-    }
-}
-
 void ListCommand(ListBox& list, WORD code) {
     if (code != LBN_SELCHANGE) return;
     std::vector<int> selected;
@@ -54,7 +41,7 @@ void Command(Control& control, WORD code) {
             break;
         case ControlKind::TextBox:
         case ControlKind::MaskedBox: EditCommand(control, code); break;
-        case ControlKind::ComboBox: ComboCommand(static_cast<ComboBox&>(control), code); break;
+        case ControlKind::ComboBox: ComboBoxCommand(static_cast<ComboBox&>(control), code); break;
         case ControlKind::ListBox: ListCommand(static_cast<ListBox&>(control), code); break;
         default: break;
     }

@@ -76,6 +76,10 @@ void PlacePages(TabStrip& strip);
 // notify.cpp: messages that a control's window sends to its form or page; nothing means the default handling.
 std::optional<LRESULT> NotificationFromControl(Form& form, UINT message, WPARAM wParam, LPARAM lParam);
 
+// combobox.cpp
+void ComboBoxCommand(ComboBox& box, WORD code);
+void OpenListMoved(ComboBox& box, HWND list);  // or may have been: the list is about to be painted
+
 // tooltip.cpp
 void PrepareToolTip(Control& control);
 void ToolTipChanged(Control& control);
