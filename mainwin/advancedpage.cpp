@@ -10,13 +10,13 @@ namespace {
 
 // clang-format off
 //                             left   top  width  height
-constexpr Bounds kGammaLabel{   120,  165,  2250, kLabelHeight};
-constexpr Bounds kGamma{       2400,  120,   510, kRowHeight};
-constexpr Bounds kEmulator{    3360,  150,  1725, kCheckHeight};
-constexpr Bounds kCodeLabel{   5160,  165,   960, kLabelHeight};
-constexpr Bounds kCode{        6150,   90,  1950, kButtonHeight};
-constexpr Bounds kFrame{        120,  510,  7980, 3600};
-constexpr Bounds kBox{          120,  225,  1890, 225};   // in the frame
+constexpr Bounds kGammaLabel{   120,  165,  2640, kLabelHeight};
+constexpr Bounds kGamma{       2760,  120,   450, kRowHeight};
+constexpr Bounds kEmulator{    3495,  150,  1740, kCheckHeight};
+constexpr Bounds kCodeLabel{   5250,  165,  1050, kLabelHeight};
+constexpr Bounds kCode{        6315,   90,  1785, kButtonHeight};
+constexpr Bounds kFrame{        120,  495,  7980, 3615};
+constexpr Bounds kBox{          120,  240,  1890, 225};   // in the frame
 constexpr int    kStepX =      1965;
 constexpr int    kStepY =       238;
 constexpr int    kRows =         14;

@@ -23,12 +23,14 @@ constexpr int kHeight = 6456;
 
 // clang-format off
 //                              left   top  width  height
-constexpr Bounds kTabs{           90,   75, 8325, 4620};
-constexpr Bounds kRun{          2550, 4785, 3400, kButtonHeight};
+constexpr Bounds kTabs{           90,   75, 8325, 4620};         // moved to the middle when the
+constexpr Bounds kRun{          2550, 4785, 3400, kButtonHeight};  // window's inner size is known
 // On the page "Macros R-Shift":
 constexpr Bounds kCopyMacros{   2520, 3660, 1800, kButtonHeight};
 constexpr Bounds kDistinguish{  4560, 3720, 2400, kCheckHeight};
 // clang-format on
+
+constexpr int kStatusBarHeight = 330;
 
 constexpr int kMacrosShiftPage = 4;
 constexpr char kHelpPage[] = "\\help.html";
@@ -101,6 +103,7 @@ void frmMain::Form_Load() {
     BuildFavouritesMenu();
     HideRecentMenu(menuBar_);
     RefreshRecentMenu(menuBar_, program_.recentFiles);
+    CenterControls();
     // A second copy finds the first by the start of this text.
     SetCaption(VersionTitle() + " - " + program_.CurrentFile);
 
@@ -115,6 +118,18 @@ void frmMain::Form_Load() {
     ShowProfile();
     tray_.Add();
     if (program_.quiet) Hide();
+}
+
+// How much room the frame leaves is the system's choice.
+void frmMain::CenterControls() {
+    const auto inTheMiddle = [this](Bounds place) {
+        place.left = (InnerWidth() - place.width) / 2;
+        return place;
+    };
+    SSTab1.Move(inTheMiddle(kTabs));
+    Bounds run = inTheMiddle(kRun);
+    run.top = kTabs.Bottom() + (InnerHeight() - kStatusBarHeight - kTabs.Bottom() - run.height) / 2;
+    Command3.Move(run);
 }
 
 // The close box only hides the window: the program stays in the tray.

@@ -25,6 +25,7 @@ public:
 
 private:
     void Form_Load();
+    void CenterControls();
     bool Form_QueryUnload(UnloadMode mode);
     bool Form_Unload();
 
