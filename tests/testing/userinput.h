@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/form.h"
+
+// Acts as the player on the windows of this process. In memory it calls what the back end would call; on Windows it
+// sends the windows the messages that mouse and keyboard would bring. The form must be shown.
+namespace quirn::test {
+
+void Click(Button& button);
+void Click(CheckBox& box);
+void Click(OptionButton& option);
+void Type(TextBox& box, const std::string& text);                    // at the end
+size_t Type(MaskedBox& box, const std::string& text, size_t caret);  // returns the new caret; 8 and 127 erase
+size_t Paste(MaskedBox& box, const std::string& text, size_t caret);
+void Choose(ComboBox& box, int index);
+void Choose(ListBox& list, const std::vector<int>& indexes);
+void Spin(UpDown& arrows, int steps);
+void TurnTo(TabStrip& strip, int page);
+void Close(Form& form);  // the close box
+
+// A key that goes to the control that has the focus, by way of the event loop.
+void Press(Form& form, int key, bool control = false);
+
+enum class MenuPart { Item, Heading, Separator, Nothing };
+void PointAt(Form& form, MenuPart part, int command);
+void Choose(Form& form, int command);
+
+// What the player sees; for a control whose window is there.
+std::string ShownText(const Control& control);
+bool ShownChecked(const Control& control);
+int ShownIndex(const Control& control);  // the selected item or page
+
+// Runs once events are waited for, as inside a modal form.
+void Later(std::function<void()> task);
+
+}  // namespace quirn::test

@@ -1,0 +1,101 @@
+#include "platform/headless/events.h"
+#include "tests/testing/userinput.h"
+
+namespace quirn::test {
+
+void Click(Button& button) {
+    button.SetFocus();
+    button.UserClicks();
+}
+
+void Click(CheckBox& box) {
+    box.SetFocus();
+    box.UserClicks();
+}
+
+void Click(OptionButton& option) {
+    option.SetFocus();
+    option.UserClicks();
+}
+
+void Type(TextBox& box, const std::string& text) {
+    for (const char c : text)
+        if (!box.UserTypes(c)) box.UserEdits(box.Text() + c);
+}
+
+size_t Type(MaskedBox& box, const std::string& text, size_t caret) {
+    for (const char c : text) caret = box.UserTypes(c, caret);
+    return caret;
+}
+
+size_t Paste(MaskedBox& box, const std::string& text, size_t caret) {
+    return box.UserPastes(text, caret);
+}
+
+void Choose(ComboBox& box, int index) {
+    box.UserSelects(index);
+}
+
+void Choose(ListBox& list, const std::vector<int>& indexes) {
+    list.UserSelects(indexes);
+}
+
+void Spin(UpDown& arrows, int steps) {
+    for (int i = 0; i != steps; i += steps > 0 ? 1 : -1) arrows.UserSpins(steps > 0 ? 1 : -1);
+}
+
+void TurnTo(TabStrip& strip, int page) {
+    strip.UserTurnsTo(page);
+}
+
+void Close(Form& form) {
+    form.UserCloses(UnloadMode::CloseBox);
+}
+
+void Press(Form& form, int key, bool control) {
+    if (control && key == kKeyTab && form.UserTurnsPage(1)) return;
+    if (form.UserPressesShortcut(key, control)) return;
+    Control* active = form.ActiveControl();
+    if (active != nullptr && active->Kind() == ControlKind::ListBox) {
+        auto* list = static_cast<ListBox*>(active);
+        if (list->onKeyPress) {
+            list->UserTypes(static_cast<char>(key));
+            return;
+        }
+    }
+    form.UserTypes(static_cast<char>(key));
+    if (key == kKeyEnter && form.IsLoaded()) form.UserPressesEnter();
+    if (key == kKeyEscape && form.IsLoaded()) form.UserPressesEscape();
+}
+
+void PointAt(Form& form, MenuPart part, int command) {
+    if (form.MenuBar()->onHighlight) form.MenuBar()->onHighlight(part == MenuPart::Item ? command : 0);
+}
+
+void Choose(Form& form, int command) {
+    form.MenuBar()->UserChooses(command);
+}
+
+std::string ShownText(const Control& control) {
+    return control.Text();
+}
+
+bool ShownChecked(const Control& control) {
+    if (control.Kind() == ControlKind::CheckBox) return static_cast<const CheckBox&>(control).Value() == 1;
+    const auto& option = static_cast<const OptionButton&>(control);
+    return option.Group().Selected() == option.Index();
+}
+
+int ShownIndex(const Control& control) {
+    switch (control.Kind()) {
+        case ControlKind::ComboBox: return static_cast<const ComboBox&>(control).ListIndex();
+        case ControlKind::ListBox: return static_cast<const ListBox&>(control).ListIndex();
+        default: return static_cast<const TabStrip&>(control).Tab();
+    }
+}
+
+void Later(std::function<void()> task) {
+    headless::PostAfter(1, std::move(task));
+}
+
+}  // namespace quirn::test

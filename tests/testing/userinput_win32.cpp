@@ -1,0 +1,180 @@
+#include <windows.h>
+
+#include <commctrl.h>  // needs windows.h first
+
+#include <array>
+#include <cstring>
+#include <memory>
+
+#include "tests/testing/userinput.h"
+
+namespace quirn::test {
+
+namespace {
+
+HWND WindowOf(const Control& control) {
+    return static_cast<HWND>(control.window);
+}
+
+HWND WindowOf(const Form& form) {
+    return static_cast<HWND>(form.window);
+}
+
+LRESULT Send(const Control& control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    return SendMessageA(WindowOf(control), message, wParam, lParam);
+}
+
+void Tell(const Control& control, WORD code) {
+    SendMessageA(GetParent(WindowOf(control)), WM_COMMAND, MAKEWPARAM(0, code),
+                 reinterpret_cast<LPARAM>(WindowOf(control)));
+}
+
+void PutCaret(const Control& control, size_t caret) {
+    Send(control, EM_SETSEL, caret, static_cast<LPARAM>(caret));
+}
+
+size_t CaretIn(const Control& control) {
+    DWORD from = 0;
+    Send(control, EM_GETSEL, reinterpret_cast<WPARAM>(&from));
+    return from;
+}
+
+void PutInClipboard(const std::string& text) {
+    OpenClipboard(nullptr);
+    EmptyClipboard();
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, text.size() + 1);
+    std::memcpy(GlobalLock(memory), text.c_str(), text.size() + 1);
+    GlobalUnlock(memory);
+    SetClipboardData(CF_TEXT, memory);
+    CloseClipboard();
+}
+
+void HoldControl(bool held) {
+    std::array<BYTE, 256> keys{};
+    if (held) keys[VK_CONTROL] = 0x80;
+    SetKeyboardState(keys.data());
+}
+
+}  // namespace
+
+void Click(Button& button) {
+    Send(button, BM_CLICK);
+}
+
+void Click(CheckBox& box) {
+    Send(box, BM_CLICK);
+}
+
+void Click(OptionButton& option) {
+    Send(option, BM_CLICK);
+}
+
+void Type(TextBox& box, const std::string& text) {
+    for (const char c : text) {
+        PutCaret(box, box.Text().size());
+        Send(box, WM_CHAR, static_cast<unsigned char>(c));
+    }
+}
+
+size_t Type(MaskedBox& box, const std::string& text, size_t caret) {
+    PutCaret(box, caret);
+    for (const char c : text) {
+        if (c == MaskedBox::kDelete) Send(box, WM_KEYDOWN, VK_DELETE);
+        else Send(box, WM_CHAR, static_cast<unsigned char>(c));
+    }
+    return CaretIn(box);
+}
+
+size_t Paste(MaskedBox& box, const std::string& text, size_t caret) {
+    PutInClipboard(text);
+    PutCaret(box, caret);
+    Send(box, WM_PASTE);
+    return CaretIn(box);
+}
+
+void Choose(ComboBox& box, int index) {
+    Send(box, CB_SETCURSEL, static_cast<WPARAM>(index));
+    Tell(box, CBN_SELCHANGE);
+}
+
+void Choose(ListBox& list, const std::vector<int>& indexes) {
+    if (list.Style() == ListStyle::Single) {
+        Send(list, LB_SETCURSEL, static_cast<WPARAM>(indexes.empty() ? -1 : indexes[0]));
+    } else {
+        Send(list, LB_SETSEL, FALSE, -1);
+        for (const int index : indexes) Send(list, LB_SETSEL, TRUE, index);
+    }
+    Tell(list, LBN_SELCHANGE);
+}
+
+void Spin(UpDown& arrows, int steps) {
+    for (int i = 0; i != steps; i += steps > 0 ? 1 : -1) {
+        Send(arrows.Buddy(), WM_KEYDOWN, steps > 0 ? VK_UP : VK_DOWN);
+        Send(arrows.Buddy(), WM_KEYUP, steps > 0 ? VK_UP : VK_DOWN);
+    }
+}
+
+void TurnTo(TabStrip& strip, int page) {
+    Send(strip, TCM_SETCURFOCUS, static_cast<WPARAM>(page));
+}
+
+void Close(Form& form) {
+    SendMessageA(WindowOf(form), WM_SYSCOMMAND, SC_CLOSE, 0);
+}
+
+void Press(Form& form, int key, bool control) {
+    DoEvents();
+    const HWND target = form.ActiveControl() != nullptr ? WindowOf(*form.ActiveControl()) : WindowOf(form);
+    HoldControl(control);
+    PostMessageA(target, WM_KEYDOWN, static_cast<WPARAM>(key), 0);
+    DoEvents();
+    HoldControl(false);
+}
+
+void PointAt(Form& form, MenuPart part, int command) {
+    UINT flags = MF_HILITE;
+    LPARAM menu = reinterpret_cast<LPARAM>(GetMenu(WindowOf(form)));
+    if (part == MenuPart::Heading) flags |= MF_POPUP;
+    if (part == MenuPart::Separator) flags |= MF_SEPARATOR;
+    if (part == MenuPart::Nothing) {
+        flags = 0xFFFF;
+        menu = 0;
+    }
+    SendMessageA(WindowOf(form), WM_MENUSELECT, MAKEWPARAM(command, flags), menu);
+}
+
+void Choose(Form& form, int command) {
+    SendMessageA(WindowOf(form), WM_COMMAND, MAKEWPARAM(command, 0), 0);
+}
+
+std::string ShownText(const Control& control) {
+    std::array<char, 1024> text{};
+    GetWindowTextA(WindowOf(control), text.data(), static_cast<int>(text.size()));
+    return text.data();
+}
+
+bool ShownChecked(const Control& control) {
+    return Send(control, BM_GETCHECK) == BST_CHECKED;
+}
+
+int ShownIndex(const Control& control) {
+    switch (control.Kind()) {
+        case ControlKind::ComboBox: return static_cast<int>(Send(control, CB_GETCURSEL));
+        case ControlKind::ListBox: return static_cast<int>(Send(control, LB_GETCURSEL));
+        default: return static_cast<int>(Send(control, TCM_GETCURSEL));
+    }
+}
+
+void Later(std::function<void()> task) {
+    static std::vector<std::unique_ptr<Timer>> timers;
+    timers.push_back(std::make_unique<Timer>());
+    Timer* timer = timers.back().get();
+    timer->SetInterval(10);
+    timer->onTimer = [timer, run = std::move(task)] {
+        timer->SetEnabled(false);
+        run();
+    };
+    timer->SetEnabled(true);
+}
+
+}  // namespace quirn::test
