@@ -122,6 +122,10 @@ void Form::UserTypes(char character) {
 }
 
 void Form::UserPressesEnter() {
+    // A box of text may want the key for itself.
+    if (active_ != nullptr && active_->Kind() == ControlKind::TextBox &&
+        static_cast<TextBox*>(active_)->UserTypes(static_cast<char>(kKeyEnter)))
+        return;
     const bool onButton = active_ != nullptr && active_->Kind() == ControlKind::Button;
     Button* const button = onButton ? static_cast<Button*>(active_) : defaultButton_;
     if (button != nullptr && button->Visible()) button->UserClicks();

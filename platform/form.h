@@ -33,7 +33,7 @@ struct Shortcut {
 // it, and either may happen again. A form is destroyed with its window when its object goes.
 //
 // Keyboard: Tab and the arrows move between the controls, access keys and the menu bar work, Ctrl+Tab turns the pages of
-// the form's tab strip. Enter presses the button that has the focus, else the default button; Esc presses the cancel
+// the form's tab strip. Enter goes to a text box that swallows it, else presses the button that has the focus, else the default button; Esc presses the cancel
 // button. A form without such buttons ignores the two.
 class Form : public Container {
 public:

@@ -61,7 +61,8 @@ RECT PixelPlace(const Form& form) {
 
 void TellPlace(Form& form) {
     RECT rect{};
-    if (form.IsMinimized() || !GetWindowRect(WindowOf(form), &rect)) return;
+    // A window that is being minimised is moved away before it says so.
+    if (IsIconic(WindowOf(form)) || !GetWindowRect(WindowOf(form), &rect)) return;
     const int dpi = DpiOf(WindowOf(form));
     form.WindowMoved({ToTwips(rect.left, DpiOf(nullptr)), ToTwips(rect.top, DpiOf(nullptr)),
                       ToTwips(rect.right - rect.left, dpi), ToTwips(rect.bottom - rect.top, dpi)});
@@ -111,6 +112,7 @@ LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
     if (TrayMessage(*form, message, wParam, lParam)) return 0;
     switch (message) {
         case WM_CLOSE: form->UserCloses(UnloadMode::CloseBox); return 0;
+        // The program ends when it is asked, not when it is told: only then may the player still be asked to save.
         case WM_QUERYENDSESSION: form->UserCloses(UnloadMode::SystemShutdown); return form->IsLoaded() ? FALSE : TRUE;
         case WM_COMMAND:
             if (HIWORD(wParam) == 0 && form->MenuBar() != nullptr) form->MenuBar()->UserChooses(LOWORD(wParam));
@@ -144,7 +146,7 @@ ATOM FormClass() {
         description.lpfnWndProc = FormProc;
         description.hInstance = Instance();
         description.hIcon = LoadIconA(description.hInstance, MAKEINTRESOURCEA(IDI_QUIRN));
-        description.hCursor = LoadCursor(nullptr, IDC_ARROW);
+        description.hCursor = LoadCursorA(nullptr, IDC_ARROW);
         description.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
         description.lpszClassName = kFormClass;
         return RegisterClassExA(&description);
