@@ -226,7 +226,7 @@ bool ListBox::UserTypes(char character) {
 }
 
 // The strip's own border and its one row of tabs; win32/ gives the tabs this height.
-constexpr int kTabBorder = 60;
+constexpr int kTabBorder = 30;
 
 TabPage::TabPage(TabStrip& strip, const std::string& caption)
     : Container(strip.Holder().Owner()), strip_(&strip), caption_(caption) {
