@@ -245,7 +245,7 @@ TabStrip::TabStrip(Parent parent, const Bounds& place) : Control(parent, Control
 
 Bounds TabStrip::PageArea() const {
     const Bounds& place = Place();
-    const int top = kTabHeight + kTabBorder;
+    const int top = kTabHeight + 2 * kTabBorder;  // the tabs stand off the strip's upper edge
     return {place.left + kTabBorder, place.top + top, place.width - 2 * kTabBorder, place.height - top - kTabBorder};
 }
 
