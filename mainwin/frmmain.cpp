@@ -222,6 +222,11 @@ void frmMain::ShowOptions(bool favourites) {
 }
 
 void frmMain::Tray_Mouse(unsigned message) {
+    // The icon answers while a dialog is open too: the menu would end or play from under it.
+    if (IsBlocked()) {
+        if (message == kMouseLeftDoubleClick || message == kMouseRightDown) BringToFront();
+        return;
+    }
     if (message == kMouseLeftDoubleClick) ShowMainWindow();
     if (message == kMouseRightDown) PopUpMenu(mnuPUTrayIcon, mnuPUTrayIcon_Open);
 }

@@ -84,6 +84,10 @@ void Form::ShowModal(Form& owner) {
     if (loaded_) native::RunModal(*this, owner);
 }
 
+bool Form::IsBlocked() const {
+    return loaded_ && native::IsBlocked(*this);
+}
+
 void Form::Hide() {
     if (loaded_) native::ShowForm(*this, false);
 }

@@ -69,6 +69,9 @@ public:
     void Show();               // loads it first when need be; does not wait
     void ShowModal(Form& owner);  // waits until it is unloaded or hidden; the owner is disabled meanwhile
     void Hide();
+
+    // A modal form, a message box or a file dialog of this program waits for its answer before the form.
+    bool IsBlocked() const;
     void BringToFront();  // restores it when it is minimised
     void Repaint();       // paints the window now, without waiting for events
 

@@ -16,7 +16,8 @@ void DestroyForm(Form& form);  // also resets the window pointers of its control
 void FormChanged(Form& form, Aspect aspect);
 void ShowForm(Form& form, bool visible);
 void RunModal(Form& form, Form& owner);  // shows it and returns when it is unloaded or hidden
-void BringToFront(Form& form);
+bool IsBlocked(const Form& form);
+void BringToFront(Form& form);  // or the window that blocks it
 void Repaint(Form& form);
 
 struct Size {

@@ -29,6 +29,7 @@ long now = 0;
 int loadedForms = 0;
 std::vector<RunningTimer> timers;
 std::vector<PostedTask> tasks;
+std::vector<const Form*> blocked;  // by a modal form, one entry for each
 
 // Runs the earliest task or timer that is due, if any.
 bool RunOne() {
@@ -132,16 +133,21 @@ void ShowForm(Form& form, bool visible) {
     form.WindowShown(visible);
 }
 
-void RunModal(Form& form, Form&) {
+bool IsBlocked(const Form& form) {
+    return std::find(blocked.begin(), blocked.end(), &form) != blocked.end();
+}
+
+void RunModal(Form& form, Form& owner) {
+    blocked.push_back(&owner);
     form.Show();
     while (form.IsLoaded() && form.Visible()) {
         if (tasks.empty() && timers.empty()) {
             headless::ReportFailure("the modal form \"" + form.Caption() + "\" was left open");
             form.Hide();
-            return;
         }
         WaitForEvents(1);
     }
+    blocked.pop_back();
 }
 
 void BringToFront(Form& form) {

@@ -121,7 +121,11 @@ LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
     switch (message) {
         case WM_CLOSE: form->UserCloses(UnloadMode::CloseBox); return 0;
         // The program ends when it is asked, not when it is told: only then may the player still be asked to save.
-        case WM_QUERYENDSESSION: form->UserCloses(UnloadMode::SystemShutdown); return form->IsLoaded() ? FALSE : TRUE;
+        // A dialog that is still open is the player's to close first.
+        case WM_QUERYENDSESSION:
+            if (form->IsBlocked()) return FALSE;
+            form->UserCloses(UnloadMode::SystemShutdown);
+            return form->IsLoaded() ? FALSE : TRUE;
         case WM_COMMAND:
             if (HIWORD(wParam) == 0 && form->MenuBar() != nullptr) form->MenuBar()->UserChooses(LOWORD(wParam));
             return 0;
@@ -236,9 +240,13 @@ void ShowForm(Form& form, bool visible) {
     ShowWindow(WindowOf(form), visible ? SW_SHOWNORMAL : SW_HIDE);
 }
 
+bool IsBlocked(const Form& form) {
+    return !IsWindowEnabled(WindowOf(form));
+}
+
 void BringToFront(Form& form) {
     if (form.IsMinimized()) ShowWindow(WindowOf(form), SW_RESTORE);
-    SetForegroundWindow(WindowOf(form));
+    SetForegroundWindow(IsBlocked(form) ? GetLastActivePopup(WindowOf(form)) : WindowOf(form));
 }
 
 void Repaint(Form& form) {
