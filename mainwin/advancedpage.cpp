@@ -10,9 +10,9 @@ namespace {
 
 // clang-format off
 //                             left   top  width  height
-constexpr Bounds kGammaLabel{   120,  165,  2640, kLabelHeight};
-constexpr Bounds kGamma{       2760,  120,   450, kRowHeight};
-constexpr Bounds kEmulator{    3495,  150,  1740, kCheckHeight};
+constexpr Bounds kGammaLabel{   120,  165,  2520, kLabelHeight};
+constexpr Bounds kGamma{       2610,  120,   450, kRowHeight};
+constexpr Bounds kEmulator{    3450,  150,  1740, kCheckHeight};
 constexpr Bounds kCodeLabel{   5250,  165,  1050, kLabelHeight};
 constexpr Bounds kCode{        6315,   90,  1785, kButtonHeight};
 constexpr Bounds kFrame{        120,  495,  7980, 3615};

@@ -4,15 +4,15 @@ namespace quirn {
 
 namespace {
 
-constexpr int kWidth = 3900;
+constexpr int kWidth = 4800;
 constexpr int kHeight = 1890;
 
 // clang-format off
 //                      left   top  width  height
 constexpr Bounds kLabel{ 180,  180,  3300,  225};
-constexpr Bounds kCode{  180,  450,  3420,  300};
-constexpr Bounds kOk{    720,  930,  1380,  345};
-constexpr Bounds kCancel{2220, 930,  1380,  345};
+constexpr Bounds kCode{  180,  450,  4320,  300};
+constexpr Bounds kOk{   1620,  930,  1380,  345};
+constexpr Bounds kCancel{3120, 930,  1380,  345};
 // clang-format on
 
 class frmConfig : public Form {

@@ -11,7 +11,7 @@ namespace {
 constexpr Bounds kGroup{        120,  120,  1260, 1065};  // the first of two rows of three
 constexpr int    kGroupStepX =  1350;
 constexpr int    kGroupStepY =  1140;
-constexpr Bounds kGroupButton{  105,  240,  1095,  240};  // in its frame
+constexpr Bounds kGroupButton{   75,  240,  1155,  240};  // in its frame
 constexpr int    kGroupButtonStep = 255;
 
 constexpr Bounds kNumberLabel{  120, 2565,  1860,  kLabelHeight};

@@ -96,7 +96,12 @@ std::optional<LRESULT> TextBoxMessage(TextBox& box, UINT message, WPARAM wParam)
             }
             if (box.IsMasked() && (wParam == kCopy || wParam == kCut)) return 0;
             break;
-        // Windows refuses these for hidden text itself; Wine does not.
+        // Windows refuses all of these for hidden text itself; Wine does not, and by these keys without a message.
+        case WM_KEYDOWN:
+            if (box.IsMasked() && ((wParam == VK_DELETE && Pressed(VK_SHIFT)) ||
+                                   (wParam == VK_INSERT && Pressed(VK_CONTROL))))
+                return 0;
+            break;
         case WM_COPY:
         case WM_CUT:
             if (box.IsMasked()) return 0;

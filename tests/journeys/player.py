@@ -5,8 +5,7 @@ import time
 
 from conftest import TITLE, wait_for
 
-BM_GETCHECK, CB_GETCURSEL, TCM_GETCURSEL = 0xF0, 0x147, 0x130B
-EM_GETSEL = 0xB0
+BM_GETCHECK, TCM_GETCURSEL = 0xF0, 0x130B
 WS_TABSTOP = 0x10000
 PAGES = ["Identity", "Options", "Advanced", "Hidden", "Macros Shift", "Macros R-Shift", "Ignore List"]
 (NEW, OPEN, SAVE, SAVE_AS, IMPORT, PRINT, RECENT, CLOSE, EXIT, SET_OPTIONS) = (2, 3, 4, 5, 7, 9, 11, 17, 18, 20)
@@ -90,20 +89,48 @@ class Player:
     def xdo(self, *words):
         subprocess.run(["xdotool", *map(str, words)], env=self.desk.screen.environment, check=True)
 
+    def display_says(self, *words):
+        return subprocess.run(words, env=self.desk.screen.environment, stdout=subprocess.PIPE,
+                              stderr=subprocess.DEVNULL, check=False).stdout.decode("utf-8", "replace")
+
+    def frame(self):
+        """The window with the frame that the window manager draws round it: left, top, right, bottom."""
+        name = "^" + re.escape(self.title()) + "$"
+        number = wait_for(lambda: self.display_says("xdotool", "search", "--onlyvisible", "--name", name).split(),
+                          what=f"'{self.title()}' on the display")[-1]
+        info = self.display_says("xwininfo", "-id", number)
+        left, top, width, height = (int(re.search(key + r":\s+(-?\d+)", info)[1])
+                                    for key in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+        around = re.search(r"= (\d+), (\d+), (\d+), (\d+)",
+                           self.display_says("xprop", "-id", number, "_NET_FRAME_EXTENTS"))
+        l, r, t, b = map(int, around.groups()) if around else (0, 0, 0, 0)
+        return left - l, top - t, left + width + r, top + height + b
+
+    def tray_icons(self):
+        """Where the icons in the window manager's tray are that come from Wine."""
+        tree = self.display_says("xwininfo", "-root", "-tree")
+        tray = tree[tree.index('"SystemTray"'):tree.index('"TrayPane"')] if '"SystemTray"' in tree else ""
+        return [tuple(map(int, place)) for place in
+                re.findall(r'"explorer.exe"\)\s+\d+x\d+\S+\s+\+(\d+)\+(\d+)', tray)]
+
+    def point_at_tray_icon(self):
+        x, y = wait_for(self.tray_icons, what="the tray icon")[0]
+        self.point(x + 12, y + 12)
+
     def has_keyboard(self):
         """Both for the system and for the display, which gives the keyboard in its own time."""
-        if self.user.ask("foreground")["handle"] != self.handle:
-            return False
-        name = subprocess.run(["xdotool", "getwindowfocus", "getwindowname"], env=self.desk.screen.environment,
-                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False).stdout
-        return name.decode("utf-8", "replace").strip() == self.title()
+        return (self.user.ask("foreground")["handle"] == self.handle and
+                self.display_says("xdotool", "getwindowfocus", "getwindowname").strip() == self.title())
+
+    def take_keyboard(self):
+        if not self.has_keyboard():
+            self.front()
 
     def front(self):
         """A click on the caption: this window manager does not give the keyboard to a new window by itself."""
-        wait_for(lambda: self.user.ask("foreground")["handle"] == self.handle, what=f"'{self.title()}' in front")
-        for _ in range(20):
-            l, t, r, _ = self.window()["rect"]
-            self.point((l + r) / 2, t + 8)
+        for _ in range(30):
+            left, top, right, _ = self.frame()
+            self.point((left + right) / 2, top + 10)
             self.xdo("click", 1)
             time.sleep(0.15)
             if self.has_keyboard():
@@ -111,10 +138,12 @@ class Player:
         raise AssertionError(f"no keyboard for '{self.title()}'")
 
     def keys(self, *names):
+        self.take_keyboard()
         self.xdo("key", "--delay", "25", *names)
         time.sleep(0.1)
 
     def type(self, text):
+        self.take_keyboard()
         self.xdo("type", "--delay", "12", text)
         time.sleep(0.1)
 
@@ -166,11 +195,11 @@ class Player:
                         what="the dialog's name box")[0]
         offered = name["caption"]
         if path is None:
-            self.keys("Escape")
+            dialog.keys("Escape")
         else:
-            self.keys("Home", "shift+End")
-            self.type(path)
-            self.keys("Return")
+            dialog.keys("Home", "shift+End")
+            dialog.type(path)
+            dialog.keys("Return")
         dialog.gone()
         return offered
 
@@ -181,10 +210,6 @@ class Player:
     def open(self, path):
         self.quirn.choose(OPEN)
         return self.in_file_dialog("Open", path)
-
-
-def base_title(window):
-    return re.sub(r" - .*", "", window)
 
 
 def start(desk, *arguments):

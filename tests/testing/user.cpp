@@ -182,9 +182,12 @@ std::string Items(const Words& words) {
     const auto count = SendMessageA(list, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0);
     std::vector<std::string> rows, selected;
     for (LRESULT i = 0; i < count; ++i) {
+        // Between processes such a text may come wide although it was asked for as bytes; asked for as wide, it does.
+        std::vector<wchar_t> wide(1 << 12);
         std::vector<char> text(1 << 12);
-        SendMessageA(list, combo ? CB_GETLBTEXT : LB_GETTEXT, static_cast<WPARAM>(i),
-                     reinterpret_cast<LPARAM>(text.data()));
+        SendMessageW(list, combo ? CB_GETLBTEXT : LB_GETTEXT, static_cast<WPARAM>(i),
+                     reinterpret_cast<LPARAM>(wide.data()));
+        WideCharToMultiByte(CP_ACP, 0, wide.data(), -1, text.data(), static_cast<int>(text.size()), nullptr, nullptr);
         rows.push_back(Quoted(text.data()));
         const bool isSelected = combo ? SendMessageA(list, CB_GETCURSEL, 0, 0) == i
                                       : SendMessageA(list, LB_GETSEL, static_cast<WPARAM>(i), 0) > 0;

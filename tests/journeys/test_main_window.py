@@ -1,0 +1,399 @@
+"""The player at the main window: one control of every kind on every page, and what becomes of what he does."""
+import time
+
+import pytest
+
+from catalogue import SZ, DWORD
+from conftest import Profile, wait_for
+from player import PAGES, RECENT, WS_TABSTOP, start
+
+TARGET = r"C:\SubSpace\Profiles\TRIP.QRN"
+
+
+def code_button(player):
+    return next(c for c in player.of_class("Button") if len(c["caption"]) == 14 and c["caption"][4] == "-")
+
+
+def spin(player, label, times):
+    """Presses the upper arrow of the spin control beside a number."""
+    l, t, r, b = player.beside(label, "msctls_updown32")["rect"]
+    for _ in range(times):
+        player.point((l + r) / 2, t + (b - t) / 4)
+        player.xdo("click", 1)
+        time.sleep(0.1)
+
+
+def edit_everything(player):
+    player.replace(player.beside("Pilot Name :"), "Marlow Quist")
+    player.replace(player.beside("Pilot Password :"), "b0ld&new")
+    player.pick(player.beside("Ship Type :", "ComboBox"), "Spectator Mode")
+    player.pick(player.beside("Resolution :", "ComboBox"), "1280 x 1024")
+    player.pick(player.beside("Zone to Start In :", "ComboBox"), "Quiet Shoals")
+    proxy = player.find("Use Proxy Address :")
+    if not player.checked(proxy):
+        player.click(proxy)
+    player.replace(player.beside("Use Proxy Address :"), "10.20.30.40")
+    player.replace(player.beside("Chat Name :"), "night,owls")
+    player.click(player.beside("Shift-F11 :", "Button", 0))
+    player.in_file_dialog("Open", r"C:\SubSpace\waves\goal.wav")
+
+    player.turn_to("Options")
+    player.replace(player.beside("Message Name Length :"), "12")
+    player.replace(player.beside("Target Bounty :"), "40")
+    spin(player, "Target Bounty :", 2)
+    player.click(player.in_frame("Radar", "Large"))
+    player.click(player.in_frame("Sound", "Engines Off"))
+    for caption in ("Show Clock", "3d Sound Effects"):
+        if not player.checked(player.find(caption)):
+            player.click(player.find(caption))
+
+    player.turn_to("Advanced")
+    player.replace(player.beside("Gamma Correction Percentage :"), "77")
+    player.click(code_button(player))
+    dialog = player.dialog("Advanced Settings Code")
+    dialog.type("4zz0000000005")
+    dialog.keys("Return")
+    dialog.gone()
+    assert code_button(player)["caption"] == "4zz0-0000-0000"
+    player.click(player.find("Mines"))
+    assert code_button(player)["caption"] == "4ZZH-0000-0000"  # row D, fifth column
+    if not player.checked(player.find("Software Emulation")):
+        player.click(player.find("Software Emulation"))
+
+    player.turn_to("Hidden")
+    for caption in ("Show Frame Rate (displays framerate info on game screen)", "Force 60 (forces 60Hz refresh rate)"):
+        if not player.checked(player.find(caption)):
+            player.click(player.find(caption))
+
+    player.turn_to("Macros Shift")
+    player.replace(player.beside("Shift F1 -"), "hi ")
+    player.type("%")
+    player.keys("s", "Return")
+    player.turn_to("Macros R-Shift")
+    player.click(player.find("Copy from Shift"))
+    player.replace(player.beside("R-Shift F8 -"), "last word")
+    if not player.checked(player.find("Distinguish L/RSHIFT")):
+        player.click(player.find("Distinguish L/RSHIFT"))
+
+    player.turn_to("Ignore List")
+    name = [c for c in player.of_class("Edit")][0]
+    for who in ("Grub", "  Loud Lou  "):
+        player.click(name)
+        player.type(who)
+        player.keys("Return")
+    player.click(name)
+    player.type("Third")
+    player.click(player.find("<--- Add"))
+
+
+EDITED = {
+    "Dialog": {"PlayerName": "Marlow Quist", "PlayerPassword": "b0ld&new", "PlayerShipType": "8",
+               "ServerArena": "Quiet Shoals", "ServerName": "zone9.example", "ServerPort": "5200",
+               "ProxyIP": "10.20.30.40"},
+    "Messages": {"ShiftF1": "hi %selfname ", "RShiftF1": "hi %selfname ", "RShiftF8": "last word",
+                 "ChatName": "?chat=night,owls"},
+    "Options": {"ResolutionX": "1280", "ResolutionY": "1024", "MessageNameLen": "12", "TargetBounty": "42",
+                "RadarState": "1", "SoundState": "1", "Clock": "1", "3dSound": "1", "Emulator": "1",
+                "Distinguish": "1"},
+    "Advanced": {"GammaPercent": "77", "SystemFont": "1", "SystemTiles": "0", "SystemExhaust": "1", "SystemShips": "1",
+                 "SystemMines": "1", "SystemMap": "0"},
+    "HiddenOptions": {"ShowFrameRate": "1", "Force60": "1"},
+}
+
+
+def shown(player):
+    """What the controls show of the edited settings."""
+    found = {}
+    player.turn_to("Identity")
+    found["name"] = player.beside("Pilot Name :")["caption"]
+    found["ship"] = player.selected(player.beside("Ship Type :", "ComboBox"))
+    found["resolution"] = player.selected(player.beside("Resolution :", "ComboBox"))
+    found["zone"] = player.selected(player.beside("Zone to Start In :", "ComboBox"))
+    found["address"] = player.find("zone9.example")["caption"], player.beside("Port :", "Static", 1)["caption"]
+    found["proxy"] = [player.beside("Use Proxy Address :", "Edit", i)["caption"] for i in range(4)]
+    found["chat"] = player.beside("Chat Name :")["caption"]
+    found["wave"] = player.beside("Shift-F11 :", "Static", 1)["caption"]
+    player.turn_to("Options")
+    found["numbers"] = [player.beside(label)["caption"] for label in ("Message Name Length :", "Target Bounty :")]
+    found["groups"] = [player.checked(player.in_frame("Radar", "Large")),
+                       player.checked(player.in_frame("Sound", "Engines Off"))]
+    found["boxes"] = [player.checked(player.find(c)) for c in ("Show Clock", "3d Sound Effects")]
+    player.turn_to("Advanced")
+    found["gamma"] = player.beside("Gamma Correction Percentage :")["caption"]
+    found["code"] = code_button(player)["caption"]
+    found["boxes"] += [player.checked(player.find(c)) for c in ("Mines", "Fonts", "Software Emulation")]
+    player.turn_to("Hidden")
+    found["boxes"] += [player.checked(player.find("Force 60 (forces 60Hz refresh rate)"))]
+    player.turn_to("Macros Shift")
+    found["macro"] = player.beside("Shift F1 -")["caption"]
+    player.turn_to("Macros R-Shift")
+    found["copied"] = [player.beside(f"R-Shift F{i} -")["caption"] for i in (1, 8)]
+    found["boxes"] += [player.checked(player.find("Distinguish L/RSHIFT"))]
+    player.turn_to("Ignore List")
+    found["ignored"] = player.items(player.of_class("ListBox")[0])[-3:]
+    return found
+
+
+def test_every_kind_of_control_on_every_page_comes_back(desk):
+    player = start(desk)
+    edit_everything(player)
+    before = shown(player)
+    assert before["ignored"] == ["Grub", "Loud Lou", "Third"]
+    assert before["boxes"] == [True] * 7 and before["groups"] == [True, True]
+    assert player.save_as(TARGET) == "untitled.qrn"
+    player.expect_status("File has been saved")
+    assert player.title() == "QUIRN v1.61 - TRIP.QRN"
+
+    # The file, read by an INI reader that is not ours.
+    file = Profile(desk.machine.path(TARGET))
+    for group, values in EDITED.items():
+        # This reader drops blanks at the end.
+        assert {n: file.sections[group][n] for n in values} == {n: v.rstrip() for n, v in values.items()}
+    assert file.sections["Dialog"]["WaveFileF11"] == r"C:\SubSpace\waves\goal.wav"
+    assert file.ignored()[-3:] == ["Grub", "Loud Lou", "Third"]
+    player.quirn.close()
+    recent = desk.own_settings()[r"MRUList\MRU0"]
+    assert recent == (SZ, TARGET)
+
+    # Again, by the dialog and by the list of recent files. A profile keeps no blank at the end of a text.
+    before["macro"], before["copied"] = before["macro"].rstrip(), [text.rstrip() for text in before["copied"]]
+    for by_dialog in (True, False):
+        player = start(desk)
+        if by_dialog:
+            player.open(TARGET)
+        else:
+            player.quirn.choose(RECENT)
+        player.expect_status("File has been loaded")
+        assert player.title() == "QUIRN v1.61 - TRIP.QRN"
+        assert shown(player) == before
+        if by_dialog:
+            player.quirn.close()
+
+    # The game gets it all.
+    player.click(player.find("Transfer Profile And Run Subspace"))
+    report = desk.game_report()
+    assert report["Dialog.PlayerName (1)"] == "Marlow Quist" and report["Messages.ShiftF1 (1)"] == "hi %selfname"
+    registry = desk.registry()
+    for group, values in EDITED.items():
+        for name, value in values.items():
+            kind = SZ if group == "Messages" or (group == "Dialog" and name != "PlayerShipType") else DWORD
+            assert registry[f"{group}\\{name}"] == (kind, value.rstrip())
+    assert desk.file("ignore.txt").read_bytes().split(b"\r\n")[-4:] == [b"Grub", b"Loud Lou", b"Third", b""]
+    assert desk.file("record0.wav").read_bytes() == desk.file("waves/goal.wav").read_bytes()
+    wait_for(lambda: not player.visible(), what="the hidden window")
+    desk.close_game()
+
+
+def test_the_controls_that_follow_others(desk):
+    player = start(desk)
+    # The proxy's fields follow its box.
+    proxy = player.find("Use Proxy Address :")
+    for _ in range(2):
+        enabled = [player.beside("Use Proxy Address :", "Edit", i)["enabled"] for i in range(4)]
+        assert enabled == [player.checked(proxy)] * 4
+        player.click(proxy)
+    # Address, port and description follow the open list of zones.
+    zone = player.beside("Zone to Start In :", "ComboBox")
+    player.click(zone)
+    player.keys("Home", "Down", "Down", "Down", "Down")
+    wait_for(lambda: "zone5.example" in [c["caption"] for c in player.controls()], what="the zone's address")
+    assert player.beside("Port :", "Static", 1)["caption"] == "6100"
+    assert "Schächte, Minen, keine Bomben für Anfänger." in [c["caption"] for c in player.controls()]
+    player.keys("Escape")
+    # A chat channel is completed when the player leaves it; nothing stays nothing.
+    chat = player.beside("Chat Name :")
+    for typed, kept in (("abc", "?chat=abc"), ("?CHaT=x", "?CHaT=x"), ("", "")):
+        player.replace(chat, typed)
+        player.click(player.beside("Pilot Name :"))
+        assert player.text(chat) == kept
+    # Spin controls stop at their bounds; typed text is kept as typed.
+    player.turn_to("Options")
+    number = player.beside("Music Volume :")
+    player.replace(number, "99")
+    spin(player, "Music Volume :", 3)
+    assert player.text(number) == "100"
+    player.replace(number, "4000x")
+    player.click(player.beside("Message Lines :"))
+    assert player.text(number) == "4000x"
+
+
+def test_a_masked_password_is_not_copied(desk):
+    desk.user.ask("clipboard", "nothing")
+    player = start(desk)
+    password = player.beside("Pilot Password :")
+    player.replace(password, "secret")
+    player.keys("Home", "shift+End", "ctrl+c", "ctrl+Insert", "ctrl+x", "shift+Delete")
+    assert player.text(password) != "" and desk.user.ask("clipboard", "nothing")["text"] == "nothing"
+    player.click(player.find("Show Password"))
+    player.click(password)
+    player.keys("Home", "shift+End", "ctrl+c")
+    time.sleep(0.3)
+    assert desk.user.ask("clipboard", "")["text"] == "secret"
+
+
+def test_the_pick_list(desk):
+    player = start(desk)
+    player.turn_to("Macros Shift")
+    box = player.beside("Shift F3 -")
+
+    def pick(text, *keys):
+        player.replace(box, text)
+        player.keys("Home", "Right")  # the caret does not count
+        player.type("%")
+        wait_for(lambda: player.focus()["class"] == "ListBox", what="the list")
+        if keys:
+            player.keys(*keys)
+        return player.text(box)
+
+    pick("x", "s", "Return")
+    assert player.text(box) == "x%selfname "
+    assert player.focus()["handle"] == box["handle"]
+    assert pick("x", "r", "e", "d", "b", "space") == "x%redbounty "
+    assert pick("x", "Down", "Down", "Return") == "x%selfname "
+    assert pick("x", "Escape") == "x%" and player.focus()["handle"] == box["handle"]
+    assert pick("x", "BackSpace") == "x%"
+    pick("x")
+    choices = next(c for c in player.of_class("ListBox"))
+    assert len(player.items(choices)) == 17 and player.selected(choices) == ["%area"]
+    l, t, r, _ = choices["rect"]
+    player.point(l + 20, t + 22)
+    player.xdo("click", 1)
+    time.sleep(0.2)
+    assert player.text(box) == "x%coord " and not player.of_class("ListBox")
+    pick("x")
+    player.click(player.beside("Shift F1 -"))
+    assert not player.of_class("ListBox") and player.text(box) == "x%"
+    # At every edge the list stays inside the window.
+    for label, text in (("Shift F1 -", "W" * 90), ("Shift F8 -", "W" * 90)):
+        player.replace(player.beside(label), text)
+        player.keys("End")
+        player.type("%")
+        inner, window = wait_for(lambda: player.of_class("ListBox"), what="the list")[0]["rect"], player.window()["rect"]
+        assert window[0] <= inner[0] and inner[2] <= window[2] and inner[3] <= window[3]
+        player.keys("Escape")
+
+
+def test_the_config_code_dialog(desk):
+    player = start(desk)
+    player.turn_to("Advanced")
+    player.click(code_button(player))
+    dialog = player.dialog("Advanced Settings Code")
+    box = dialog.of_class("Edit")[0]
+    assert dialog.text(box) == "____-____-____"
+    dialog.type("0000000000")
+    dialog.keys("Return")
+    dialog.gone()
+    assert code_button(player)["caption"] == "0000-0000-00_0"
+    assert not player.checked(player.find("Fonts"))
+    player.click(code_button(player))
+    dialog = player.dialog("Advanced Settings Code")
+    dialog.type("GZZZZZZZZZZ7")
+    dialog.keys("Escape")
+    dialog.gone()
+    assert not player.checked(player.find("Fonts"))
+    player.click(code_button(player))
+    dialog = player.dialog("Advanced Settings Code")
+    dialog.type("GZZZZZZZZZZ7")
+    dialog.click(dialog.find("OK"))
+    dialog.gone()
+    assert code_button(player)["caption"] == "GZZZ-ZZZZ-ZZZ0"
+    assert player.checked(player.find("Fonts")) and player.checked(player.find("Full Map"))
+
+
+def test_the_keyboard_reaches_everything(desk):
+    player = start(desk)
+    reached = {}
+    for number, page in enumerate(PAGES):
+        assert player.page() == number
+        takes_keys = {c["handle"] for c in player.controls()
+                      if c["enabled"] and (c["style"] & WS_TABSTOP or c["class"] in ("Edit", "ComboBox", "ListBox"))}
+        seen = []
+        for _ in range(90):
+            handle = player.focus()["handle"]
+            if handle in seen:
+                break
+            seen.append(handle)
+            player.xdo("key", "Tab")
+            time.sleep(0.03)
+        missed = [c["caption"] for c in player.controls() if c["handle"] in takes_keys - set(seen)]
+        assert not missed, f"not reached on {page}: {missed}"
+        reached[page] = len(seen)
+        player.keys("ctrl+Tab")
+    assert player.page() == 0, "the pages do not go round"
+    player.keys("ctrl+shift+Tab")
+    assert player.page() == len(PAGES) - 1
+    assert min(reached.values()) > 3 and reached["Advanced"] >= 57 and reached["Options"] >= 30
+
+    # Option groups by the arrows, boxes by the blank.
+    player.turn_to("Options")
+    player.click(player.in_frame("Radar", "Small"))
+    player.keys("Down")
+    assert player.checked(player.in_frame("Radar", "Large")) and not player.checked(player.in_frame("Radar", "Small"))
+    player.click(player.find("Show Clock"))
+    was = player.checked(player.find("Show Clock"))
+    player.keys("space")
+    assert player.checked(player.find("Show Clock")) is not was
+
+
+def test_enter_and_escape_do_nothing_in_the_main_window(desk):
+    player = start(desk)
+    name = player.beside("Pilot Name :")
+    player.replace(name, "Changed")
+    for page in PAGES:
+        player.turn_to(page)
+        if player.focus()["class"] == "Button":
+            player.keys("Escape")
+        else:
+            player.keys("Escape", "Return")
+        assert [w["handle"] for w in player.quirn.windows()] == [player.handle]
+    player.turn_to("Identity")
+    assert player.text(name) == "Changed" and "current SS settings" in player.title()
+
+
+def test_menu_help(desk):
+    player = start(desk)
+    expected = ["Clear macros and set defaults for a new profile", "Opens an existing profile",
+                "Save the current profile", "Save the current profile with a new name",
+                "Import a SubSpace macro or text file", "Print the current profile (NOT ACTIVE)",
+                "Close to System Tray", "Exit QUIRN"]
+    player.keys("alt+f")
+    for text in expected:  # the first item is highlighted at once; separators are passed over
+        player.expect_status(text)
+        player.keys("Down")
+    player.keys("Escape", "Right")
+    player.expect_status("")  # a heading
+    player.keys("Escape")
+    player.keys("alt+o")
+    player.expect_status("View/Change the QUIRN options")
+    player.keys("Right")
+    player.expect_status("")  # the command in the bar
+    player.keys("Right", "Down")
+    for text in ("View the QUIRN Help File", "View the latest release notes",
+                 "Start your web browser and visit the QUIRN Web Site",
+                 "Start your web browser and visit the official SubSpace Web Site", "View the QUIRN About Box"):
+        player.expect_status(text)
+        player.keys("Down")
+    player.keys("Escape", "Escape")
+    player.expect_status("")
+
+    # The window manager draws the system menu's box, so its commands are told to the window as the system does.
+    for command, text in ((0xF000, "Size the window using the keyboard"), (0xF010, "Move the window using the keyboard"),
+                          (0xF020, "Minimize the window"), (0xF030, "Maximize the window"),
+                          (0xF060, "Close this window and terminate this program"),
+                          (0xF120, "Restore window to normal position and size")):
+        desk.user.ask("post", player.handle, 287, 0x2000 << 16 | command, 1)
+        player.expect_status(text)
+
+
+@pytest.mark.parametrize("left, top", [(-90000, 1000), (1000, 900000), (-2000000, -2000000)])
+def test_the_window_never_opens_off_the_screen(desk, left, top):
+    desk.machine.import_registry(f"""REGEDIT4
+
+[HKEY_CURRENT_USER\\Software\\QUIRN\\Settings]
+"MainLeft"="{left}"
+"MainTop"="{top}"
+""")
+    player = start(desk)
+    l, t, r, b = player.window()["rect"]
+    assert r > 100 and b > 100 and l < 1180 and t < 924
+    assert l >= 0 or t >= 0
