@@ -88,10 +88,15 @@ frmMain::frmMain(Program& program)
     menuBar_.onCommand = [this](int command) { MenuCommand(command); };
     menuBar_.onHighlight = [this](int command) { StatusBar1.SetText(MenuHelpText(command)); };
     onSystemMenuHighlight = [this](int command) { StatusBar1.SetText(SystemMenuHelpText(command)); };
+    mnuPUTrayIcon.onHighlight = [this](int) { StatusBar1.SetText(""); };
     mnuPUTrayIcon.onCommand = [this](int command) { TrayCommand(command); };
     tray_.onMouse = [this](unsigned message) { Tray_Mouse(message); };
 
+    HideRecentMenu(menuBar_);
+    SSTab1.onClick = [this] { picker_.Close(); };
+
     onLoad = [this] { Form_Load(); };
+    onResize = [this] { CenterControls(); };
     onQueryUnload = [this](UnloadMode mode) { return Form_QueryUnload(mode); };
     onUnload = [this] { return Form_Unload(); };
     onDropFile = [this](const std::string& path) { document_.OpenDropped(path); };
@@ -101,7 +106,6 @@ void frmMain::Form_Load() {
     Move(ReadMainPlace(Place()));
     ReadLists(program_);
     BuildFavouritesMenu();
-    HideRecentMenu(menuBar_);
     RefreshRecentMenu(menuBar_, program_.recentFiles);
     CenterControls();
     // A second copy finds the first by the start of this text.

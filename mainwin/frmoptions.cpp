@@ -32,11 +32,6 @@ constexpr Bounds kRemove{  4500,  690,  1140,  345};
 constexpr Bounds kClear{   4500, 1140,  1140,  345};
 // clang-format on
 
-std::string FolderOf(const std::string& path) {
-    const PathParts parts = SplitPath(path);
-    return parts.folder.empty() ? parts.drive + "\\" : parts.drive + parts.folder;
-}
-
 }  // namespace
 
 frmOptions::frmOptions(Program& program, std::function<void()> applied)
@@ -94,7 +89,7 @@ void frmOptions::cmdBrowse0_Click() {
     dialog.fileName = "subspace.exe";
     dialog.flags = kHideReadOnly;
     if (const auto chosen = AskOpenFile(dialog)) {
-        txtSubLoc.SetText(FolderOf(*chosen));
+        txtSubLoc.SetText(SplitPath(*chosen).Folder());
         subLocChanged_ = true;
     }
 }
@@ -108,7 +103,7 @@ void frmOptions::cmdBrowse1_Click() {
     dialog.fileName = "AnyFile";
     dialog.flags = kHideReadOnly;
     if (const auto chosen = AskOpenFile(dialog)) {
-        txtQRNLoc.SetText(FolderOf(*chosen));
+        txtQRNLoc.SetText(SplitPath(*chosen).Folder());
         qrnLocChanged_ = true;
     }
 }

@@ -14,9 +14,13 @@ constexpr Bounds kFlickSysMemPlace{  240,  900,  7700, kCheckHeight};
 constexpr Bounds kWarning{       240, 1500,  7700, 1500};
 // clang-format on
 
+bool IsOn(const std::string& value) {
+    return ToInteger(value).value_or(0) != 0;
+}
+
 // A number other than 0 and 1 is shown as checked and stays as it is until the player clicks.
 void CollectBox(const CheckBox& box, std::string& value) {
-    if ((Val(value) != 0) != (box.Value() != 0) || value.empty()) value = std::to_string(box.Value());
+    if (IsOn(value) != (box.Value() != 0) || value.empty()) value = std::to_string(box.Value());
 }
 
 }  // namespace
@@ -39,9 +43,9 @@ HiddenPage::HiddenPage(TabStrip& strip, Program& program, Edited edited)
 
 void HiddenPage::Show() {
     const Section& hidden = program_.profile.HiddenOptions;
-    chkForce60.SetValue(Val(hidden.Value(kForce60)) != 0 ? 1 : 0);
-    chkShowFrameRate.SetValue(Val(hidden.Value(kShowFrameRate)) != 0 ? 1 : 0);
-    chkFlickSysMem.SetValue(Val(hidden.Value(kFlickSystemMemory)) != 0 ? 1 : 0);
+    chkForce60.SetValue(IsOn(hidden.Value(kForce60)) ? 1 : 0);
+    chkShowFrameRate.SetValue(IsOn(hidden.Value(kShowFrameRate)) ? 1 : 0);
+    chkFlickSysMem.SetValue(IsOn(hidden.Value(kFlickSystemMemory)) ? 1 : 0);
 }
 
 void HiddenPage::Collect() {

@@ -47,6 +47,12 @@ constexpr Bounds MovedBy(Bounds place, int right, int down) {
     return {place.left + right, place.top + down, place.width, place.height};
 }
 
+ControlArray<MaskedBox> MakeProxyBoxes(Parent page) {
+    ControlArray<MaskedBox> boxes;
+    for (int i = 0; i < 4; ++i) boxes.emplace_back(page, MovedBy(kProxyAddress, i * kProxyStep, 0), "999");
+    return boxes;
+}
+
 }  // namespace
 
 IdentityPage::IdentityPage(TabStrip& strip, Program& program, Edited edited)
@@ -69,16 +75,16 @@ IdentityPage::IdentityPage(TabStrip& strip, Program& program, Edited edited)
       lblServerPort(*this, kPortPlace, "", Alignment::Left, Label::kShowsData),
       lblZoneDesc(*this, kZoneDescription, "Zone Description", Alignment::Left, Label::kShowsData),
       chkUseProxy(*this, kUseProxy, "Use Proxy Address :"),
+      mskProxyAddress(MakeProxyBoxes(*this)),
       lblChatName(*this, kChatNameLabel, "Chat Name :"),
       txtChatName(*this, kChatPlace),
       Frame3(*this, kWaveFrame, "Wave Messages") {
-    for (int i = 0; i < 4; ++i) {
-        MaskedBox& box = mskProxyAddress.emplace_back(*this, MovedBy(kProxyAddress, i * kProxyStep, 0), "999");
-        box.onChange = edited_;
+    for (size_t i = 0; i < mskProxyAddress.size(); ++i) {
+        mskProxyAddress[i].onChange = edited_;
         // A point goes on to the next part, as in an address that is typed in one go.
-        box.onKeyPress = [this, i](char key) {
+        mskProxyAddress[i].onKeyPress = [this, i](char key) {
             if (key != '.') return false;
-            if (i + 1 < 4) mskProxyAddress[static_cast<size_t>(i) + 1].SetFocus();
+            if (i + 1 < mskProxyAddress.size()) mskProxyAddress[i + 1].SetFocus();
             return true;
         };
     }
@@ -219,10 +225,7 @@ void IdentityPage::cmdWaveBrowse_Click(size_t index) {
     dialog.filter = "WAV Files (*.wav)|*.wav";
     dialog.flags = kHideReadOnly | kFileMustExist;
     const std::string current = lblWaveFileName[index].Text();
-    if (!current.starts_with('<')) {
-        const PathParts parts = SplitPath(current);
-        dialog.folder = parts.drive + parts.folder;
-    }
+    if (!current.starts_with('<')) dialog.folder = SplitPath(current).Folder();
     const std::optional<std::string> chosen = AskOpenFile(dialog);
     if (!chosen) return;
     lblWaveFileName[index].SetText(*chosen);

@@ -58,8 +58,8 @@ void MacroPicker::Pick() {
     Close();
 }
 
-// The "%" stays in the macro.
 void MacroPicker::Close() {
+    if (!PopupList.Visible()) return;
     PopupList.SetVisible(false);
     target_->SetFocus();
     target_->PutCaretAtEnd();

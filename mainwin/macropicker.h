@@ -15,11 +15,12 @@ public:
     // "%" has been typed in a macro: puts it at the end of its text (not at the caret, on purpose) and opens the list.
     void Open(TextBox& target);
 
+    void Close();  // without picking; the "%" stays in the macro
+
 private:
     void PopupList_GotFocus();
     bool PopupList_KeyPress(char key);
     void Pick();
-    void Close();
 
     Form& form_;
     TabStrip& strip_;

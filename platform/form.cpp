@@ -81,7 +81,11 @@ void Form::Show() {
 
 void Form::ShowModal(Form& owner) {
     Load();
-    if (loaded_) native::RunModal(*this, owner);
+    if (!loaded_) return;
+    Form* const before = owner.modal_;
+    owner.modal_ = this;
+    native::RunModal(*this, owner);
+    owner.modal_ = before;
 }
 
 bool Form::IsBlocked() const {
@@ -104,13 +108,18 @@ bool Form::Unload(UnloadMode mode) {
     if (!loaded_) return true;
     if (onQueryUnload && !onQueryUnload(mode)) return false;
     if (onUnload && !onUnload()) return false;
-    if (!loaded_) return true;  // a handler unloaded it
+    if (loaded_) Discard();  // else a handler unloaded it
+    return true;
+}
+
+void Form::Discard() {
+    // Its window would go with this one's, and its loop would wait for ever.
+    if (modal_ != nullptr && modal_->loaded_) modal_->Discard();
     loaded_ = false;
     visible_ = false;
     minimized_ = false;
     active_ = nullptr;
     native::DestroyForm(*this);
-    return true;
 }
 
 void Form::PopUpMenu(Menu& menu, int defaultCommand) {

@@ -33,8 +33,8 @@ struct Shortcut {
 // it, and either may happen again. A form is destroyed with its window when its object goes.
 //
 // Keyboard: Tab and the arrows move between the controls, access keys and the menu bar work, Ctrl+Tab turns the pages of
-// the form's tab strip. Enter goes to a text box that swallows it, else presses the button that has the focus, else the default button; Esc presses the cancel
-// button. A form without such buttons ignores the two.
+// the form's tab strip. Enter goes to a text box that swallows it, else presses the button that has the focus, else the
+// default button; Esc presses the cancel button. A form without such buttons ignores the two.
 class Form : public Container {
 public:
     // size is the whole window's, frame included; the place is the centre of the screen until Move says otherwise.
@@ -110,6 +110,7 @@ public:
 
 private:
     std::vector<Control*> TabOrder() const;
+    void Discard();  // unloads it without asking, and the modal form before it too
 
     FormBorder border_;
     Bounds place_;
@@ -121,6 +122,7 @@ private:
     Button* defaultButton_ = nullptr;
     Button* cancelButton_ = nullptr;
     Control* active_ = nullptr;
+    Form* modal_ = nullptr;  // the modal form that waits before this one
     bool loaded_ = false;
     bool visible_ = false;
     bool minimized_ = false;

@@ -11,6 +11,9 @@ struct PathParts {
     std::string name;       // up to the first "."
     std::string extension;  // after the first "."
 
+    // Drive and folder; of a file in a drive's root "C:\".
+    std::string Folder() const { return folder.empty() && !drive.empty() ? drive + "\\" : drive + folder; }
+
     // Name and extension with a point between, also when the extension is empty.
     std::string File() const { return name + "." + extension; }
 };

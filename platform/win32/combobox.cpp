@@ -34,6 +34,7 @@ void ComboBoxCommand(ComboBox& box, WORD code) {
     switch (code) {
         case CBN_DROPDOWN: highlight = {&box, box.ListIndex()}; break;
         case CBN_SELENDOK:
+            Report(box, Current(box));
             highlight = {};
             box.UserSelects(Current(box));
             break;

@@ -127,7 +127,7 @@ void Subclass(const Control& control) {
         case ControlKind::ListBox: SubclassAs<ControlKind::ListBox>(window); break;
         case ControlKind::TabStrip: SubclassAs<ControlKind::TabStrip>(window); break;
         case ControlKind::Label:
-            if (!control.ToolTip().empty()) SubclassAs<ControlKind::Label>(window);
+            if (static_cast<const Label&>(control).ShowsData()) SubclassAs<ControlKind::Label>(window);
             break;
         default: break;
     }

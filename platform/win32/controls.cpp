@@ -24,7 +24,7 @@ struct Look {
 
 DWORD LabelStyle(const Label& label) {
     DWORD style = label.ShowsData() ? SS_NOPREFIX | SS_ENDELLIPSIS : 0;
-    if (!label.ToolTip().empty()) style |= SS_NOTIFY;
+    if (label.ShowsData()) style |= SS_NOTIFY;  // it may get a tool tip at any time
     switch (label.AlignmentUsed()) {
         case Alignment::Left: return style | SS_LEFT;
         case Alignment::Center: return style | SS_CENTER;

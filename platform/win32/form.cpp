@@ -4,7 +4,6 @@
 
 #include <shellapi.h>  // needs windows.h first
 
-#include <array>
 #include <map>
 
 #include "platform/native.h"
@@ -46,8 +45,8 @@ RECT PixelPlace(const Form& form) {
         left = work.left + (work.right - work.left - width) / 2;
         top = work.top + (work.bottom - work.top - height) / 2;
     } else {
-        // A stored place may lie on a monitor that is no longer there.
-        const RECT wanted{left, top, left + width, top + height};
+        // A stored place may lie on a monitor that is no longer there. The caption must be in sight, to move it by.
+        const RECT wanted{left, top, left + width, top + GetSystemMetrics(SM_CYCAPTION)};
         if (MonitorFromRect(&wanted, MONITOR_DEFAULTTONULL) == nullptr) {
             MONITORINFO info{};
             info.cbSize = sizeof(info);
@@ -68,14 +67,6 @@ void TellPlace(Form& form) {
                       ToTwips(rect.right - rect.left, dpi), ToTwips(rect.bottom - rect.top, dpi)});
 }
 
-void ChangeDpi(Form& form, const RECT& place) {
-    SetWindowPos(WindowOf(form), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-    ForEachControl(form, [](Control& control) {
-        if (control.window != nullptr) PlaceControl(control);
-    });
-}
-
 void Resize(Form& form) {
     TellPlace(form);
     for (const Control* control : form.Controls())
@@ -84,11 +75,20 @@ void Resize(Form& form) {
     form.WindowResized();
 }
 
+void ChangeDpi(Form& form, const RECT& place) {
+    SetWindowPos(WindowOf(form), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+    ForEachControl(form, [](Control& control) {
+        if (control.window != nullptr) PlaceControl(control);
+    });
+    Resize(form);
+}
+
 void DropFile(Form& form, HDROP drop) {
-    std::array<char, MAX_PATH + 1> path{};
-    DragQueryFileA(drop, 0, path.data(), static_cast<UINT>(path.size()));
+    std::string path(DragQueryFileA(drop, 0, nullptr, 0), '\0');
+    DragQueryFileA(drop, 0, path.data(), static_cast<UINT>(path.size() + 1));
     DragFinish(drop);
-    if (form.onDropFile && path[0] != '\0') CallHandler([&] { form.onDropFile(path.data()); });
+    if (form.onDropFile && !path.empty()) CallHandler([&] { form.onDropFile(path); });
 }
 
 // The window itself has the keyboard only when it has just been activated; the control that had it gets it back.

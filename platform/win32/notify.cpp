@@ -10,8 +10,9 @@ namespace quirn::win32 {
 namespace {
 
 void EditCommand(Control& control, WORD code) {
-    if (code != EN_CHANGE) return;
-    // A text that was set comes here too, but the control has it already.
+    // A text that is being set comes here too. The control has it already, and the window need not give back the same:
+    // a NUL ends its text, and bytes that the system's code page does not know change in it.
+    if (code != EN_CHANGE || TextIsBeingSet(WindowOf(control))) return;
     const std::string text = TextOf(WindowOf(control));
     if (control.Kind() == ControlKind::TextBox) static_cast<TextBox&>(control).UserEdits(text);
     else static_cast<MaskedBox&>(control).UserEdits(text);

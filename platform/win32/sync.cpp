@@ -14,10 +14,18 @@ namespace {
 
 constexpr char kBullet = '\x95';
 
+HWND setsText = nullptr;
+
 void FillList(HWND window, UINT reset, UINT add, const std::vector<std::string>& items) {
     SendMessageA(window, WM_SETREDRAW, FALSE, 0);
+    const LRESULT count = SendMessageA(window, LB_GETCOUNT, 0, 0);
+    const LRESULT top = SendMessageA(window, LB_GETTOPINDEX, 0, 0);
     SendMessageA(window, reset, 0, 0);
     for (const std::string& item : items) SendMessageA(window, add, 0, reinterpret_cast<LPARAM>(item.c_str()));
+    // What was in sight stays there; an item that was added comes into sight.
+    const bool added = static_cast<LRESULT>(items.size()) == count + 1;
+    if (reset == LB_RESETCONTENT && count > 0)
+        SendMessageA(window, LB_SETTOPINDEX, static_cast<WPARAM>(added ? count : top), 0);
     SendMessageA(window, WM_SETREDRAW, TRUE, 0);
     InvalidateRect(window, nullptr, TRUE);
 }
@@ -103,7 +111,10 @@ void PrepareUpDown(const UpDown& arrows) {
 // A window's text is set only when it differs, which also keeps the caret where it is.
 void ApplyText(const Control& control) {
     const HWND window = WindowOf(control);
-    if (TextOf(window) != control.Text()) SetWindowTextA(window, control.Text().c_str());
+    if (TextOf(window) == control.Text()) return;
+    setsText = window;
+    SetWindowTextA(window, control.Text().c_str());
+    setsText = nullptr;
 }
 
 void ApplyVisible(Control& control) {
@@ -128,6 +139,10 @@ void ApplyVisible(Control& control) {
 }
 
 }  // namespace
+
+bool TextIsBeingSet(HWND window) {
+    return setsText == window;
+}
 
 void FillControl(Control& control) {
     switch (control.Kind()) {

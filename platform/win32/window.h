@@ -59,6 +59,7 @@ void PlaceControl(Control& control);  // at its place, and in its font, by the f
 
 // sync.cpp: brings a part of a new window up to its control's state.
 void FillControl(Control& control);
+bool TextIsBeingSet(HWND window);
 
 // controlproc.cpp: lets this program see the messages of a control's window first.
 void Subclass(const Control& control);
