@@ -85,7 +85,10 @@ void AdvancedPage::cmdConfigCode_Click() {
     AdvancedStates states = States();
     DecodeConfigCode(*text, states);
     for (size_t i = 0; i < states.size(); ++i) chkAdvanced[i].SetValue(states[i]);
-    cmdConfigCode.SetText(AcceptedConfigCode(*text));
+    // Any character may be typed; a "&" would become the button's access key.
+    std::string caption = AcceptedConfigCode(*text);
+    for (size_t at = caption.find('&'); at != std::string::npos; at = caption.find('&', at + 2)) caption.insert(at, "&");
+    cmdConfigCode.SetText(caption);
     edited_();
 }
 

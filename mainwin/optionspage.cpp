@@ -8,14 +8,14 @@ namespace {
 
 // clang-format off
 //                             left   top  width  height
-constexpr Bounds kGroup{        120,  120,  1260, 1065};  // the first of two rows of three
+constexpr Bounds kGroup{        120, 1800,  1260, 1065};  // the first of two rows of three
 constexpr int    kGroupStepX =  1350;
 constexpr int    kGroupStepY =  1140;
 constexpr Bounds kGroupButton{   75,  240,  1155,  240};  // in its frame
 constexpr int    kGroupButtonStep = 255;
 
-constexpr Bounds kNumberLabel{  120, 2565,  1860,  kLabelHeight};
-constexpr Bounds kNumber{      2040, 2520,   600,  kRowHeight};
+constexpr Bounds kNumberLabel{  120,  210,  1860,  kLabelHeight};
+constexpr Bounds kNumber{      2040,  165,   600,  kRowHeight};
 constexpr int    kNumberStep =  390;
 
 constexpr Bounds kMisc{        4200,  120,  3900, 3900};

@@ -142,7 +142,7 @@ public:
     // new caret (0-based). With a digits-only mask digits are inserted and removed; nothing else changes anything.
     static constexpr char kBackspace = 8;
     static constexpr char kDelete = 127;
-    size_t UserTypes(char character, size_t caret);
+    size_t UserTypes(char character, size_t caret, size_t selectionEnd = 0);  // what is selected goes first
     size_t UserPastes(std::string_view text, size_t caret);
     size_t UserClears(size_t from, size_t to);  // removes a selection
     void UserEdits(const std::string& text);    // the window's text after any other edit

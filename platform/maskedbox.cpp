@@ -79,11 +79,18 @@ bool MaskedBox::Put(char character, size_t& caret) {
     return true;
 }
 
-size_t MaskedBox::UserTypes(char character, size_t caret) {
+size_t MaskedBox::UserTypes(char character, size_t caret, size_t selectionEnd) {
     if (onKeyPress && character != kDelete) {
         bool swallowed = false;
         CallHandler([&] { swallowed = onKeyPress(character); });
         if (swallowed) return caret;
+    }
+    const bool erases = character == kBackspace || character == kDelete;
+    if (selectionEnd > caret) {
+        // A character that the mask refuses leaves what is selected as it is.
+        if (!erases && IsDigitsOnly() && (character < '0' || character > '9')) return caret;
+        caret = UserClears(caret, selectionEnd);
+        if (erases) return caret;
     }
     bool changed = false;
     if (character == kBackspace) {

@@ -69,12 +69,9 @@ void Paste(MaskedBox& box) {
 
 void Type(MaskedBox& box, char character) {
     const Selection selection = SelectionIn(WindowOf(box));
-    const bool erases = character == MaskedBox::kBackspace || character == MaskedBox::kDelete;
-    if (selection.from != selection.to) {
-        Clear(box);
-        if (erases) return;
-    }
-    PutCaret(box, box.UserTypes(character, selection.from));
+    const size_t caret = box.UserTypes(character, selection.from, selection.to);
+    // A key that went on to another box leaves this one's selection alone.
+    if (box.HasFocus()) PutCaret(box, caret);
 }
 
 }  // namespace

@@ -104,7 +104,7 @@ void PopUpMenu(Form& form, Menu& menu, int defaultCommand) {
     // Without the foreground the menu would stay open when the player clicks elsewhere; the message after it lets the
     // next one open at the first click. Both are documented with TrackPopupMenu.
     SetForegroundWindow(window);
-    const Menu* const before = poppedUp;
+    Menu* const before = poppedUp;
     poppedUp = &menu;
     const BOOL chosen =
         TrackPopupMenu(popup, TPM_RETURNCMD | TPM_RIGHTBUTTON, pointer.x, pointer.y, 0, window, nullptr);

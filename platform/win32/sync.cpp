@@ -193,6 +193,8 @@ void FocusControl(Control& control) {
     SetFocus(WindowOf(control));
     // Behind a modal form the keyboard comes back only with the form itself.
     if (!control.HasFocus()) control.UserFocuses(true);
+    // As the Tab key does it, so that typing replaces the old number.
+    if (control.Kind() == ControlKind::MaskedBox) SendMessageA(WindowOf(control), EM_SETSEL, 0, -1);
 }
 
 void SelectAll(TextBox& box) {
