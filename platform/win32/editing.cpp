@@ -69,9 +69,10 @@ void Paste(MaskedBox& box) {
 
 void Type(MaskedBox& box, char character) {
     const Selection selection = SelectionIn(WindowOf(box));
+    const Control* const active = box.Holder().Owner().ActiveControl();
     const size_t caret = box.UserTypes(character, selection.from, selection.to);
     // A key that went on to another box leaves this one's selection alone.
-    if (box.HasFocus()) PutCaret(box, caret);
+    if (box.Holder().Owner().ActiveControl() == active) PutCaret(box, caret);
 }
 
 }  // namespace
