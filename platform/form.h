@@ -33,8 +33,8 @@ struct Shortcut {
 // it, and either may happen again. A form is destroyed with its window when its object goes.
 //
 // Keyboard: Tab and the arrows move between the controls, access keys and the menu bar work, Ctrl+Tab turns the pages of
-// the form's tab strip. Enter goes to a text box that swallows it, else presses the button that has the focus, else the default button; Esc presses the cancel
-// button. A form without such buttons ignores the two.
+// the form's tab strip. Enter goes to a text box that swallows it, else presses the button that has the focus, else the
+// default button; Esc presses the cancel button. A form without such buttons ignores the two.
 class Form : public Container {
 public:
     // size is the whole window's, frame included; the place is the centre of the screen until Move says otherwise.
@@ -56,6 +56,9 @@ public:
 
     void SetCaption(const std::string& caption);
     void Move(const Bounds& place);
+    void SetMinimumSize(int width, int height);  // twips, frame included; before Load
+    int MinimumWidth() const { return minimumWidth_; }
+    int MinimumHeight() const { return minimumHeight_; }
     void SetBackColor(Color color) { backColor_ = color; }  // before Load
     void SetMenu(Menu& menu, std::vector<Shortcut> shortcuts);  // before Load; the menu must live as long as the form
     Menu* MenuBar() const { return menu_; }
@@ -111,6 +114,8 @@ private:
     FormBorder border_;
     Bounds place_;
     bool placeIsSet_ = false;
+    int minimumWidth_ = 0;
+    int minimumHeight_ = 0;
     std::string caption_;
     std::optional<Color> backColor_;
     Menu* menu_ = nullptr;

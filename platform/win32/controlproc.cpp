@@ -78,6 +78,10 @@ std::optional<LRESULT> KindMessage(Control& control, WNDPROC original, const Mes
         case ControlKind::ListBox: return ListMessage(static_cast<ListBox&>(control), original, m);
         case ControlKind::TextBox: return TextBoxMessage(static_cast<TextBox&>(control), m.message, m.wParam);
         case ControlKind::MaskedBox: return MaskedBoxMessage(static_cast<MaskedBox&>(control), m.message, m.wParam);
+        case ControlKind::Label:
+            if (m.message != WM_SETCURSOR || !static_cast<Label&>(control).onClick) return std::nullopt;
+            SetCursor(LoadCursorA(nullptr, IDC_HAND));
+            return TRUE;
         case ControlKind::ComboBox:
             if (m.message == WM_CTLCOLORLISTBOX)
                 OpenListMoved(static_cast<ComboBox&>(control), reinterpret_cast<HWND>(m.lParam));
@@ -127,7 +131,8 @@ void Subclass(const Control& control) {
         case ControlKind::ListBox: SubclassAs<ControlKind::ListBox>(window); break;
         case ControlKind::TabStrip: SubclassAs<ControlKind::TabStrip>(window); break;
         case ControlKind::Label:
-            if (!control.ToolTip().empty()) SubclassAs<ControlKind::Label>(window);
+            if (!control.ToolTip().empty() || static_cast<const Label&>(control).onClick)
+                SubclassAs<ControlKind::Label>(window);
             break;
         default: break;
     }
