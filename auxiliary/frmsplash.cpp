@@ -12,9 +12,9 @@ constexpr int kWidth = 4800;
 constexpr int kHeight = 1800;
 
 //                               left  top  width  height
-constexpr Bounds kPicturePlace{  240,  240,  1280, 1280};
-constexpr Bounds kTitlePlace{   1680,  480,  3000,  600};
-constexpr Bounds kVersionPlace{ 1680, 1110,  3000,  240};
+constexpr Bounds kPicturePlace{240, 240, 1280, 1280};
+constexpr Bounds kTitlePlace{1680, 480, 3000, 600};
+constexpr Bounds kVersionPlace{1680, 1110, 3000, 240};
 
 }  // namespace
 
