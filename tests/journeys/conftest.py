@@ -26,7 +26,8 @@ EXE = pathlib.Path(os.environ.get("QUIRN_EXE", ROOT / "build/win64/QUIRN.exe")).
 GAME_KEY = r"HKEY_CURRENT_USER\Software\Virgin\SubSpace"
 OWN_KEY = r"HKEY_CURRENT_USER\Software\QUIRN"
 TITLE = "QUIRN v1.61"
-WM_CLOSE = 16
+WM_CLOSE, WM_COMMAND = 16, 273
+EXIT = 18  # File, Exit as the menu sends it
 
 
 def is_32_bit(exe):
@@ -215,9 +216,13 @@ class Quirn:
     def main_window(self, seconds=10):
         return self.window(TITLE, seconds=seconds)
 
+    def choose(self, command):
+        """What the menu bar does when the item with this number is chosen."""
+        assert self.desk.user.ask("post", self.main_window()["handle"], WM_COMMAND, command, 0)
+
     def close(self):
-        self.desk.user.ask("post", self.main_window()["handle"], WM_CLOSE, 0, 0)
-        self.ended()
+        self.choose(EXIT)
+        assert self.ended() == 0
 
     def ended(self, seconds=10):
         """Its exit code, once it has ended by itself."""

@@ -10,6 +10,7 @@ NOT_FOUND = "ERROR - Could not find profile named '{}'"
 NOT_VALID = "ERROR - The file '{}' is not a valid QRN file."
 EARLIER = ("WARNING - The file '{}' was created with an earlier version.\r"
            "It is recommended that you review the settings and re-save the file.")
+NO_ZONES = "Cannot find FAVORITE.LST, make sure the location of the subspace.exe is set correctly."
 PROFILES = "C:\\SubSpace\\Profiles\\"
 
 
@@ -74,7 +75,9 @@ def test_the_game_folder_is_not_set(desk):
     quirn = desk.start("/LR:DUEL.QRN")
     # Ignore list and waves have no folder to go to; the one message says what to do.
     quirn.expect("You must set the location of the SUBSPACE.EXE file in the Options.", "exclamation")
-    quirn.main_window()
+    # Nor is there a list of zones; whoever does not want to set the folder now leaves.
+    quirn.expect(NO_ZONES, "question", button="Cancel")
+    assert quirn.ended() == 0
     assert desk.registry()[r"Dialog\PlayerName"] == (SZ, "Vex Calder")
     assert desk.folder_state() == files
 

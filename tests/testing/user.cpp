@@ -10,6 +10,7 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <map>
 #include <string>
 #include <vector>
@@ -172,6 +173,32 @@ std::string Controls(const Words& words) {
     std::vector<std::string> rows;
     for (HWND child : Children(Window(words))) rows.push_back(Describe(child, TextOf(child)));
     return Done(Member("controls", List(rows)));
+}
+
+// items WINDOW: the texts of a list box or drop-down list, and which of them is selected.
+std::string Items(const Words& words) {
+    const HWND list = Window(words);
+    const bool combo = ClassOf(list) == "ComboBox";
+    const auto count = SendMessageA(list, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0);
+    std::vector<std::string> rows, selected;
+    for (LRESULT i = 0; i < count; ++i) {
+        std::vector<char> text(1 << 12);
+        SendMessageA(list, combo ? CB_GETLBTEXT : LB_GETTEXT, static_cast<WPARAM>(i),
+                     reinterpret_cast<LPARAM>(text.data()));
+        rows.push_back(Quoted(text.data()));
+        const bool isSelected = combo ? SendMessageA(list, CB_GETCURSEL, 0, 0) == i
+                                      : SendMessageA(list, LB_GETSEL, static_cast<WPARAM>(i), 0) > 0;
+        if (isSelected) selected.push_back(std::to_string(i));
+    }
+    return Done(Member("items", List(rows)) + "," + Member("selected", List(selected)));
+}
+
+// focus WINDOW: the control that has the keyboard in that window's process.
+std::string Focus(const Words& words) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    if (!GetGUIThreadInfo(GetWindowThreadProcessId(Window(words), nullptr), &info)) return Error("no answer");
+    return info.hwndFocus ? Describe(info.hwndFocus, TextOf(info.hwndFocus)) : Error("no window has it");
 }
 
 std::string Foreground(const Words&) {
@@ -348,6 +375,52 @@ std::string Send(const Words& words) {
     return Done(Member("result", static_cast<long long>(result)));
 }
 
+// drop WINDOW FILE: what the shell sends when a file is dropped on the window. The list of files must lie in the
+// memory of the window's process.
+std::string Drop(const Words& words) {
+    struct Header {  // of such a list: where the names begin, the point, and two flags
+        DWORD names;
+        POINT at;
+        BOOL outside, wide;
+    };
+    const HANDLE process = OpenProcess(PROCESS_ALL_ACCESS, FALSE, ProcessOf(Window(words)));
+    const std::string names = Word(words, 2) + std::string(2, '\0');
+    const Header header{sizeof(Header), {}, FALSE, FALSE};
+    void* list = VirtualAllocEx(process, nullptr, sizeof header + names.size(), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+    const bool written = list && WriteProcessMemory(process, list, &header, sizeof header, nullptr) &&
+                         WriteProcessMemory(process, static_cast<char*>(list) + sizeof header, names.data(),
+                                            names.size(), nullptr);
+    CloseHandle(process);
+    if (!written) return Error("could not write there");
+    PostMessageA(Window(words), WM_DROPFILES, reinterpret_cast<WPARAM>(list), 0);
+    return Done();
+}
+
+// place WINDOW LEFT TOP: moves it to a point of the screen.
+std::string Place(const Words& words) {
+    SetWindowPos(Window(words), nullptr, static_cast<int>(Number(words, 2)), static_cast<int>(Number(words, 3)), 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    return Done();
+}
+
+// clipboard TEXT: its text before, and puts that one there.
+std::string Clipboard(const Words& words) {
+    if (!OpenClipboard(nullptr)) return Error("another program has it");
+    const auto held = static_cast<HGLOBAL>(GetClipboardData(CF_TEXT));
+    const char* text = held ? static_cast<const char*>(GlobalLock(held)) : nullptr;
+    const std::string before = text ? text : "";
+    if (text) GlobalUnlock(held);
+    const std::string after = Word(words, 1);
+    EmptyClipboard();
+    if (const HGLOBAL copy = GlobalAlloc(GMEM_MOVEABLE, after.size() + 1)) {
+        std::memcpy(GlobalLock(copy), after.c_str(), after.size() + 1);
+        GlobalUnlock(copy);
+        SetClipboardData(CF_TEXT, copy);
+    }
+    CloseClipboard();
+    return Done(Member("text", Quoted(before)));
+}
+
 std::string Minimise(const Words& words) {
     ShowWindowAsync(Window(words), SW_MINIMIZE);
     return Done();
@@ -426,6 +499,11 @@ int main() {
         {"post", Post},          // WINDOW MESSAGE WPARAM LPARAM
         {"send", Send},          // the same, waiting for the result
         {"minimise", Minimise},  // WINDOW
+        {"items", Items},          // WINDOW
+        {"focus", Focus},          // WINDOW: of its process
+        {"drop", Drop},            // WINDOW FILE
+        {"place", Place},          // WINDOW LEFT TOP
+        {"clipboard", Clipboard},  // TEXT
         {"foreground", Foreground},
         {"hold", Hold},  // FILE
         {"release", Release},
