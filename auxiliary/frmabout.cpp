@@ -128,6 +128,7 @@ void frmAbout::ShowSecret() {
     tmrCookie.SetEnabled(false);
     for (Control* control : std::initializer_list<Control*>{&Image1, &lblVersion, &lblDescription, &lblInfo, &lblQuote})
         control->SetVisible(false);
+    URLLink1.SetVisible(false);
     Bounds picture = pctCookie.Place();
     picture.top = kSecretPictureTop;
     pctCookie.Move(picture);

@@ -21,6 +21,7 @@ public:
     void SetText(const std::string& text);
     void SetURL(const std::string& url);
     void SetShowToolTip(bool show);
+    void SetVisible(bool visible) { lblURL.SetVisible(visible); }
 
     // True when a property has been set since the properties were last read or written.
     bool Changed() const { return changed_; }

@@ -9,10 +9,11 @@ namespace win32 {
 
 // The owner is enabled again while the modal window is still there: otherwise the system would activate another
 // program's window when that one goes.
-void EndModal(Form& form) {
-    HWND& owner = StateOf(form).disabledOwner;
+HWND EndModal(Form& form) {
+    const HWND owner = StateOf(form).disabledOwner;
     if (owner != nullptr) EnableWindow(owner, TRUE);
-    owner = nullptr;
+    StateOf(form).disabledOwner = nullptr;
+    return owner;
 }
 
 }  // namespace win32
