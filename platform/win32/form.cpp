@@ -206,7 +206,7 @@ void CreateForm(Form& form) {
 
 void DestroyForm(Form& form) {
     const HWND window = WindowOf(form);
-    const HWND owner = EndModal(form);
+    EndModal(form);
     SetWindowLongPtrA(window, GWLP_USERDATA, 0);
     ForEachControl(form, [](Control& control) {
         if (control.window != nullptr) SetWindowLongPtrA(WindowOf(control), GWLP_USERDATA, 0);
@@ -215,8 +215,6 @@ void DestroyForm(Form& form) {
     });
     form.window = nullptr;
     DestroyWindow(window);
-    // Windows activates the owner by itself; a window manager in front of Wine may not.
-    if (owner != nullptr && IsWindowVisible(owner)) SetForegroundWindow(owner);
     loadedForms.erase(&form);
     // Wakes the event loop, which may be waiting for a message with no form left.
     PostThreadMessageA(GetCurrentThreadId(), WM_NULL, 0, 0);

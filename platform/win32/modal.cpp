@@ -9,11 +9,10 @@ namespace win32 {
 
 // The owner is enabled again while the modal window is still there: otherwise the system would activate another
 // program's window when that one goes.
-HWND EndModal(Form& form) {
-    const HWND owner = StateOf(form).disabledOwner;
+void EndModal(Form& form) {
+    HWND& owner = StateOf(form).disabledOwner;
     if (owner != nullptr) EnableWindow(owner, TRUE);
-    StateOf(form).disabledOwner = nullptr;
-    return owner;
+    owner = nullptr;
 }
 
 }  // namespace win32

@@ -88,8 +88,8 @@ void ToolTipChanged(Control& control);
 HMENU MakeMenuBar(const Menu& menu);
 void MenuHighlighted(Form& form, WPARAM wParam, LPARAM lParam);
 
-// modal.cpp: the owner that was disabled, null for none.
-HWND EndModal(Form& form);
+// modal.cpp
+void EndModal(Form& form);
 
 // tray.cpp: true when the message was the tray's.
 bool TrayMessage(Form& form, UINT message, WPARAM wParam, LPARAM lParam);
