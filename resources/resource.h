@@ -2,3 +2,4 @@
 
 // Numbers of the program's resources.
 #define IDI_QUIRN 1
+#define IDI_SPLASH 2
