@@ -74,7 +74,7 @@ frmAbout::frmAbout()
           "and a few files in its folder, nothing else; keep your profiles and you can always go back."),
       lblInfo(*this, kInfo, "SubSpace and its name belong to their owners."),
       URLLink1(*this, kLink),
-      pctCookie(*this, kCookie, IDI_QUIRN),
+      pctCookie(*this, kCookie, IDI_COOKIE),
       lblQuote(*this, kQuote, ""),
       lblSecret(*this, kSecret, Lines(kSecretQuote)),
       cmdCookie(*this, kCookieButton, "Press me to leave this horrible excuse for a cookie..."),
