@@ -46,6 +46,7 @@ function(render_icon name bits)
     set(icons ${icons} ${CMAKE_BINARY_DIR}/${name}.ico PARENT_SCOPE)
 endfunction()
 render_icon(quirn 32 16 20 24 32 40 48 64 128 256)
+render_icon(cookie 32 64 96 128)
 render_icon(splash 24 120 180 240)  # its place at 100, 150 and 200 %
 set(resource_script ${CMAKE_SOURCE_DIR}/resources/quirn.rc)
 set_source_files_properties(${resource_script} PROPERTIES OBJECT_DEPENDS
@@ -59,3 +60,19 @@ set_target_properties(QUIRN PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_D
 add_executable(subspace WIN32 demo/subspace.cpp)
 target_link_libraries(subspace PRIVATE quirn_options user32 advapi32)
 set_target_properties(subspace PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/demo)
+
+# The texts that lie beside the program.
+set(ship ${CMAKE_SOURCE_DIR}/resources/ship)
+file(GLOB ship_pictures CONFIGURE_DEPENDS ${ship}/pictures/*.png)
+add_custom_command(OUTPUT ${CMAKE_BINARY_DIR}/help.html
+                   COMMAND ${CMAKE_SOURCE_DIR}/tools/inline-pictures ${ship}/help.html > help.html
+                   DEPENDS ${CMAKE_SOURCE_DIR}/tools/inline-pictures ${ship}/help.html ${ship_pictures}
+                   WORKING_DIRECTORY ${CMAKE_BINARY_DIR} VERBATIM)
+foreach(text readme.txt revision.txt)
+    add_custom_command(OUTPUT ${CMAKE_BINARY_DIR}/${text}
+                       COMMAND ${CMAKE_COMMAND} -E copy ${ship}/${text} ${CMAKE_BINARY_DIR}/${text}
+                       DEPENDS ${ship}/${text} VERBATIM)
+endforeach()
+add_custom_target(ship_texts DEPENDS ${CMAKE_BINARY_DIR}/help.html ${CMAKE_BINARY_DIR}/readme.txt
+                                     ${CMAKE_BINARY_DIR}/revision.txt)
+add_dependencies(QUIRN ship_texts)
