@@ -42,7 +42,11 @@ std::string ReadMachineText(const std::string& path, const std::string& name) {
     DWORD type = 0;
     const long status = RegQueryValueExA(key, name.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(text), &size);
     RegCloseKey(key);
-    return status == ERROR_SUCCESS && type == REG_SZ ? text : std::string();
+    if (status != ERROR_SUCCESS || (type != REG_SZ && type != REG_EXPAND_SZ)) return {};
+    if (type == REG_SZ) return text;
+    char expanded[MAX_PATH * 2] = {};
+    const DWORD length = ExpandEnvironmentStringsA(text, expanded, sizeof(expanded));
+    return length > 0 && length <= sizeof(expanded) ? expanded : std::string();
 }
 
 }  // namespace quirn
