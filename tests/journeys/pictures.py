@@ -21,25 +21,37 @@ DESKTOP = r"HKEY_CURRENT_USER\Control Panel\Desktop"
 
 
 @pytest.fixture
-def camera(desk):
+def camera(desk, monkeypatch):
     desk.machine.reg("add", DESKTOP, "/v", "LogPixels", "/t", "REG_DWORD", "/d", str(DPI), "/f")
     FOLDER.mkdir(parents=True, exist_ok=True)
 
     def edges(window):
-        """With the frame that the window manager draws round it. The display's own measures: the test user does not
-        know of a higher DPI, and the system gives it the places of a lower one."""
+        """With the frame that the window manager draws round it, in the display's own measures."""
         say = lambda *words: subprocess.run(words, env=desk.screen.environment, stdout=subprocess.PIPE,
                                             stderr=subprocess.DEVNULL, check=False).stdout.decode("utf-8", "replace")
         name = "^" + re.escape(window["caption"]) + "$"
         ids = window["caption"] and say("xdotool", "search", "--onlyvisible", "--name", name).split()
         if not ids:
-            return [round(edge * DPI / 96) for edge in window["rect"]]
+            return window["rect"]
         info = say("xwininfo", "-id", ids[-1])
         left, top, width, height = (int(re.search(key + r":\s+(-?\d+)", info)[1])
                                     for key in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
         around = re.search(r"= (\d+), (\d+), (\d+), (\d+)", say("xprop", "-id", ids[-1], "_NET_FRAME_EXTENTS"))
         l, r, t, b = map(int, around.groups()) if around else (0, 0, 0, 0)
         return [left - l, top - t, left + width + r, top + height + b]
+
+    def front(self):
+        def clicked():
+            left, top, right, _ = edges(self.window())
+            self.point((left + right) / 2, top + 10)
+            self.xdo("click", 1)
+            time.sleep(0.2)
+            return self.has_keyboard()
+
+        wait_for(clicked, what=f"the keyboard for '{self.title()}'")
+
+    # Wine and the window manager do not agree on how high a caption is at a higher DPI.
+    monkeypatch.setattr(Player, "front", front)
 
     def shoot(windows, name):
         """What lies around all of these windows on the screen."""
