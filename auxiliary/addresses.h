@@ -2,8 +2,9 @@
 
 namespace quirn {
 
-// PLACEHOLDERS: whoever publishes QUIRN sets these two. Hosts and paths without a scheme.
-inline constexpr char kQuirnWebSite[] = "quirn.example/";
-inline constexpr char kGameWebSite[] = "subspace.example/";
+// PLACEHOLDERS: whoever publishes QUIRN sets these two. Hosts and paths without a scheme; the shell knows by the "www."
+// that they are addresses.
+inline constexpr char kQuirnWebSite[] = "www.quirn.example/";
+inline constexpr char kGameWebSite[] = "www.subspace.example/";
 
 }  // namespace quirn

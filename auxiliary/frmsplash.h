@@ -11,7 +11,7 @@ public:
 
 private:
     Picture Picture1;
-    Label lblTitle, lblVersion;
+    Label lblName, lblTitle, lblVersion;
 };
 
 }  // namespace quirn

@@ -1,6 +1,9 @@
 #include "mainwin/frmmain.h"
 
 #include "auxiliary/addresses.h"
+#include "auxiliary/frmabout.h"
+#include "auxiliary/frmrelnotes.h"
+#include "auxiliary/opendocument.h"
 #include "game/launch.h"
 #include "game/settingsstore.h"
 #include "mainwin/appsettings.h"
@@ -195,8 +198,10 @@ void frmMain::MenuCommand(int command) {
         case mnuFile_Exit: Unload(); break;
         case mnuOptions_Set: mnuOptions_Set_Click(); break;
         case mnuHelp_Contents: mnuHelp_Contents_Click(); break;
-        case mnuHelp_GotoQUIRNWebSite: OpenDocument(kQuirnWebSite); break;
-        case mnuHelp_GotoSSWebSite: OpenDocument(kGameWebSite); break;
+        case mnuHelp_Revision: frmRelNotes().ShowModal(*this); break;
+        case mnuHelp_GotoQUIRNWebSite: OpenDocument(*this, kQuirnWebSite); break;
+        case mnuHelp_GotoSSWebSite: OpenDocument(*this, kGameWebSite); break;
+        case mnuHelp_About: frmAbout().ShowModal(*this); break;
         default:
             if (command >= mnuFileMRU && command < mnuFileBarMRU)
                 document_.OpenRecent(static_cast<size_t>(command - mnuFileMRU));
@@ -210,13 +215,7 @@ void frmMain::mnuFile_Print_Click() { ShowMessage("Function unavailable in this 
 void frmMain::mnuOptions_Set_Click() { ShowOptions(false); }
 
 void frmMain::mnuHelp_Contents_Click() {
-    if (!ShowHelpContents(*this, program_.helpFile)) OpenDocument(ProgramFolder() + kHelpPage);
-}
-
-void frmMain::OpenDocument(const std::string& target) {
-    if (!OpenWithRegisteredProgram(*this, target))
-        ShowMessage("Unable to load '" + target + "' : " + MakeError(ErrorNumber::FileNotFound).description,
-                    kExclamation);
+    if (!ShowHelpContents(*this, program_.helpFile)) OpenDocument(*this, ProgramFolder() + kHelpPage);
 }
 
 void frmMain::ShowOptions(bool favourites) {

@@ -33,7 +33,6 @@ private:
     void mnuFile_Print_Click();
     void mnuOptions_Set_Click();
     void mnuHelp_Contents_Click();
-    void OpenDocument(const std::string& target);
 
     void Tray_Mouse(unsigned message);
     void TrayCommand(int command);

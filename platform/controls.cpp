@@ -39,6 +39,14 @@ Label::Label(Parent parent, const Bounds& place, const std::string& text, Alignm
 Picture::Picture(Parent parent, const Bounds& place, int resource)
     : Control(parent, ControlKind::Picture, place, {}), resource_(resource) {}
 
+void Label::UserClicks() {
+    if (onClick) CallHandler(onClick);
+}
+
+void Picture::UserClicks() {
+    if (onClick) CallHandler(onClick);
+}
+
 Frame::Frame(Parent parent, const Bounds& place, const std::string& caption)
     : Control(parent, ControlKind::Frame, place, caption) {}
 
@@ -86,8 +94,8 @@ void OptionGroup::Select(int index) {
     for (OptionButton* button : buttons_) button->Changed(Aspect::Value);
 }
 
-TextBox::TextBox(Parent parent, const Bounds& place, const std::string& text)
-    : Control(parent, ControlKind::TextBox, place, text) {}
+TextBox::TextBox(Parent parent, const Bounds& place, const std::string& text, TextStyle style)
+    : Control(parent, ControlKind::TextBox, place, text), style_(style) {}
 
 void TextBox::SetMasked(bool masked) {
     masked_ = masked;

@@ -26,6 +26,10 @@ public:
     Alignment AlignmentUsed() const { return alignment_; }
     bool ShowsData() const { return showsData_; }
 
+    std::function<void()> onClick;  // the left mouse button; set before the label has a window, which shows a hand then
+
+    void UserClicks();
+
 private:
     Alignment alignment_;
     bool showsData_ = false;
@@ -37,6 +41,10 @@ public:
     Picture(Parent parent, const Bounds& place, int resource);
 
     int Resource() const { return resource_; }
+
+    std::function<void()> onClick;  // the left mouse button; set before the picture has a window
+
+    void UserClicks();
 
 private:
     int resource_;
@@ -100,10 +108,17 @@ private:
     int selected_ = -1;
 };
 
-// One line of text to edit.
+enum class TextStyle {
+    Line,      // one line of text to edit
+    ReadPage,  // many lines (CR LF between them) to read, with scroll bars
+};
+
+// Text to edit or to read.
 class TextBox : public Control {
 public:
-    TextBox(Parent parent, const Bounds& place, const std::string& text = {});
+    TextBox(Parent parent, const Bounds& place, const std::string& text = {}, TextStyle style = TextStyle::Line);
+
+    TextStyle Style() const { return style_; }
 
     bool IsMasked() const { return masked_; }
     void SetMasked(bool masked);  // shows dots; copying is refused meanwhile
@@ -120,6 +135,7 @@ public:
     bool UserTypes(char character);  // false: the window's own handling goes on
 
 private:
+    TextStyle style_;
     bool masked_ = false;
 };
 

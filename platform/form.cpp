@@ -64,6 +64,11 @@ void Form::SetButtons(Button* defaultButton, Button* cancelButton) {
     cancelButton_ = cancelButton;
 }
 
+void Form::SetMinimumSize(int width, int height) {
+    minimumWidth_ = width;
+    minimumHeight_ = height;
+}
+
 void Form::Load() {
     if (loaded_) return;
     loaded_ = true;

@@ -56,6 +56,9 @@ public:
 
     void SetCaption(const std::string& caption);
     void Move(const Bounds& place);
+    void SetMinimumSize(int width, int height);  // twips, frame included; before Load
+    int MinimumWidth() const { return minimumWidth_; }
+    int MinimumHeight() const { return minimumHeight_; }
     void SetBackColor(Color color) { backColor_ = color; }  // before Load
     void SetMenu(Menu& menu, std::vector<Shortcut> shortcuts);  // before Load; the menu must live as long as the form
     Menu* MenuBar() const { return menu_; }
@@ -115,6 +118,8 @@ private:
     FormBorder border_;
     Bounds place_;
     bool placeIsSet_ = false;
+    int minimumWidth_ = 0;
+    int minimumHeight_ = 0;
     std::string caption_;
     std::optional<Color> backColor_;
     Menu* menu_ = nullptr;

@@ -32,4 +32,7 @@ private:
     void* handle_ = nullptr;
 };
 
+// A text of the whole machine's settings (below HKEY_LOCAL_MACHINE); empty when there is none.
+std::string ReadMachineText(const std::string& path, const std::string& name);
+
 }  // namespace quirn

@@ -126,7 +126,9 @@ void DestroyForm(Form& form) {
     });
 }
 
-void FormChanged(Form&, Aspect) {}
+void FormChanged(Form& form, Aspect aspect) {
+    if (aspect == Aspect::Place) form.WindowResized();
+}
 
 void ShowForm(Form& form, bool visible) {
     if (visible) ForEachControl(form, MakeWindow);

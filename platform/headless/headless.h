@@ -56,6 +56,9 @@ struct World {
     // Keys below the current user's root.
     std::map<std::string, RegistryValues, LessNoCase> registry;
 
+    // Texts of the whole machine's registry by key path, "\\" and value name.
+    std::map<std::string, std::string, LessNoCase> machineTexts;
+
     std::string commandLineTail;
     bool otherCopyRuns = false;
     bool programsFailToStart = false;                                  // for programs that exist; others never start

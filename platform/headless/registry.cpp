@@ -60,4 +60,10 @@ long RegistryKey::Set(const std::string& name, RegistryType type, const void* da
     return kRegistrySuccess;
 }
 
+std::string ReadMachineText(const std::string& path, const std::string& name) {
+    const auto& texts = headless::TheWorld().machineTexts;
+    const auto found = texts.find(path + "\\" + name);
+    return found == texts.end() ? std::string() : found->second;
+}
+
 }  // namespace quirn

@@ -7,8 +7,10 @@ namespace quirn {
 using headless::TheWorld;
 
 bool OpenWithRegisteredProgram(Form&, const std::string& target) {
+    const bool isPath = target.size() > 1 && target[1] == ':';
+    if (TheWorld().shellFails || (isPath && headless::FindFile(target) == nullptr)) return false;
     TheWorld().openedTargets.push_back(target);
-    return !TheWorld().shellFails;
+    return true;
 }
 
 bool ShowHelpContents(Form&, const std::string& helpFile) {

@@ -78,6 +78,10 @@ std::optional<LRESULT> KindMessage(Control& control, WNDPROC original, const Mes
         case ControlKind::ListBox: return ListMessage(static_cast<ListBox&>(control), original, m);
         case ControlKind::TextBox: return TextBoxMessage(static_cast<TextBox&>(control), m.message, m.wParam);
         case ControlKind::MaskedBox: return MaskedBoxMessage(static_cast<MaskedBox&>(control), m.message, m.wParam);
+        case ControlKind::Label:
+            if (m.message != WM_SETCURSOR || !static_cast<Label&>(control).onClick) return std::nullopt;
+            SetCursor(LoadCursorA(nullptr, IDC_HAND));
+            return TRUE;
         case ControlKind::ComboBox:
             if (m.message == WM_CTLCOLORLISTBOX)
                 OpenListMoved(static_cast<ComboBox&>(control), reinterpret_cast<HWND>(m.lParam));
@@ -126,9 +130,11 @@ void Subclass(const Control& control) {
         case ControlKind::ComboBox: SubclassAs<ControlKind::ComboBox>(window); break;
         case ControlKind::ListBox: SubclassAs<ControlKind::ListBox>(window); break;
         case ControlKind::TabStrip: SubclassAs<ControlKind::TabStrip>(window); break;
-        case ControlKind::Label:
-            if (static_cast<const Label&>(control).ShowsData()) SubclassAs<ControlKind::Label>(window);
+        case ControlKind::Label: {
+            const auto& label = static_cast<const Label&>(control);
+            if (label.ShowsData() || !label.ToolTip().empty() || label.onClick) SubclassAs<ControlKind::Label>(window);
             break;
+        }
         default: break;
     }
 }

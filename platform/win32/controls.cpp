@@ -24,7 +24,8 @@ struct Look {
 
 DWORD LabelStyle(const Label& label) {
     DWORD style = label.ShowsData() ? SS_NOPREFIX | SS_ENDELLIPSIS : 0;
-    if (label.ShowsData()) style |= SS_NOTIFY;  // it may get a tool tip at any time
+    // A label that shows data may get a tool tip at any time.
+    if (label.ShowsData() || !label.ToolTip().empty() || label.onClick) style |= SS_NOTIFY;
     switch (label.AlignmentUsed()) {
         case Alignment::Left: return style | SS_LEFT;
         case Alignment::Center: return style | SS_CENTER;
@@ -37,7 +38,9 @@ Look LookOf(const Control& control) {
     const Form& form = control.Holder().Owner();
     switch (control.Kind()) {
         case ControlKind::Label: return {"STATIC", LabelStyle(static_cast<const Label&>(control))};
-        case ControlKind::Picture: return {"STATIC", SS_OWNERDRAW};
+        case ControlKind::Picture:
+            return {"STATIC",
+                    SS_OWNERDRAW | static_cast<DWORD>(static_cast<const Picture&>(control).onClick ? SS_NOTIFY : 0)};
         case ControlKind::Button:
             return {"BUTTON", WS_TABSTOP | static_cast<DWORD>(&control == form.DefaultButton() ? BS_DEFPUSHBUTTON
                                                                                                : BS_PUSHBUTTON)};
@@ -45,6 +48,12 @@ Look LookOf(const Control& control) {
         case ControlKind::CheckBox: return {"BUTTON", WS_TABSTOP | BS_CHECKBOX};
         case ControlKind::OptionButton: return {"BUTTON", BS_RADIOBUTTON};
         case ControlKind::TextBox:
+            if (static_cast<const TextBox&>(control).Style() == TextStyle::ReadPage)
+                return {
+                    "EDIT",
+                    WS_TABSTOP | WS_VSCROLL | WS_HSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | ES_AUTOHSCROLL,
+                    WS_EX_CLIENTEDGE};
+            [[fallthrough]];
         case ControlKind::MaskedBox: return {"EDIT", WS_TABSTOP | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE};
         case ControlKind::ComboBox: return {"COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST};
         case ControlKind::ListBox: {

@@ -67,6 +67,14 @@ void TellPlace(Form& form) {
                       ToTwips(rect.right - rect.left, dpi), ToTwips(rect.bottom - rect.top, dpi)});
 }
 
+void LimitSize(const Form& form, MINMAXINFO& limits) {
+    if (form.MinimumWidth() == 0) return;
+    constexpr LONG kLargest = 9999;  // pixels
+    const int dpi = DpiOf(WindowOf(form));
+    limits.ptMinTrackSize = {ToPixels(form.MinimumWidth(), dpi), ToPixels(form.MinimumHeight(), dpi)};
+    limits.ptMaxTrackSize = {kLargest, kLargest};
+}
+
 void Resize(Form& form) {
     TellPlace(form);
     for (const Control* control : form.Controls())
@@ -143,6 +151,7 @@ LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
             if (wParam != SIZE_MINIMIZED) Resize(*form);
             return 0;
         case WM_MOVE: TellPlace(*form); break;
+        case WM_GETMINMAXINFO: LimitSize(*form, *reinterpret_cast<MINMAXINFO*>(lParam)); return 0;
         case WM_DPICHANGED: ChangeDpi(*form, *reinterpret_cast<const RECT*>(lParam)); return 0;
         case WM_ERASEBKGND:
             if (!form->BackColor()) break;

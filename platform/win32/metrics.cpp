@@ -37,6 +37,8 @@ HFONT MakeFont(const Font& font, int dpi) {
     } else {
         description.lfCharSet = DEFAULT_CHARSET;
         font.face.copy(description.lfFaceName, LF_FACESIZE - 1);
+        // Where there is no Courier New, some other face of one width for all characters.
+        if (font.face.starts_with("Courier")) description.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
     }
     description.lfHeight = -MulDiv(font.points > 0 ? font.points : kMessageFontPoints, dpi, 72);
     description.lfWidth = 0;

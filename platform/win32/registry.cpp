@@ -34,4 +34,19 @@ long RegistryKey::Set(const std::string& name, RegistryType type, const void* da
                           static_cast<const BYTE*>(data), size);
 }
 
+std::string ReadMachineText(const std::string& path, const std::string& name) {
+    HKEY key = nullptr;
+    if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, path.c_str(), 0, KEY_QUERY_VALUE, &key) != ERROR_SUCCESS) return {};
+    char text[MAX_PATH * 2] = {};
+    DWORD size = sizeof(text) - 1;
+    DWORD type = 0;
+    const long status = RegQueryValueExA(key, name.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(text), &size);
+    RegCloseKey(key);
+    if (status != ERROR_SUCCESS || (type != REG_SZ && type != REG_EXPAND_SZ)) return {};
+    if (type == REG_SZ) return text;
+    char expanded[MAX_PATH * 2] = {};
+    const DWORD length = ExpandEnvironmentStringsA(text, expanded, sizeof(expanded));
+    return length > 0 && length <= sizeof(expanded) ? expanded : std::string();
+}
+
 }  // namespace quirn

@@ -15,8 +15,10 @@ bool OpenWithRegisteredProgram(Form& owner, const std::string& target) {
     static const HRESULT com = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
     (void)com;
     constexpr INT_PTR kLastError = 32;
+    const HCURSOR before = SetCursor(LoadCursorA(nullptr, IDC_WAIT));
     const HINSTANCE result =
-        ShellExecuteA(win32::WindowOf(owner), nullptr, target.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+        ShellExecuteA(win32::WindowOf(owner), "open", target.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+    SetCursor(before);
     return reinterpret_cast<INT_PTR>(result) > kLastError;
 }
 

@@ -13,6 +13,9 @@ namespace quirn::test {
 void Click(Button& button);
 void Click(CheckBox& box);
 void Click(OptionButton& option);
+void Click(Label& label);
+void Click(Picture& picture);
+void RightClick(Label& label);
 void Type(TextBox& box, const std::string& text);                    // at the end
 size_t Type(MaskedBox& box, const std::string& text, size_t caret);  // returns the new caret; 8 and 127 erase
 size_t Paste(MaskedBox& box, const std::string& text, size_t caret);
@@ -24,6 +27,9 @@ void Close(Form& form);  // the close box
 
 // A key that goes to the control that has the focus, by way of the event loop.
 void Press(Form& form, int key, bool control = false);
+
+// Characters that go there in the same way.
+void Type(Form& form, const std::string& text);
 
 enum class MenuPart { Item, Heading, Separator, Nothing };
 void PointAt(Form& form, MenuPart part, int command);

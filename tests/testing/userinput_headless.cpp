@@ -18,6 +18,16 @@ void Click(OptionButton& option) {
     option.UserClicks();
 }
 
+void Click(Label& label) {
+    label.UserClicks();
+}
+
+void Click(Picture& picture) {
+    picture.UserClicks();
+}
+
+void RightClick(Label&) {}
+
 void Type(TextBox& box, const std::string& text) {
     for (const char c : text)
         if (!box.UserTypes(c)) box.UserEdits(box.Text() + c);
@@ -66,6 +76,10 @@ void Press(Form& form, int key, bool control) {
     form.UserTypes(static_cast<char>(key));
     if (key == kKeyEnter && form.IsLoaded()) form.UserPressesEnter();
     if (key == kKeyEscape && form.IsLoaded()) form.UserPressesEscape();
+}
+
+void Type(Form& form, const std::string& text) {
+    for (const char c : text) form.UserTypes(c);
 }
 
 void PointAt(Form& form, MenuPart part, int command) {

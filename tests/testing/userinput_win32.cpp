@@ -69,6 +69,21 @@ void Click(OptionButton& option) {
     Send(option, BM_CLICK);
 }
 
+void Click(Label& label) {
+    Send(label, WM_LBUTTONDOWN, MK_LBUTTON);
+    Send(label, WM_LBUTTONUP);
+}
+
+void Click(Picture& picture) {
+    Send(picture, WM_LBUTTONDOWN, MK_LBUTTON);
+    Send(picture, WM_LBUTTONUP);
+}
+
+void RightClick(Label& label) {
+    Send(label, WM_RBUTTONDOWN, MK_RBUTTON);
+    Send(label, WM_RBUTTONUP);
+}
+
 void Type(TextBox& box, const std::string& text) {
     for (const char c : text) {
         PutCaret(box, box.Text().size());
@@ -129,6 +144,16 @@ void Press(Form& form, int key, bool control) {
     PostMessageA(target, WM_KEYDOWN, static_cast<WPARAM>(key), 0);
     DoEvents();
     HoldControl(false);
+}
+
+void Type(Form& form, const std::string& text) {
+    DoEvents();
+    for (const char c : text) {
+        if (!form.IsLoaded()) return;
+        const HWND target = form.ActiveControl() != nullptr ? WindowOf(*form.ActiveControl()) : WindowOf(form);
+        PostMessageA(target, WM_CHAR, static_cast<unsigned char>(c), 0);
+        DoEvents();
+    }
 }
 
 void PointAt(Form& form, MenuPart part, int command) {

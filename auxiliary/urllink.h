@@ -1,0 +1,44 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "platform/controls.h"
+
+namespace quirn {
+
+// A label that opens an address, or any document with a registered program, when it is clicked.
+class URLLink {
+public:
+    // The three properties by their names, as the window that holds the link keeps them.
+    using PropertyBag = std::map<std::string, std::string>;
+
+    URLLink(Parent parent, const Bounds& place);
+
+    const std::string& Text() const { return lblURL.Text(); }  // displayed in the control
+    const std::string& URL() const { return url_; }            // opened by a click; empty: a click does nothing
+    bool ShowToolTip() const { return showToolTip_; }          // the URL as a tool tip over the text
+    void SetText(const std::string& text);
+    void SetURL(const std::string& url);
+    void SetShowToolTip(bool show);
+    void SetVisible(bool visible) { lblURL.SetVisible(visible); }
+
+    // True when a property has been set since the properties were last read or written.
+    bool Changed() const { return changed_; }
+
+    void InitProperties();
+    void ReadProperties(const PropertyBag& bag);  // missing ones get their defaults
+    void WriteProperties(PropertyBag& bag);       // those that differ from their defaults
+
+private:
+    void lblURL_MouseDown();
+    void ShowURLAsToolTip();
+
+    Form& form_;
+    Label lblURL;
+    std::string url_;
+    bool showToolTip_ = false;
+    bool changed_ = false;
+};
+
+}  // namespace quirn

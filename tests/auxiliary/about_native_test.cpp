@@ -1,0 +1,89 @@
+#include "auxiliary/frmabout.h"
+#include "auxiliary/frmrelnotes.h"
+#include "auxiliary/quotes.h"
+#include "platform/headless/headless.h"
+#include "tests/auxiliary/controlsof.h"
+#include "tests/testing/userinput.h"
+#include "tests/testing/world.h"
+
+// What the auxiliary windows ask of the system, and what comes by itself with the time.
+namespace quirn::test {
+namespace {
+
+using headless::TheWorld;
+
+class AuxiliaryTest : public WorldTest {};
+
+TEST_F(AuxiliaryTest, TheQuoteChangesByItselfAndAClickStartsTheTimeAnew) {
+    frmAbout form;
+    form.Show();
+    Label& quote = LabelOf(form, "A profile is a promise");
+    const std::string first = quote.Text();
+    WaitForEvents(6900);
+    EXPECT_EQ(quote.Text(), first);
+    WaitForEvents(200);
+    const std::string second = quote.Text();
+    EXPECT_NE(second, first);
+    WaitForEvents(5000);
+    Click(quote);
+    const std::string third = quote.Text();
+    EXPECT_NE(third, second);
+    WaitForEvents(6900);
+    EXPECT_EQ(quote.Text(), third);
+    WaitForEvents(200);
+    EXPECT_NE(quote.Text(), third);
+    Type(form, "zantek");  // no quote comes any more
+    const std::string last = quote.Text();
+    WaitForEvents(20000);
+    EXPECT_EQ(quote.Text(), last);
+}
+
+TEST_F(AuxiliaryTest, TheSoundComesWithOneQuoteOnly) {
+    frmAbout form;
+    form.Show();
+    Label& quote = LabelOf(form, "A profile is a promise");
+    for (size_t i = 1; i < 2 * kQuotes.size(); ++i) {
+        TheWorld().playedSounds.clear();
+        Click(quote);
+        const bool now = i % kQuotes.size() == 32;
+        EXPECT_EQ(TheWorld().playedSounds,
+                  now ? std::vector<std::string>{"C:\\Program\\thwfih.dll"} : std::vector<std::string>{})
+            << i;
+    }
+}
+
+TEST_F(AuxiliaryTest, TheSystemInformationIsFoundInTwoPlaces) {
+    frmAbout form;
+    form.Show();
+    Button& button = ButtonOf(form, "Sys Info");
+    ExpectMessage("System Information Is Unavailable At This Time");
+    Click(button);
+    MakeFolder("C:\\Tools");
+    PutFile("C:\\Tools\\MSINFO32.EXE", "");
+    PutFile("C:\\Windows\\info.exe", "");
+    TheWorld().machineTexts["SOFTWARE\\Microsoft\\Shared Tools Location\\MSINFO"] = "C:\\Tools";
+    Click(button);
+    TheWorld().machineTexts["SOFTWARE\\Microsoft\\Shared Tools\\MSINFO\\PATH"] = "C:\\Windows\\info.exe";
+    Click(button);
+    EXPECT_EQ(TheWorld().openedTargets, (std::vector<std::string>{"C:\\Tools\\MSINFO32.EXE", "C:\\Windows\\info.exe"}));
+    TheWorld().shellFails = true;
+    ExpectMessage("Unable to load 'C:\\Windows\\info.exe' : File not found", kExclamation);
+    Click(button);
+}
+
+TEST_F(AuxiliaryTest, TheNotesShowTheFileLineByLine) {
+    PutFile("C:\\Program\\readme.txt", "One\r\n\r\nThree, caf\xE9");
+    frmRelNotes form;
+    form.Show();
+    EXPECT_EQ(form.Caption(), "QUIRN Readme/Revision Notes");
+    const auto& text = ControlOf<TextBox>(form, ControlKind::TextBox, "");
+    EXPECT_EQ(text.Text(), "One\r\n\r\nThree, caf\xE9\r\n");
+    PutFile("C:\\Program\\revision.txt", "");
+    Click(ButtonOf(form, "revision.txt"));
+    EXPECT_EQ(text.Text(), "");
+    Click(ButtonOf(form, "readme.txt"));
+    EXPECT_EQ(text.Text().substr(0, 3), "One");
+}
+
+}  // namespace
+}  // namespace quirn::test

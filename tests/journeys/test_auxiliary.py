@@ -1,0 +1,126 @@
+"""About box, notes, help and addresses, through the menus of the exe; the splash while a start takes its time."""
+
+import contextlib
+
+from conftest import wait_for
+from player import Player
+
+CONTENTS, NOTES, QUIRN_SITE, GAME_SITE, ABOUT = 23, 24, 26, 27, 29
+CLASSES = r"HKEY_LOCAL_MACHINE\Software\Classes"
+MSINFO = r"HKEY_LOCAL_MACHINE\SOFTWARE\Microsoft\Shared Tools\MSINFO"
+HERE = r"C:\QUIRN"
+
+
+def start(desk):
+    # Programs that it opens work in the folder that it was started in.
+    return desk.start(folder=desk.machine.path("C:\\SubSpace"))
+
+
+def dialog(quirn, command, caption):
+    quirn.choose(command)
+    window = Player(quirn, quirn.window(caption)["handle"])
+    # A click on the caption, because the display may have left the keyboard where a program ended.
+    left, top, right, _ = window.window()["rect"]
+    window.point((left + right) / 2, top + 8)
+    window.xdo("click", 1)
+    window.front()
+    return window
+
+
+def label(window, text):
+    return next((c for c in window.controls() if c["class"] == "Static" and text in c["caption"]), None)
+
+
+@contextlib.contextmanager
+def registered(machine, key, value):
+    """The default value of a key of the registered programs, for a while."""
+    kind, before = (machine.export_registry(CLASSES + "\\" + key) or {}).get("\\", ("key", ""))
+    machine.reg("add", CLASSES + "\\" + key, "/ve", "/d", value, "/f")
+    yield
+    if kind != "key":
+        machine.reg("add", CLASSES + "\\" + key, "/ve", "/d", before, "/f")
+    else:
+        machine.reg("delete", CLASSES + "\\" + key, "/f")
+
+
+def test_the_about_box_and_its_cookies(desk):
+    quirn = start(desk)
+    about = dialog(quirn, ABOUT, "About QUIRN")
+    desk.screenshot("about")
+    assert label(about, "Version 1.61") and label(about, "Click here to visit the QUIRN Web Site")
+    first = label(about, "promise to your future self")
+    about.click(first)
+    second = wait_for(lambda: about.text(first) != first["caption"] and about.text(first), what="the second quote")
+    wait_for(lambda: about.text(first) != second, seconds=10, what="the third quote, by itself")
+    about.type("xxZanTEk")
+    secret = wait_for(lambda: label(about, "Hey! You found the secret cookie!"), what="the secret")
+    desk.screenshot("secret")
+    assert secret and not label(about, "Version")
+    about.click(about.find("Press me to leave this horrible excuse for a cookie..."))
+    about.gone()
+    quirn.close()
+
+
+def test_system_information(desk):
+    quirn = start(desk)
+    desk.machine.reg("delete", MSINFO, "/f")
+    about = dialog(quirn, ABOUT, "About QUIRN")
+    about.click(about.find("Sys Info..."))
+    quirn.expect("System Information Is Unavailable At This Time", "none")
+    desk.machine.reg("add", MSINFO, "/v", "PATH", "/d", r"C:\SubSpace\subspace.exe", "/f")
+    about.click(about.find("Sys Info..."))
+    desk.game_report()
+    desk.machine.reg("delete", MSINFO, "/f")
+
+
+def test_the_notes(desk):
+    folder = desk.machine.path(HERE)
+    notes = dialog(start(desk), NOTES, "QUIRN Readme/Revision Notes")
+    box = notes.of_class("Edit")[0]
+    assert box["caption"] == f"----\r\nERROR - Could not find {HERE}\\readme.txt\r\n----"
+    lines = "\r\n".join(f"Line {i}, für alle" for i in range(80))
+    (folder / "revision.txt").write_bytes(lines.encode("cp1252"))
+    notes.click(notes.find("revision.txt"))
+    assert notes.text(box) == lines + "\r\n"
+    desk.screenshot("notes")
+    notes.click(box)
+    notes.type("nothing can be typed")
+    assert notes.text(box) == lines + "\r\n"
+    left, top, right, bottom = notes.window()["rect"]
+    assert (right - left, bottom - top) == (721, 506)
+    notes.keys("Escape")
+    notes.gone()
+
+
+def test_help_and_addresses_go_to_their_programs(desk):
+    """The stand-in game serves as the program for both: it reports how it was called."""
+    game = r'C:\SubSpace\subspace.exe "%1"'
+    with contextlib.ExitStack() as stack:
+        for key, value in ((r"http\shell\open\command", game), (r"QuirnTestPage\shell\open\command", game),
+                           (".html", "QuirnTestPage")):
+            stack.enter_context(registered(desk.machine, key, value))
+        quirn = start(desk)
+        quirn.choose(CONTENTS)
+        quirn.expect(rf"Unable to load '{HERE}\help.html' : File not found", "exclamation")
+        (desk.machine.path(HERE) / "help.html").write_text("<p>Help</p>")
+        for command, word in ((CONTENTS, "help.html"), (QUIRN_SITE, "www.quirn."), (GAME_SITE, "www.subspace.")):
+            quirn.choose(command)
+            assert word in desk.game_report()["CommandLine"]
+            desk.close_game()
+            wait_for(lambda: not desk.user.processes("subspace.exe"), what="the game's end")
+            desk.file("started.txt").unlink()
+        about = dialog(quirn, ABOUT, "About QUIRN")
+        about.click(label(about, "Click here"))
+        assert "www.quirn." in desk.game_report()["CommandLine"]
+
+
+def test_the_splash_is_up_while_the_start_waits(desk):
+    desk.file("favorite.lst").unlink()
+    quirn = desk.start()
+    box = quirn.box()
+    splash = [w for w in quirn.windows() if w["class"] == "QUIRNForm"]
+    assert len(splash) == 1
+    texts = [c["caption"] for c in desk.user.ask("controls", splash[0]["handle"])["controls"]]
+    assert {"QUIRN", "The Vellick Subspace Manager", "Version 1.61"} <= set(texts)
+    box.press("Cancel")
+    assert quirn.ended() == 0
