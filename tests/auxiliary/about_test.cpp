@@ -23,7 +23,8 @@ protected:
 // As a quote in the label: each "\r" as a line break.
 std::string Shown(size_t index) {
     std::string lines;
-    for (const char* c = kQuotes[index]; *c != '\0'; ++c) lines += *c == '\r' ? std::string("\r\n") : std::string(1, *c);
+    for (const char* c = kQuotes[index]; *c != '\0'; ++c)
+        lines += *c == '\r' ? std::string("\r\n") : std::string(1, *c);
     return lines;
 }
 

@@ -17,7 +17,11 @@ Kind& ControlOf(Form& form, ControlKind kind, std::string_view text, int nth = 0
     throw std::runtime_error("no control \"" + std::string(text) + "\"");
 }
 
-inline Button& ButtonOf(Form& form, std::string_view text) { return ControlOf<Button>(form, ControlKind::Button, text); }
-inline Label& LabelOf(Form& form, std::string_view text) { return ControlOf<Label>(form, ControlKind::Label, text); }
+inline Button& ButtonOf(Form& form, std::string_view text) {
+    return ControlOf<Button>(form, ControlKind::Button, text);
+}
+inline Label& LabelOf(Form& form, std::string_view text) {
+    return ControlOf<Label>(form, ControlKind::Label, text);
+}
 
 }  // namespace quirn::test

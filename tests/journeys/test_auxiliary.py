@@ -2,7 +2,7 @@
 
 import contextlib
 
-from conftest import wait_for
+from conftest import WM_CLOSE, wait_for
 from player import Player
 
 CONTENTS, NOTES, QUIRN_SITE, GAME_SITE, ABOUT = 23, 24, 26, 27, 29
@@ -18,13 +18,21 @@ def start(desk):
 
 def dialog(quirn, command, caption):
     quirn.choose(command)
-    window = Player(quirn, quirn.window(caption)["handle"])
-    # A click on the caption, because the display may have left the keyboard where a program ended.
-    left, top, right, _ = window.window()["rect"]
-    window.point((left + right) / 2, top + 8)
-    window.xdo("click", 1)
-    window.front()
-    return window
+    return Player(quirn, quirn.window(caption)["handle"])
+
+
+def press(window, caption):
+    assert window.user.ask("press", window.handle, caption)
+
+
+def type_into(window, control, text):
+    """Without the display's keyboard, which it gives to a window in its own time."""
+    window.user.ask("type", control["handle"], text)
+
+
+def shut(window):
+    window.user.ask("post", window.handle, WM_CLOSE, 0, 0)
+    window.gone()
 
 
 def label(window, text):
@@ -52,11 +60,11 @@ def test_the_about_box_and_its_cookies(desk):
     about.click(first)
     second = wait_for(lambda: about.text(first) != first["caption"] and about.text(first), what="the second quote")
     wait_for(lambda: about.text(first) != second, seconds=10, what="the third quote, by itself")
-    about.type("xxZanTEk")
+    type_into(about, about.find("OK"), "xxZanTEk")
     secret = wait_for(lambda: label(about, "Hey! You found the secret cookie!"), what="the secret")
     desk.screenshot("secret")
     assert secret and not label(about, "Version")
-    about.click(about.find("Press me to leave this horrible excuse for a cookie..."))
+    press(about, "Press me to leave this horrible excuse for a cookie...")
     about.gone()
     quirn.close()
 
@@ -65,10 +73,10 @@ def test_system_information(desk):
     quirn = start(desk)
     desk.machine.reg("delete", MSINFO, "/f")
     about = dialog(quirn, ABOUT, "About QUIRN")
-    about.click(about.find("Sys Info..."))
+    press(about, "Sys Info...")
     quirn.expect("System Information Is Unavailable At This Time", "none")
     desk.machine.reg("add", MSINFO, "/v", "PATH", "/d", r"C:\SubSpace\subspace.exe", "/f")
-    about.click(about.find("Sys Info..."))
+    press(about, "Sys Info...")
     desk.game_report()
     desk.machine.reg("delete", MSINFO, "/f")
 
@@ -80,16 +88,14 @@ def test_the_notes(desk):
     assert box["caption"] == f"----\r\nERROR - Could not find {HERE}\\readme.txt\r\n----"
     lines = "\r\n".join(f"Line {i}, für alle" for i in range(80))
     (folder / "revision.txt").write_bytes(lines.encode("cp1252"))
-    notes.click(notes.find("revision.txt"))
-    assert notes.text(box) == lines + "\r\n"
+    press(notes, "revision.txt")
+    wait_for(lambda: notes.text(box) == lines + "\r\n", what="the revision notes")
     desk.screenshot("notes")
-    notes.click(box)
-    notes.type("nothing can be typed")
+    type_into(notes, box, "nothing can be typed")
     assert notes.text(box) == lines + "\r\n"
     left, top, right, bottom = notes.window()["rect"]
     assert (right - left, bottom - top) == (721, 506)
-    notes.keys("Escape")
-    notes.gone()
+    shut(notes)
 
 
 def test_help_and_addresses_go_to_their_programs(desk):
