@@ -234,7 +234,7 @@ bool ListBox::UserTypes(char character) {
 }
 
 // The strip's own border and its one row of tabs; win32/ gives the tabs this height.
-constexpr int kTabBorder = 60;
+constexpr int kTabBorder = 30;
 
 TabPage::TabPage(TabStrip& strip, const std::string& caption)
     : Container(strip.Holder().Owner()), strip_(&strip), caption_(caption) {
@@ -253,7 +253,7 @@ TabStrip::TabStrip(Parent parent, const Bounds& place) : Control(parent, Control
 
 Bounds TabStrip::PageArea() const {
     const Bounds& place = Place();
-    const int top = kTabHeight + kTabBorder;
+    const int top = kTabHeight + 2 * kTabBorder;  // the tabs stand off the strip's upper edge
     return {place.left + kTabBorder, place.top + top, place.width - 2 * kTabBorder, place.height - top - kTabBorder};
 }
 

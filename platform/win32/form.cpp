@@ -106,6 +106,14 @@ void RestoreFocus(const Form& form) {
         SetFocus(WindowOf(*active));
 }
 
+// False when they are there.
+bool MakeControls(Form& form) {
+    if (StateOf(form).controlsMade) return false;
+    StateOf(form).controlsMade = true;
+    CreateControls(form);
+    return true;
+}
+
 void PaintBackground(HWND window, HDC device, Color color) {
     RECT area{};
     GetClientRect(window, &area);
@@ -131,6 +139,8 @@ LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
         case WM_SHOWWINDOW:
             // An owner that is minimised takes its windows with it, which is no hiding of theirs.
             if (lParam == 0) form->WindowShown(wParam != FALSE);
+            // Another program may show a window that never was: a second copy does.
+            if (wParam != FALSE && MakeControls(*form)) form->FocusNext(nullptr);
             break;
         case WM_SIZE:
             form->WindowMinimized(wParam == SIZE_MINIMIZED);
@@ -231,10 +241,7 @@ void FormChanged(Form& form, Aspect aspect) {
 
 void ShowForm(Form& form, bool visible) {
     if (!visible) EndModal(form);
-    if (visible && !StateOf(form).controlsMade) {
-        StateOf(form).controlsMade = true;
-        CreateControls(form);
-    }
+    if (visible) MakeControls(form);
     ShowWindow(WindowOf(form), visible ? SW_SHOWNORMAL : SW_HIDE);
 }
 

@@ -90,8 +90,25 @@ class Player:
     def xdo(self, *words):
         subprocess.run(["xdotool", *map(str, words)], env=self.desk.screen.environment, check=True)
 
+    def has_keyboard(self):
+        """Both for the system and for the display, which gives the keyboard in its own time."""
+        if self.user.ask("foreground")["handle"] != self.handle:
+            return False
+        name = subprocess.run(["xdotool", "getwindowfocus", "getwindowname"], env=self.desk.screen.environment,
+                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False).stdout
+        return name.decode("utf-8", "replace").strip() == self.title()
+
     def front(self):
-        wait_for(lambda: self.user.ask("foreground")["handle"] == self.handle, what="the window in front")
+        """A click on the caption: this window manager does not give the keyboard to a new window by itself."""
+        wait_for(lambda: self.user.ask("foreground")["handle"] == self.handle, what=f"'{self.title()}' in front")
+        for _ in range(20):
+            l, t, r, _ = self.window()["rect"]
+            self.point((l + r) / 2, t + 8)
+            self.xdo("click", 1)
+            time.sleep(0.15)
+            if self.has_keyboard():
+                return
+        raise AssertionError(f"no keyboard for '{self.title()}'")
 
     def keys(self, *names):
         self.xdo("key", "--delay", "25", *names)
