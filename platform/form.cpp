@@ -89,6 +89,17 @@ void Form::ShowModal(Form& owner) {
     if (loaded_) native::RunModal(*this, owner);
 }
 
+void Form::ShowOwned(Form& owner) {
+    Load();
+    if (!loaded_) return;
+    native::SetOwner(*this, owner);
+    Show();
+}
+
+void Form::SetAlwaysOnTop() {
+    if (loaded_) native::KeepOnTop(*this);
+}
+
 void Form::Hide() {
     if (loaded_) native::ShowForm(*this, false);
 }
@@ -141,6 +152,9 @@ void Form::UserPressesEscape() {
 }
 
 bool Form::UserPressesShortcut(int key, bool control) {
+    bool swallowed = false;
+    if (onKeyDown) CallHandler([&] { swallowed = onKeyDown(key, control); });
+    if (swallowed) return true;
     const auto found = std::find_if(shortcuts_.begin(), shortcuts_.end(), [&](const Shortcut& shortcut) {
         return shortcut.key == key && shortcut.control == control;
     });
