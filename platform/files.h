@@ -32,6 +32,45 @@ Result<std::string> BeginReplacement(const std::string& path);
 Failure FinishReplacement(const std::string& path);
 void AbandonReplacement(const std::string& path);
 
+// Reads a file piece by piece, from its start on. Opens files that another program still has open for writing.
+class FileReader {
+public:
+    FileReader() = default;
+    ~FileReader();
+    FileReader(const FileReader&) = delete;
+    FileReader& operator=(const FileReader&) = delete;
+
+    Failure Open(const std::string& path);
+    uint64_t Size() const { return size_; }  // bytes, when it was opened
+
+    // How many bytes came, at most so many; 0 at the end of the file.
+    Result<size_t> Read(char* buffer, size_t bytes);
+
+private:
+    void* handle_ = nullptr;
+    uint64_t size_ = 0;
+    uint64_t position_ = 0;
+};
+
+// Creates or replaces a file in one step as WriteWholeFile does, for content that comes piece by piece: Open makes the
+// file beside it, Finish flushes that and puts it in place. Without Finish (or when that fails) the old file is whole
+// and the unfinished one is deleted at the end of this object's life.
+class FileReplacer {
+public:
+    FileReplacer() = default;
+    ~FileReplacer();
+    FileReplacer(const FileReplacer&) = delete;
+    FileReplacer& operator=(const FileReplacer&) = delete;
+
+    Failure Open(const std::string& path);
+    Failure Write(std::string_view bytes);
+    Failure Finish();
+
+private:
+    std::string path_;  // of the target; empty while nothing is open
+    void* handle_ = nullptr;
+};
+
 // True when the disk that holds the path has no room for so many more bytes.
 bool DiskIsFull(const std::string& path, size_t bytes);
 

@@ -171,6 +171,54 @@ void AbandonReplacement(const std::string& path) {
     Remove(UnfinishedPath(path));
 }
 
+FileReader::~FileReader() {
+    delete static_cast<std::string*>(handle_);
+}
+
+Failure FileReader::Open(const std::string& path) {
+    if (Failure failure = CheckPath(path)) return failure;
+    const File* file = headless::FindFile(path);
+    if (file == nullptr) return MakeError(ErrorNumber::FileNotFound);
+    if (file->holders > 0) return MakeError(ErrorNumber::PermissionDenied);
+    handle_ = new std::string(KeyOf(path));
+    size_ = file->bytes.size() + file->hollow;
+    return {};
+}
+
+Result<size_t> FileReader::Read(char* buffer, size_t bytes) {
+    const File* file = headless::FindFile(*static_cast<std::string*>(handle_));
+    if (file == nullptr || position_ >= file->bytes.size()) return size_t{0};
+    const size_t got = file->bytes.copy(buffer, bytes, static_cast<size_t>(position_));
+    position_ += got;
+    return got;
+}
+
+FileReplacer::~FileReplacer() {
+    if (!path_.empty()) AbandonReplacement(path_);
+}
+
+Failure FileReplacer::Open(const std::string& path) {
+    if (Failure failure = CheckReplaceable(path)) return failure;
+    path_ = AbsolutePath(path);
+    return MakeUnfinished(path_, {});
+}
+
+Failure FileReplacer::Write(std::string_view bytes) {
+    File* file = headless::FindFile(UnfinishedPath(path_));
+    if (file == nullptr) return MakeError(ErrorNumber::DeviceIo);
+    const std::optional<size_t>& room = TheWorld().diskRoom;
+    // The whole content anew at each piece would take a big file a long time.
+    if (!room) file->bytes += bytes;
+    else if (!headless::Store(*file, file->bytes + std::string(bytes))) return MakeError(ErrorNumber::DiskFull);
+    return {};
+}
+
+Failure FileReplacer::Finish() {
+    const Failure failure = FinishReplacement(path_);
+    path_.clear();
+    return failure;
+}
+
 bool DiskIsFull(const std::string&, size_t bytes) {
     return TheWorld().diskRoom.value_or(bytes) < bytes;
 }

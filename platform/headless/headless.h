@@ -24,7 +24,8 @@ struct File {
     bool readOnly = false;
     bool hidden = false;
     bool system = false;
-    int holders = 0;  // handles of other programs, which share nothing
+    uint64_t hollow = 0;  // bytes that its size counts and nobody can read: a huge file that takes no memory
+    int holders = 0;      // handles of other programs, which share nothing
 };
 
 struct RegistryValue {

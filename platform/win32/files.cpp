@@ -48,17 +48,41 @@ void DeleteUnfinished(const std::string& path) {
     DeleteFileA(UnfinishedPath(path).c_str());
 }
 
-Failure WriteAll(const std::string& path, std::string_view bytes) {
-    const KernelHandle file(CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS,
-                                        FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!file) return LastError();
+KernelHandle CreateAlways(const std::string& path) {
+    return KernelHandle(CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
+Failure WriteTo(HANDLE file, std::string_view bytes) {
     while (!bytes.empty()) {
         const auto piece = static_cast<DWORD>(std::min<size_t>(bytes.size(), 1u << 30));
         DWORD written = 0;
-        if (!WriteFile(file.Get(), bytes.data(), piece, &written, nullptr)) return LastError();
+        if (!WriteFile(file, bytes.data(), piece, &written, nullptr)) return LastError();
         if (written < piece) return MakeError(ErrorNumber::DiskFull);
         bytes.remove_prefix(written);
     }
+    return {};
+}
+
+Failure WriteAll(const std::string& path, std::string_view bytes) {
+    const KernelHandle file = CreateAlways(path);
+    if (!file) return LastError();
+    return WriteTo(file.Get(), bytes);
+}
+
+// Opens a plain file for reading and finds its size; the size in bytes goes into the last argument.
+Failure OpenForReading(const std::string& path, KernelHandle& file, uint64_t& size) {
+    file.Reset(
+        CreateFileA(path.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    if (!file) {
+        const DWORD code = GetLastError();
+        return IsFolder(path) ? MakeError(ErrorNumber::PathFileAccess) : ErrorFrom(code);
+    }
+    // Reading a device's name (CON, COM1) would wait for ever.
+    if (GetFileType(file.Get()) != FILE_TYPE_DISK) return MakeError(ErrorNumber::DeviceIo);
+    LARGE_INTEGER bytes{};
+    if (!GetFileSizeEx(file.Get(), &bytes)) return LastError();
+    size = static_cast<uint64_t>(bytes.QuadPart);
     return {};
 }
 
@@ -94,21 +118,13 @@ bool FolderExists(const std::string& path) {
 }
 
 Result<std::string> ReadWholeFile(const std::string& path) {
-    const KernelHandle file(
-        CreateFileA(path.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-    if (!file) {
-        const DWORD code = GetLastError();
-        if (IsFolder(path)) return ErrorNumber::PathFileAccess;
-        return ErrorFrom(code);
-    }
-    // Reading a device's name (CON, COM1) would wait for ever.
-    if (GetFileType(file.Get()) != FILE_TYPE_DISK) return ErrorNumber::DeviceIo;
-    LARGE_INTEGER size{};
-    if (!GetFileSizeEx(file.Get(), &size)) return LastError();
+    KernelHandle file;
+    uint64_t size = 0;
+    if (Failure failure = OpenForReading(path, file, size)) return *failure;
     try {
         std::string bytes;
-        if (static_cast<ULONGLONG>(size.QuadPart) > bytes.max_size()) return ErrorNumber::OutOfMemory;
-        bytes.resize(static_cast<size_t>(size.QuadPart));
+        if (size > bytes.max_size()) return ErrorNumber::OutOfMemory;
+        bytes.resize(static_cast<size_t>(size));
         size_t at = 0;
         while (at < bytes.size()) {
             const auto piece = static_cast<DWORD>(std::min<size_t>(bytes.size() - at, 1u << 30));
@@ -166,6 +182,51 @@ Failure FinishReplacement(const std::string& path) {
 
 void AbandonReplacement(const std::string& path) {
     DeleteUnfinished(path);
+}
+
+FileReader::~FileReader() {
+    KernelHandle(static_cast<HANDLE>(handle_)).Reset();
+}
+
+Failure FileReader::Open(const std::string& path) {
+    KernelHandle file;
+    if (Failure failure = OpenForReading(path, file, size_)) return failure;
+    handle_ = file.Release();
+    return {};
+}
+
+Result<size_t> FileReader::Read(char* buffer, size_t bytes) {
+    DWORD got = 0;
+    if (!ReadFile(handle_, buffer, static_cast<DWORD>(std::min<size_t>(bytes, 1u << 30)), &got, nullptr))
+        return LastError();
+    position_ += got;
+    return size_t{got};
+}
+
+FileReplacer::~FileReplacer() {
+    KernelHandle(static_cast<HANDLE>(handle_)).Reset();
+    if (!path_.empty()) DeleteUnfinished(path_);
+}
+
+Failure FileReplacer::Open(const std::string& path) {
+    const Result<bool> old = CheckReplaceable(path);
+    if (old.Failed()) return old.Error();
+    path_ = AbsolutePath(path);
+    DeleteUnfinished(path_);
+    handle_ = CreateAlways(UnfinishedPath(path_)).Release();
+    if (handle_ == nullptr) return LastError();
+    return {};
+}
+
+Failure FileReplacer::Write(std::string_view bytes) {
+    return WriteTo(handle_, bytes);
+}
+
+Failure FileReplacer::Finish() {
+    KernelHandle(static_cast<HANDLE>(std::exchange(handle_, nullptr))).Reset();
+    const Failure failure = FinishReplacement(path_);
+    path_.clear();
+    return failure;
 }
 
 bool DiskIsFull(const std::string& path, size_t bytes) {

@@ -17,6 +17,7 @@ namespace quirn::test {
 std::string Scratch();
 
 void PutFile(const std::string& path, std::string_view bytes);  // its folder must exist
+void PutHugeFile(const std::string& path, uint64_t size);       // of so many bytes, which take no room
 std::optional<std::string> FileBytes(const std::string& path);  // empty when there is no such file
 void MakeFolder(const std::string& path);
 void SetReadOnly(const std::string& path);

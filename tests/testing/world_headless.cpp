@@ -29,6 +29,10 @@ void PutFile(const std::string& path, std::string_view bytes) {
     headless::PutFile(path, bytes);
 }
 
+void PutHugeFile(const std::string& path, uint64_t size) {
+    headless::PutFile(path, {}).hollow = size;
+}
+
 std::optional<std::string> FileBytes(const std::string& path) {
     if (const headless::File* file = headless::FindFile(path)) return file->bytes;
     return std::nullopt;

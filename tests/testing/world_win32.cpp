@@ -1,3 +1,6 @@
+#include <windows.h>
+#include <winioctl.h>
+
 #include <cstdlib>
 
 #include "platform/win32/handle.h"
@@ -85,6 +88,15 @@ void PutFile(const std::string& path, std::string_view bytes) {
     DWORD written = 0;
     ASSERT_TRUE(file && WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr))
         << path;
+}
+
+void PutHugeFile(const std::string& path, uint64_t size) {
+    const KernelHandle file(CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+    LARGE_INTEGER end{};
+    end.QuadPart = static_cast<LONGLONG>(size);
+    DWORD got = 0;
+    DeviceIoControl(file.Get(), FSCTL_SET_SPARSE, nullptr, 0, nullptr, 0, &got, nullptr);
+    EXPECT_TRUE(file && SetFilePointerEx(file.Get(), end, nullptr, FILE_BEGIN) && SetEndOfFile(file.Get())) << path;
 }
 
 std::optional<std::string> FileBytes(const std::string& path) {

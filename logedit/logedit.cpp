@@ -1,0 +1,54 @@
+#include "logedit/logedit.h"
+
+#include <algorithm>
+
+#include "logedit/logparser.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+
+namespace quirn {
+
+void LogEdit::Forget() {
+    LogLines = std::make_shared<ParsedLog>();
+    lastSearch.clear();
+}
+
+std::string LogNotFoundText(const std::string& path) {
+    return "ERROR - Could not find log file named '" + path + "'";
+}
+
+bool ParseLogFile(LogEdit& edit, const std::string& path, const ParseSteps& steps) {
+    edit.LogFilterMask = BuildFilterMask(edit.chkFilters);
+    if (!FileExists(path)) {
+        edit.LogLines = std::make_shared<ParsedLog>();
+        ShowMessage(LogNotFoundText(path), kCritical);
+        return false;
+    }
+    Result<std::shared_ptr<const ParsedLog>> log = ReadLog(path, steps.onReading, steps.onProgress);
+    if (log.Failed()) {
+        const int number = log.Error().number;
+        if (number != static_cast<int>(ErrorNumber::OutOfMemory)) edit.LogLines = std::make_shared<ParsedLog>();
+        if (number == static_cast<int>(ErrorNumber::Overflow)) {
+            edit.include.Clear();
+            edit.exclude.Clear();
+            edit.view.Clear();
+        }
+        ShowError(log.Error());
+        return false;
+    }
+    edit.LogLines = log.Take();
+    edit.exclude.Clear();
+    edit.view.Clear();
+    if (steps.onPlayers) steps.onPlayers(std::max<size_t>(edit.LogLines->Players().size(), 2) - 1);
+    edit.include.Fill(edit.LogLines);
+    return true;
+}
+
+bool ApplyLogFilter(LogEdit& edit) {
+    const Failure failure =
+        edit.view.ApplyLogFilter(edit.LogLines, edit.LogFilterMask, edit.include, edit.exclude, edit.lineNumbers);
+    ShowError(failure);
+    return !failure;
+}
+
+}  // namespace quirn

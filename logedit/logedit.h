@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "logedit/logfilter.h"
+#include "logedit/logsave.h"
+#include "logedit/logview.h"
+#include "logedit/parsedlog.h"
+#include "logedit/playerlist.h"
+
+namespace quirn {
+
+// The state of the log editor, one for the program; outlives its window.
+struct LogEdit {
+    std::shared_ptr<const ParsedLog> LogLines = std::make_shared<ParsedLog>();  // and LogLineInfo
+    uint32_t LogFilterMask = 0;
+    FilterBoxValues chkFilters{};  // the values of the check boxes
+    bool applyAtOnce = false;      // mnuOptions_Apply
+    bool lineNumbers = false;      // mnuOptions_LineNums
+    PlayerList include, exclude;   // lstInclude, lstExclude
+    LogView view;                  // lstLog
+    LogMRUList LogMRU;
+    std::string lastSearch;
+
+    // What the main window's Log menu does before it shows the window: no lines, no search text.
+    void Forget();
+};
+
+// What the window shows while a log is parsed; each may be empty.
+struct ParseSteps {
+    // Reading begins: "Reading && Parsing Log File...", the bar from 0 to the file's size in bytes.
+    std::function<void(uint64_t size)> onReading;
+    // How far it is; every quarter of a megabyte.
+    std::function<void(uint64_t done)> onProgress;
+    // The player lists are being filled: "Populating Player List...", the bar from 0 to highest (1 at least); pending
+    // events run once.
+    std::function<void(size_t highest)> onPlayers;
+};
+
+// Reads and parses a log. True: LogLines holds it, the include list its players, the exclude list and the view are
+// empty; the caller applies the filter next. False, after a message: a file that is not found or does not open leaves
+// LogLines with its one empty element but the lists as they were, on purpose; one that memory cannot hold leaves
+// everything as it was; one with too many players empties all of it.
+bool ParseLogFile(LogEdit& edit, const std::string& path, const ParseSteps& steps);
+
+// "ERROR - Could not find log file named '...'"
+std::string LogNotFoundText(const std::string& path);
+
+// Rebuilds the view from LogLines, the mask and the lists. False, after a message, when memory ran out; the view is
+// then as before.
+bool ApplyLogFilter(LogEdit& edit);
+
+}  // namespace quirn

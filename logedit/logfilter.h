@@ -1,0 +1,58 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "logedit/parsedlog.h"
+#include "logedit/playerlist.h"
+
+// Which lines of a log are shown: by message type and by player.
+namespace quirn {
+
+// The check boxes chkFilters(0..10).
+struct FilterBox {
+    const char* caption;
+    LogLineType type;
+};
+inline constexpr size_t kFilterBoxCount = 11;
+inline constexpr FilterBox kFilterBoxes[kFilterBoxCount] = {
+    {"Public Messages", kPublic},
+    {"Private Messages", kPrivate},
+    {"Team messages", kTeam},
+    {"Freq messages", kFreq},
+    {"Chat Channel 1 messages", kChannel1},
+    {"Chat Channel 2 messages", kChannel2},
+    {"Chat Channel 3 messages", kChannel3},
+    {"Chat Channel 4 messages", kChannel4},
+    {"Squad messages", kSquad},
+    {"Kill messages", kKill},
+    {"System messages", kSystem},
+};
+
+// LogFilterMask from the values of the check boxes: 1 is ticked, 2 (greyed) does not count.
+using FilterBoxValues = std::array<int, kFilterBoxCount>;
+uint32_t BuildFilterMask(const FilterBoxValues& values);
+
+// Fills shown with the indexes of the lines that are shown, ascending; there must be room for every line of the log.
+// Returns their number. A type outside the mask hides a line, so lines of unknown type never show. A line with a player
+// shows by the shorter of the two lists: not in the excluded ones, or in the included ones.
+size_t FilterLines(const ParsedLog& log, uint32_t mask, const PlayerList& include, const PlayerList& exclude,
+                   uint32_t* shown);
+
+// The tags of displayed lines, "{0042} ": the line's number among all parsed lines, from 1, with as many digits as the
+// highest has.
+class LineNumberTag {
+public:
+    explicit LineNumberTag(size_t lineCount);
+    size_t Length() const { return digits_ + 3; }  // bytes, the same for every line
+    void Write(size_t line, char* out) const;      // exactly Length() bytes
+    std::string Text(size_t line) const;
+
+private:
+    size_t digits_;
+};
+
+}  // namespace quirn

@@ -1,0 +1,287 @@
+#include "logedit/logparser.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <new>
+
+#include "logedit/logscan.h"
+#include "platform/files.h"
+#include "platform/text.h"
+
+namespace quirn {
+
+namespace {
+
+// Read and scanned at once: little enough to stay in the cache in between.
+constexpr size_t kReadBytes = 256 * 1024;
+
+constexpr size_t kFetchAhead = 8;  // names
+
+// What the first character of a prefix says when the second is a blank; 0 for the first characters of lines that need a
+// closer look.
+constexpr std::array<uint16_t, 256> MakePrefixTable() {
+    std::array<uint16_t, 256> table{};
+    table.fill(kUnknown);
+    table[' '] = kPublic;
+    table['P'] = kPrivate;
+    table['T'] = kTeam;
+    table['E'] = kFreq;
+    table['C'] = kChannel1;
+    table['['] = table['{'] = 0;
+    return table;
+}
+constexpr std::array<uint16_t, 256> kPrefixes = MakePrefixTable();
+
+// "1", anything else and no digit at all are channel 1.
+inline uint32_t ChannelType(char digit) {
+    const auto channel = static_cast<unsigned char>(digit - '1');
+    return kChannel1 << (channel < 4 ? channel : 0);
+}
+
+// Behind the line-number tag at the start of a line: behind the first "} ", or behind the brace alone when there is
+// none, on purpose.
+size_t TagLength(std::string_view line) {
+    const size_t end = line.find("} ");
+    return end == std::string_view::npos ? 1 : end + 2;
+}
+
+}  // namespace
+
+// What is kept of a line.
+struct LogParser::Line {
+    std::string_view text;
+    uint32_t type;
+    bool named;
+    std::string_view name;
+};
+
+LogParser::LogParser(ParsedLog& log, size_t size)
+    : log_(log),
+      ready_(log.Allocate(size)),
+      table_(log.players_),
+      window_(std::make_unique_for_overwrite<ScanWindow>()),
+      block_(log.blocks_[0].get()) {
+    window_->pendingCount = 0;
+}
+
+LogParser::~LogParser() = default;
+
+bool LogParser::Advance(size_t available) {
+    while (start_ < available) {
+        if (searched_ <= start_) {
+            if (!ParseWindow(std::min(available, start_ + kWindowBytes))) return false;
+            continue;
+        }
+        // No line end so far: a very long line, or one that is not all there yet.
+        const char* text = Buffer();
+        const void* found =
+            searched_ < available ? std::memchr(text + searched_, '\n', available - searched_) : nullptr;
+        if (found == nullptr) {
+            searched_ = available;
+            return true;
+        }
+        const auto lineEnd = static_cast<size_t>(static_cast<const char*>(found) - text);
+        const bool withReturn = lineEnd > start_ && text[lineEnd - 1] == '\r';
+        if (!ParseAlone(lineEnd - withReturn, lineEnd + 1)) return false;
+    }
+    return true;
+}
+
+bool LogParser::Finish(size_t available) {
+    log_.textSize_ = available;
+    std::memset(Buffer() + available, '\n', ParsedLog::kMargin);
+    if (!Advance(available)) return false;
+    if (start_ < available && !ParseAlone(available, available)) return false;
+    const size_t kept = (log_.blocks_.size() - 1) * kLinesPerBlock + slot_;
+    // The first element stays what it was before the file when no line was kept.
+    if (kept == 0) block_->begin[0] = static_cast<uint32_t>(available);
+    log_.lineCount_ = std::max<size_t>(kept, 1);
+    log_.longestLine_ = longest_;
+    return true;
+}
+
+// Parses the whole lines from start_ on up to end; without any, searched_ says so.
+bool LogParser::ParseWindow(size_t end) {
+    ScanWindow& window = *window_;
+    const char* const text = Buffer() + start_;
+    window.Scan(text, end - start_);
+    if (window.lineEndCount == 0) {
+        searched_ = end;
+        return true;
+    }
+    const uint16_t* speaker = window.speakers.at;
+    const uint16_t* kill = window.kills.at;
+    size_t begin = 0;
+    for (size_t i = 0; i < window.lineEndCount; ++i) {
+        const size_t next = window.lineEnds.at[i] + size_t{1};
+        const bool withReturn = (text[static_cast<ptrdiff_t>(next) - 2] == '\r') & (next - 1 > begin);
+        const char* const whole = text + begin;
+        const char* const lineEnd = text + next - 1 - withReturn;
+        const size_t directlyNext = withReturn ? start_ + next : SIZE_MAX;
+        consumed_ += static_cast<size_t>(lineEnd - whole) + 2;
+        const char* line = whole;
+        if (*line == '{') [[unlikely]]
+            line += TagLength({whole, lineEnd});
+        begin = next;
+
+        // The usual line, nearly without a branch: the kinds of line come in no order that a processor could guess.
+        // A few bytes behind a short line may be looked at; what they say is not used.
+        const auto rest = static_cast<size_t>(line + 2 - text);
+        while (*speaker < rest) ++speaker;
+        while (*kill < rest) ++kill;
+        const bool hasSpeaker = *speaker < next;
+        const char* const arrow = hasSpeaker ? text + *speaker : line + 3;
+        const char* name = line + 2;
+        const uint32_t prefix = kPrefixes[static_cast<unsigned char>(*line)];
+        const bool blanks = (*name == ' ') | (hasSpeaker & (arrow[-1] == ' '));
+        const bool squad = hasSpeaker & (*name == '(');
+        const char* const nameEnd = arrow - squad;
+        name += squad;
+        if ((prefix == 0) | (lineEnd - line < 3) | blanks | (name >= nameEnd)) [[unlikely]] {
+            ParseUnusual({whole, lineEnd}, directlyNext);
+            continue;
+        }
+        name += ptrdiff_t{2} * ((name[1] == ':') & (nameEnd - name > 1));
+        const bool named = hasSpeaker & ((*name != ':') | (name == nameEnd));
+
+        const char digit = line[3] == ':' ? line[2] : arrow[3] == ';' ? arrow[2] : '1';
+        uint32_t type = line[1] == ' ' ? prefix : static_cast<uint32_t>(kUnknown);
+        type = type == kChannel1 ? ChannelType(digit) : type;
+        type = hasSpeaker ? type : static_cast<uint32_t>(kSystem);
+        type = *kill < next ? static_cast<uint32_t>(kKill) : type;
+        type = squad ? static_cast<uint32_t>(kSquad) : type;
+
+        ScanWindow::Speaker& pending = window.pending[window.pendingCount];
+        pending.info = Keep(line, static_cast<size_t>(lineEnd - line), type, directlyNext);
+        pending.name = name;
+        pending.length = static_cast<uint32_t>(nameEnd - name);
+        pending.key = MakePlayerKey(name, pending.length);
+        table_.FetchBucket(pending.key);
+        window.pendingCount += named;
+    }
+    start_ += begin;
+    return NumberPlayers();
+}
+
+// Parses the line from start_ on by itself.
+bool LogParser::ParseAlone(size_t lineEnd, size_t next) {
+    const std::string_view whole(Buffer() + start_, lineEnd - start_);
+    consumed_ += whole.size() + 2;
+    ParseUnusual(whole, next == lineEnd + 2 ? next : SIZE_MAX);
+    start_ = next;
+    return NumberPlayers();
+}
+
+void LogParser::ParseUnusual(std::string_view whole, size_t directlyNext) {
+    Line line;
+    if (!Decode(whole, line)) return;
+    int32_t* const info = Keep(line.text.data(), line.text.size(), line.type, directlyNext);
+    if (!line.named) return;
+    window_->pending[window_->pendingCount++] = {MakePlayerKey(line.name.data(), line.name.size()), line.name.data(),
+                                                 static_cast<uint32_t>(line.name.size()), info};
+}
+
+// Any line, step by step. False when nothing is kept of it.
+bool LogParser::Decode(std::string_view whole, Line& line) const {
+    if (Trim(whole).empty() || whole.starts_with("[~")) return false;
+    line.text = whole;
+    if (whole.starts_with('{')) line.text.remove_prefix(TagLength(whole));
+    const std::string_view prefix = line.text.substr(0, 2);
+    const std::string_view rest = line.text.substr(prefix.size());
+    const size_t arrow = rest.find("> ");
+    const bool hasSpeaker = arrow != std::string_view::npos;
+
+    line.type = kUnknown;
+    if (prefix.size() == 2 && prefix[1] == ' ' && prefix[0] != '[' && prefix[0] != '{')
+        line.type = kPrefixes[static_cast<unsigned char>(prefix[0])];
+    if (line.type == kChannel1) {
+        const std::string_view trimmed = Trim(rest);
+        if (trimmed.size() > 1 && trimmed[1] == ':') line.type = ChannelType(trimmed[0]);
+        else if (hasSpeaker && arrow + 3 < rest.size() && rest[arrow + 3] == ';')
+            line.type = ChannelType(rest[arrow + 2]);
+    }
+    const bool kill = rest.find(kKilledBy) != std::string_view::npos;
+    if (kill) line.type = kKill;
+    line.named = false;
+    if (!hasSpeaker) {
+        if (!kill) line.type = kSystem;
+        return true;
+    }
+    std::string_view name = Trim(rest.substr(0, arrow));
+    if (name.empty()) name = rest.substr(0, 0);
+    if (name.starts_with('(')) {
+        // Of a lone "(" nothing is left.
+        name = name.size() > 1 ? name.substr(1, name.size() - 2) : name.substr(1);
+        line.type = kSquad;
+    }
+    if (name.size() > 1 && name[1] == ':') name.remove_prefix(2);
+    line.named = !name.starts_with(':');
+    line.name = name;
+    return true;
+}
+
+// The info word of the kept line, still without its player.
+inline int32_t* LogParser::Keep(const char* begin, size_t length, uint32_t type, size_t directlyNext) {
+    if (slot_ == kLinesPerBlock) [[unlikely]]
+        AddBlock();
+    const auto offset = static_cast<size_t>(begin - Buffer());
+    *lastBegin_ |= static_cast<uint32_t>(offset == directlyNext_) << 31;
+    lastBegin_ = &block_->begin[slot_];
+    *lastBegin_ = static_cast<uint32_t>(offset);
+    directlyNext_ = directlyNext;
+    longest_ = std::max(longest_, length);
+    int32_t* const info = &block_->info[slot_++];
+    *info = static_cast<int32_t>(type);
+    return info;
+}
+
+void LogParser::AddBlock() {
+    log_.AddBlock();
+    block_ = log_.blocks_.back().get();
+    slot_ = 0;
+}
+
+bool LogParser::NumberPlayers() {
+    for (size_t i = 0; i < window_->pendingCount; ++i) {
+        if (i + kFetchAhead < window_->pendingCount) table_.FetchName(window_->pending[i + kFetchAhead].key);
+        const ScanWindow::Speaker& speaker = window_->pending[i];
+        const auto number = table_.Number(speaker.key, {speaker.name, speaker.length});
+        if (!number) return false;
+        *speaker.info |= static_cast<int32_t>(*number << 16);
+    }
+    window_->pendingCount = 0;
+    return true;
+}
+
+Result<std::shared_ptr<const ParsedLog>> ReadLog(const std::string& path,
+                                                 const std::function<void(uint64_t size)>& onOpen,
+                                                 const LogProgress& progress) {
+    FileReader file;
+    if (Failure failure = file.Open(path)) return *failure;
+    if (file.Size() >= kLogSizeLimit) return ErrorNumber::OutOfMemory;
+    try {
+        const auto log = std::make_shared<ParsedLog>();
+        const auto size = static_cast<size_t>(file.Size());
+        LogParser parser(*log, size);
+        if (!parser.Ready()) return ErrorNumber::OutOfMemory;
+        if (onOpen) onOpen(size);
+        // A file that grows meanwhile is read as far as it went; one that is cut is read as far as it goes.
+        size_t available = 0;
+        while (available < size) {
+            const Result<size_t> got = file.Read(parser.Buffer() + available, std::min(kReadBytes, size - available));
+            if (got.Failed()) return got.Error();
+            if (got.Value() == 0) break;
+            available += got.Value();
+            if (!parser.Advance(available)) return ErrorNumber::Overflow;
+            if (progress) progress(parser.Consumed());
+        }
+        if (!parser.Finish(available)) return ErrorNumber::Overflow;
+        if (progress) progress(parser.Consumed());
+        return std::shared_ptr<const ParsedLog>(log);
+    } catch (const std::bad_alloc&) {
+        return ErrorNumber::OutOfMemory;
+    }
+}
+
+}  // namespace quirn

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "logedit/parsedlog.h"
+#include "logedit/playertable.h"
+#include "platform/error.h"
+
+// Reads chat logs. The scan goes over the text in windows that stay in the processor's cache, first for the places that
+// matter (line ends, "> ", kills), then line by line, then for the players.
+namespace quirn {
+
+struct ScanWindow;
+
+// Parses a text that comes piece by piece. The bytes go to Buffer(), each piece behind the one before.
+class LogParser {
+public:
+    // The log must be new. size: of the whole text, in bytes, below kLogSizeLimit.
+    // Nothing can be parsed when that did not get its memory: Ready() is then false.
+    LogParser(ParsedLog& log, size_t size);
+    ~LogParser();
+
+    bool Ready() const { return ready_; }
+    char* Buffer() { return log_.text_.get() + ParsedLog::kMargin; }
+
+    // So many bytes are there. Parses all whole lines in them. False when there are too many players; the log is then
+    // of no use.
+    bool Advance(size_t available);
+
+    // That was all, though it be less than announced. A last line without an end is parsed too.
+    bool Finish(size_t available);
+
+    // For each line so far, kept or not, its length plus 2.
+    uint64_t Consumed() const { return consumed_; }
+
+private:
+    struct Line;
+
+    bool ParseWindow(size_t end);
+    bool ParseAlone(size_t lineEnd, size_t next);
+    bool Decode(std::string_view whole, Line& line) const;
+    void ParseUnusual(std::string_view whole, size_t directlyNext);
+    int32_t* Keep(const char* begin, size_t length, uint32_t type, size_t directlyNext);
+    void AddBlock();
+    bool NumberPlayers();
+
+    ParsedLog& log_;
+    bool ready_;
+    PlayerTable table_;
+    std::unique_ptr<ScanWindow> window_;
+    size_t start_ = 0;     // of the first line that has not been parsed
+    size_t searched_ = 0;  // up to here there is no line end after start_
+    LineBlock* block_;     // the last one
+    size_t slot_ = 0;      // in it, of the next line
+    uint32_t noLine_ = 0;
+    uint32_t* lastBegin_ = &noLine_;  // of the last kept line
+    size_t directlyNext_ = SIZE_MAX;  // where a line must start to follow that one directly
+    size_t longest_ = 0;
+    uint64_t consumed_ = 0;
+};
+
+// What becomes of a file: a log, or why there is none. progress is told how far the parse is, in bytes of the file (as
+// Consumed), whenever another quarter of a megabyte is done. Errors: those of FileReader; 7 for a file that
+// memory cannot hold; 6 for one with too many players.
+using LogProgress = std::function<void(uint64_t done)>;
+Result<std::shared_ptr<const ParsedLog>> ReadLog(const std::string& path,
+                                                 const std::function<void(uint64_t size)>& onOpen,
+                                                 const LogProgress& progress);
+
+}  // namespace quirn

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <emmintrin.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+#include "logedit/playertable.h"
+
+// One window of a log's text: the places in it that the parser needs, and the lines whose speaker is still to be
+// numbered.
+namespace quirn {
+
+inline constexpr size_t kWindowBytes = 8192;
+inline constexpr std::string_view kKilledBy = ") killed by: ";
+inline constexpr uint16_t kNoPlace = 0xFFFF;
+
+struct ScanWindow {
+    // Offsets in the window, ascending, each list ended by kNoPlace.
+    struct Places {
+        uint16_t at[kWindowBytes + 8];
+    };
+    Places lineEnds;  // of each LF
+    Places speakers;  // of each "> "
+    Places kills;     // of each kKilledBy
+    size_t lineEndCount;
+
+    // A line with a speaker takes five bytes at least.
+    struct Speaker {
+        PlayerKey key;
+        const char* name;
+        uint32_t length;
+        int32_t* info;  // of the line, which gets the number
+    };
+    Speaker pending[kWindowBytes / 5 + 8];
+    size_t pendingCount = 0;
+
+    // Fills the three lists from size bytes. A few bytes behind them are read too, and must be readable.
+    void Scan(const char* text, size_t size);
+};
+
+}  // namespace quirn

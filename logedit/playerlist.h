@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "logedit/listselection.h"
+#include "logedit/parsedlog.h"
+
+namespace quirn {
+
+// What lstInclude and lstExclude hold: player names in alphabetical order without regard to case, each with its player
+// number as item data, and which of them are selected.
+class PlayerList {
+public:
+    // All players of a log, none selected. Empty for a log with one player only: kept on purpose.
+    void Fill(std::shared_ptr<const ParsedLog> log);
+    void Clear() { *this = PlayerList(); }
+
+    size_t Count() const { return items_.size(); }
+    std::string_view Name(size_t item) const { return items_[item].name; }
+    uint32_t Number(size_t item) const { return items_[item].number; }
+
+    ListSelection& Selection() { return selection_; }
+    const ListSelection& Selection() const { return selection_; }
+
+    // The selected names, CR LF between them.
+    std::string SelectedText() const;
+
+private:
+    friend void MovePlayers(PlayerList& from, PlayerList& to);
+
+    struct Item {
+        uint64_t start;  // the first eight bytes in upper case; decides most comparisons
+        std::string_view name;
+        uint32_t number;
+
+        bool operator<(const Item& other) const;
+    };
+
+    std::shared_ptr<const ParsedLog> log_;  // which the names are slices of
+    std::vector<Item> items_;
+    ListSelection selection_;
+};
+
+// Moves the selected items of one list into the other, where they are not selected.
+void MovePlayers(PlayerList& from, PlayerList& to);
+
+// "Include : (3)", "Exclude : (0)": the captions of the two lists' labels.
+std::string IncludeCaption(const PlayerList& include);
+std::string ExcludeCaption(const PlayerList& exclude);
+
+}  // namespace quirn

@@ -1,0 +1,260 @@
+#include "logedit/logparser.h"
+
+#include <algorithm>
+#include <random>
+
+#include "benchmarks/loggenerator.h"
+#include "logedit/logedit.h"
+#include "platform/text.h"
+#include "tests/logedit/reference.h"
+#include "tests/testing/world.h"
+
+namespace quirn {
+namespace {
+
+using namespace test;
+
+// Parses a text that comes in pieces of so many bytes.
+std::shared_ptr<const ParsedLog> Parse(std::string_view text, size_t piece = SIZE_MAX) {
+    const auto log = std::make_shared<ParsedLog>();
+    LogParser parser(*log, text.size());
+    for (size_t at = 0; at < text.size();) {
+        at += text.copy(parser.Buffer() + at, piece, at);
+        EXPECT_TRUE(parser.Advance(at));
+    }
+    EXPECT_TRUE(parser.Finish(text.size()));
+    return log;
+}
+
+std::string PlayerName(const ParsedLog& log, size_t line) {
+    const uint32_t player = PlayerOf(log.Info(line));
+    return player == 0 ? "-" : std::string(log.Players().at(player - 1));
+}
+
+TEST(LogParser, GivesLinesTheirTypeAndSpeaker) {
+    const struct {
+        const char* line;
+        const char* stored;
+        uint32_t type;
+        const char* player;
+    } rows[] = {
+        {"  Bob> hi", "  Bob> hi", kPublic, "Bob"},
+        {"P Bob> hi", "P Bob> hi", kPrivate, "Bob"},
+        {"p Bob> hi", "p Bob> hi", kUnknown, "Bob"},
+        {"T Bob> hi", "T Bob> hi", kTeam, "Bob"},
+        {"E Bob> hi", "E Bob> hi", kFreq, "Bob"},
+        {"{12} T Bob> hi", "T Bob> hi", kTeam, "Bob"},
+        {"{12}T Bob> hi", "12}T Bob> hi", kUnknown, "}T Bob"},  // only the brace goes
+        {"{a b} {1} T Bob> hi", "{1} T Bob> hi", kUnknown, "} T Bob"},
+        {"{1} [~ x", "[~ x", kSystem, "-"},
+        {"{1} ", "", kSystem, "-"},
+        {"{1}  ", " ", kSystem, "-"},
+        {"C 2:Bob> hi", "C 2:Bob> hi", kChannel2, "Bob"},
+        {"C  2:Bob> hi", "C  2:Bob> hi", kChannel2, "Bob"},
+        {"C Bob> 3;hi", "C Bob> 3;hi", kChannel3, "Bob"},
+        {"C Bob> 4;", "C Bob> 4;", kChannel4, "Bob"},
+        {"C Bob> 4", "C Bob> 4", kChannel1, "Bob"},
+        {"C Bob> hi", "C Bob> hi", kChannel1, "Bob"},
+        {"C 9:Bob> hi", "C 9:Bob> hi", kChannel1, "Bob"},
+        {"C 2:Bob> 3;hi", "C 2:Bob> 3;hi", kChannel2, "Bob"},
+        {"C 2:Bob", "C 2:Bob", kSystem, "-"},
+        {"  Ann(25)(100) killed by: Bob", "  Ann(25)(100) killed by: Bob", kKill, "-"},
+        {"  Ann> she was (twice) killed by: Bob", "  Ann> she was (twice) killed by: Bob", kKill, "Ann"},
+        {"  (Ann)> (x) killed by: Bob", "  (Ann)> (x) killed by: Bob", kSquad, "Ann"},
+        {"  Ann) killed by:Bob", "  Ann) killed by:Bob", kSystem, "-"},
+        {") killed by: Bob", ") killed by: Bob", kSystem, "-"},  // its start counts as the prefix
+        {"  (Ann)> hi", "  (Ann)> hi", kSquad, "Ann"},
+        {"  (Ann> hi", "  (Ann> hi", kSquad, "An"},  // the last character goes, whatever it is
+        {"  ( Ann )> hi", "  ( Ann )> hi", kSquad, " Ann "},
+        {"  (2:Ann)> hi", "  (2:Ann)> hi", kSquad, "Ann"},
+        {"P :Ann:> hi", "P :Ann:> hi", kPrivate, "-"},
+        {"P ::Ann> hi", "P ::Ann> hi", kPrivate, "Ann"},
+        {"    Ann  > hi", "    Ann  > hi", kPublic, "Ann"},
+        {"Xx", "Xx", kSystem, "-"},
+        {"Xx> hi", "Xx> hi", kUnknown, "Bob"},  // an empty name before the first player: whoever comes first
+        {"XxAnn> hi", "XxAnn> hi", kUnknown, "Ann"},
+        {"X", "X", kSystem, "-"},
+        {"  a>b > c", "  a>b > c", kPublic, "a>b"},
+        {"[Ann> hi", "[Ann> hi", kUnknown, "nn"},
+        {"[ Ann> hi", "[ Ann> hi", kUnknown, "Ann"},
+    };
+    for (const auto& row : rows) {
+        // The line by itself, between others, and over the edges of whatever the scan does in pieces.
+        for (const std::string& before : {std::string(), std::string("  \r\n[~ x\r\n"), std::string(8170, '\n')}) {
+            const std::string text = before + row.line + "\r\n  Bob> x\n";
+            const auto log = Parse(text);
+            ASSERT_EQ(log->LineCount(), 2u) << row.line;
+            EXPECT_EQ(log->Line(0), row.stored);
+            EXPECT_EQ(TypeOf(log->Info(0)), row.type) << row.line;
+            EXPECT_EQ(PlayerName(*log, 0), row.player) << row.line;
+        }
+    }
+}
+
+TEST(LogParser, CreditsEmptyNamesAndOtherSpellings) {
+    const auto log = Parse(
+        "  > first\r\n   > second\r\n  Bob> x\r\n  BOB> x\r\n  > third\r\n  (> x\r\n  \xE9t\xE9> x\r\n"
+        "  \xC9T\xC9> x\r\n  a name that is longer than any name in the game One> x\r\n"
+        "  a name that is longer than any name in the game oNE> x\r\n"
+        "  a name that is longer than any name in the game two> x\r\n");
+    ASSERT_EQ(log->Players().size(), 5u);
+    EXPECT_EQ(log->Players()[0], "Bob");
+    EXPECT_EQ(log->Players()[1], "");  // once there is a player, nobody is a player of its own
+    EXPECT_EQ(log->Players()[2], "\xE9t\xE9");
+    const uint32_t numbers[] = {1, 1, 1, 1, 2, 2, 3, 3, 4, 4, 5};
+    for (size_t i = 0; i < std::size(numbers); ++i) EXPECT_EQ(PlayerOf(log->Info(i)), numbers[i]) << i;
+
+    const auto nobody = Parse("  > alone\r\n");
+    EXPECT_EQ(PlayerOf(nobody->Info(0)), 1u);
+    EXPECT_TRUE(nobody->Players().empty());
+}
+
+TEST(LogParser, FindsLineEndsAndKeepsEveryOtherByte) {
+    const std::string zero("T a\0b> \0\r\r\n", 11);
+    const auto log = Parse(zero + "\n\r\n \r\nlast\r");
+    ASSERT_EQ(log->LineCount(), 2u);
+    EXPECT_EQ(log->Line(0), zero.substr(0, 9));
+    EXPECT_EQ(log->Line(1), "last\r");
+    EXPECT_EQ(log->LongestLine(), 9u);
+
+    const std::string longLine = "  Bob> " + std::string(300000, 'x');
+    const auto longs = Parse("  Ann> y\r\n" + longLine + "\r\n" + longLine, 5000);
+    ASSERT_EQ(longs->LineCount(), 3u);
+    EXPECT_EQ(longs->Line(1), longLine);
+    EXPECT_EQ(longs->Line(2), longLine);
+    EXPECT_EQ(PlayerOf(longs->Info(2)), 2u);
+
+    // Without a kept line there is one empty element all the same.
+    for (const char* text : {"", "\r\n", "   \n[~ Filtered ~]\r\n"}) {
+        const auto empty = Parse(text);
+        EXPECT_EQ(empty->LineCount(), 1u);
+        EXPECT_EQ(empty->Line(0), "");
+        EXPECT_EQ(empty->Info(0), 0);
+    }
+}
+
+// Generated logs with bytes replaced, doubled, taken out and cut off, two hundred thousand lines in all.
+TEST(LogParser, AgreesWithThePlainOne) {
+    std::mt19937 random(20);
+    const auto below = [&](size_t limit) { return static_cast<size_t>(random()) % limit; };
+    constexpr std::string_view kTricky = "\n\r\n  >> :;(){}[~CPTE123\xE9\xFF";
+    size_t lines = 0;
+    for (uint64_t seed = 1; lines < 200000; ++seed) {
+        std::string text = GenerateLog({60000 + below(90000), 1 + below(60), seed});
+        for (size_t i = 0; i < 600 * (seed % 3); ++i) {
+            const size_t at = below(text.size());
+            switch (below(4)) {
+                case 0: text[at] = kTricky[below(kTricky.size())]; break;
+                case 1: text.insert(at, 1, kTricky[below(kTricky.size())]); break;
+                case 2: text.erase(at, 1 + below(3)); break;
+                default: text.insert(at, text.substr(below(text.size()), below(40))); break;
+            }
+        }
+        const reference::Log expected = reference::Parse(text);
+        const auto log = Parse(text, seed % 2 == 0 ? SIZE_MAX : 1 + below(20000));
+        lines += log->LineCount();
+        ASSERT_EQ(log->LineCount(), expected.lines.size()) << seed;
+        for (size_t i = 0; i < log->LineCount(); ++i) {
+            ASSERT_EQ(log->Line(i), expected.lines[i]) << seed << " line " << i;
+            ASSERT_EQ(log->Info(i), expected.info[i]) << seed << " line " << i << ": " << expected.lines[i];
+        }
+        ASSERT_TRUE(std::equal(log->Players().begin(), log->Players().end(), expected.players.begin())) << seed;
+
+        PlayerList include, exclude;
+        include.Fill(log);
+        for (size_t i = 0; i < include.Count(); ++i) include.Selection().Select(i, below(4) < seed % 5);
+        MovePlayers(include, exclude);
+        ASSERT_EQ(include.Count() + exclude.Count(), expected.players.size() < 2 ? 0 : expected.players.size());
+        std::vector<reference::Player> in, out;
+        for (size_t i = 0; i < include.Count(); ++i) in.push_back({"", static_cast<int>(include.Number(i))});
+        for (size_t i = 0; i < exclude.Count(); ++i) out.push_back({"", static_cast<int>(exclude.Number(i))});
+        const uint32_t mask = seed % 4 == 0 ? 0x7FF : random() & 0x7FF;
+        std::vector<uint32_t> shown(log->LineCount());
+        shown.resize(FilterLines(*log, mask, include, exclude, shown.data()));
+        const std::vector<size_t> expectedShown = reference::Filter(expected, static_cast<int>(mask), in, out);
+        ASSERT_TRUE(std::equal(shown.begin(), shown.end(), expectedShown.begin(), expectedShown.end())) << seed;
+    }
+}
+
+class ParseLogFileTest : public WorldTest {
+protected:
+    static std::string In(const std::string& name) { return Scratch() + "\\" + name; }
+
+    // Opens a log with two players and shows it.
+    ParseLogFileTest() {
+        edit.chkFilters.fill(1);
+        test::PutFile(In("two.log"), "  Ann> x\r\nT Bob> y\r\n");
+        EXPECT_TRUE(ParseLogFile(edit, In("two.log"), {}));
+        EXPECT_TRUE(ApplyLogFilter(edit));
+    }
+
+    LogEdit edit;
+};
+
+TEST_F(ParseLogFileTest, ReportsItsSteps) {
+    std::string steps;
+    std::vector<uint64_t> progress;
+    const ParseSteps told{[&](uint64_t size) { steps += "read " + std::to_string(size) + " "; },
+                          [&](uint64_t done) { progress.push_back(done); },
+                          [&](size_t highest) { steps += "players " + std::to_string(highest); }};
+    std::string text = GenerateLog({1000000, 40, 3});
+    test::PutFile(In("big.log"), text);
+    edit.chkFilters = {1, 2, 0, 1};
+    EXPECT_TRUE(ParseLogFile(edit, In("big.log"), told));
+    EXPECT_EQ(steps, "read " + std::to_string(text.size()) + " players 39");
+    EXPECT_EQ(edit.LogFilterMask, static_cast<uint32_t>(kPublic | kFreq));  // a greyed box does not count
+    EXPECT_TRUE(std::is_sorted(progress.begin(), progress.end()));
+    EXPECT_GE(progress.size(), 4u);
+    EXPECT_LE(progress.size(), 10u);
+    EXPECT_EQ(progress.back(), reference::Parse(text).consumed);
+    EXPECT_EQ(edit.include.Count(), 40u);
+    EXPECT_EQ(edit.exclude.Count(), 0u);
+    EXPECT_EQ(edit.view.Count(), 0u);
+
+    test::PutFile(In("one.log"), "  Ann> x\r\n  ann> y\r\n");
+    steps.clear();
+    EXPECT_TRUE(ParseLogFile(edit, In("one.log"), told));
+    EXPECT_EQ(steps, "read 20 players 1");
+    EXPECT_EQ(edit.include.Count(), 0u);  // the log of one player: kept on purpose
+    EXPECT_EQ(PlayerOf(edit.LogLines->Info(1)), 1u);
+}
+
+TEST_F(ParseLogFileTest, AMissingFileLeavesTheListsButNotTheLines) {
+    ExpectMessage("ERROR - Could not find log file named '" + In("gone.log") + "'", kCritical);
+    EXPECT_FALSE(ParseLogFile(edit, In("gone.log"), {}));
+    EXPECT_EQ(edit.view.Count(), 2u);
+    EXPECT_EQ(edit.view.Text(1), "T Bob> y");  // still shown, still there
+    EXPECT_EQ(edit.include.Name(0), "Ann");
+    EXPECT_TRUE(ApplyLogFilter(edit));
+    EXPECT_EQ(edit.view.Count(), 1u);
+    EXPECT_EQ(edit.view.Text(0), "");
+
+    const HeldFile held(In("two.log"));
+    ExpectMessage("Error # 70 was generated by QUIRN\rPermission denied", kPlain, Answer::Ok, "Error");
+    EXPECT_FALSE(ParseLogFile(edit, In("two.log"), {}));
+}
+
+TEST_F(ParseLogFileTest, WhatIsTooBigIsRefused) {
+    PutHugeFile(In("huge.log"), uint64_t{1} << 31);
+    ExpectMessage("Error # 7 was generated by QUIRN\rOut of memory", kPlain, Answer::Ok, "Error");
+    EXPECT_FALSE(ParseLogFile(edit, In("huge.log"), {}));
+    EXPECT_TRUE(ApplyLogFilter(edit));
+    EXPECT_EQ(edit.view.Count(), 2u);  // the log before is whole
+
+    std::string many;
+    for (int i = 1; i <= 32767; ++i) many += "  player " + std::to_string(i) + "> x\r\n";
+    test::PutFile(In("many.log"), many);
+    EXPECT_TRUE(ParseLogFile(edit, In("many.log"), {}));
+    EXPECT_EQ(edit.include.Count(), 32767u);
+    EXPECT_EQ(PlayerOf(edit.LogLines->Info(32766)), 32767u);
+    EXPECT_TRUE(ApplyLogFilter(edit));
+    test::PutFile(In("many.log"), many + "  one more> x\r\n");
+    ExpectMessage("Error # 6 was generated by QUIRN\rOverflow", kPlain, Answer::Ok, "Error");
+    EXPECT_FALSE(ParseLogFile(edit, In("many.log"), {}));
+    EXPECT_EQ(edit.view.Count(), 0u);
+    EXPECT_EQ(edit.include.Count(), 0u);
+    EXPECT_EQ(edit.LogLines->LineCount(), 1u);
+}
+
+}  // namespace
+}  // namespace quirn

@@ -1,0 +1,281 @@
+#include "logedit/logview.h"
+
+#include <random>
+
+#include "benchmarks/loggenerator.h"
+#include "logedit/logfind.h"
+#include "logedit/logparser.h"
+#include "logedit/logsave.h"
+#include "platform/text.h"
+#include "tests/testing/world.h"
+
+namespace quirn {
+namespace {
+
+using namespace test;
+
+class LogViewTest : public WorldTest {
+protected:
+    static std::string In(const std::string& name) { return Scratch() + "\\" + name; }
+
+    void Open(std::string_view text) {
+        test::PutFile(In("a.log"), text);
+        log = ReadLog(In("a.log"), {}, {}).Value();
+        include.Fill(log);
+        exclude.Clear();
+        Apply(0x7FF, false);
+    }
+
+    void Apply(uint32_t mask, bool lineNumbers) {
+        EXPECT_FALSE(view.ApplyLogFilter(log, mask, include, exclude, lineNumbers));
+    }
+
+    std::string Shown() const {
+        std::string text;
+        for (size_t i = 0; i < view.Count(); ++i) text += view.Text(i) + "|";
+        return text;
+    }
+
+    // Moves players from one list to the other, by name.
+    static void Move(PlayerList& from, PlayerList& to, std::initializer_list<std::string_view> names) {
+        for (size_t i = 0; i < from.Count(); ++i)
+            for (const std::string_view name : names)
+                if (from.Name(i) == name) from.Selection().Select(i, true);
+        MovePlayers(from, to);
+    }
+
+    static std::string Names(const PlayerList& list) {
+        std::string names;
+        for (size_t i = 0; i < list.Count(); ++i) names += std::string(list.Name(i)) + ",";
+        return names;
+    }
+
+    std::shared_ptr<const ParsedLog> log;
+    PlayerList include, exclude;
+    LogView view;
+};
+
+constexpr char kFour[] =
+    "  bob> one\r\nT Ann> two\r\n  Player entered arena\r\nXx Cid> three\r\nP :Ann:> four\r\n  Cid> five\r\n";
+
+TEST_F(LogViewTest, FiltersByTypeAndPlayer) {
+    Open(kFour);
+    EXPECT_EQ(Names(include), "Ann,bob,Cid,");
+    EXPECT_EQ(Shown(), "  bob> one|T Ann> two|  Player entered arena|P :Ann:> four|  Cid> five|");
+    EXPECT_EQ(view.CountText(), "Log Lines = 5");
+    Apply(kSystem | kTeam, false);
+    EXPECT_EQ(Shown(), "T Ann> two|  Player entered arena|");
+
+    Move(include, exclude, {"Ann"});  // two against one: found in the excluded ones
+    EXPECT_EQ(IncludeCaption(include) + " " + ExcludeCaption(exclude), "Include : (2) Exclude : (1)");
+    Apply(0x7FF, false);
+    EXPECT_EQ(Shown(), "  bob> one|  Player entered arena|P :Ann:> four|  Cid> five|");
+    Move(include, exclude, {"Cid"});  // one against two: found in the included ones
+    Apply(0x7FF, false);
+    EXPECT_EQ(Shown(), "  bob> one|  Player entered arena|P :Ann:> four|");
+    Move(include, exclude, {"bob"});
+    EXPECT_EQ(Names(include) + "/" + Names(exclude), "/Ann,bob,Cid,");
+    Apply(0x7FF, false);
+    EXPECT_EQ(Shown(), "  Player entered arena|P :Ann:> four|");
+
+    exclude.Selection().Select(1, true);
+    EXPECT_EQ(exclude.SelectedText(), "bob");
+    MovePlayers(exclude, include);
+    include.Selection().Select(0, true);  // stays selected where it is when others come
+    Move(exclude, include, {"Ann", "Cid"});
+    EXPECT_EQ(include.SelectedText(), "bob");
+    Apply(0x7FF, false);
+    EXPECT_EQ(view.Count(), 5u);
+    EXPECT_EQ(PlayerOf(view.Info(4)), 3u);
+    EXPECT_EQ(BuildFilterMask({1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1}), 0x7FFu);
+    EXPECT_EQ(BuildFilterMask({0, 0, 0, 0, 1, 0, 0, 0, 1, 0, 2}), static_cast<uint32_t>(kChannel1 | kSquad));
+}
+
+TEST_F(LogViewTest, NumbersLinesAndDeletesThem) {
+    std::string text;
+    for (int i = 1; i <= 999; ++i) text += (i % 2 == 0 ? "  bob> x\r\n" : "T Ann> y\r\n");
+    Open(text);
+    Apply(kTeam, true);
+    EXPECT_EQ(view.Text(0), "{001} T Ann> y");
+    EXPECT_EQ(view.Text(499), "{999} T Ann> y");
+    EXPECT_EQ(view.LongestText(), 14u);
+    Open(text + "  bob> x");
+    Apply(kPublic, true);
+    EXPECT_EQ(view.Text(499), "{1000}   bob> x");
+
+    ListSelection selection;
+    selection.Reset(view.Count());
+    selection.SelectRange(497, 1, true);
+    selection.Select(499, true);
+    EXPECT_EQ(selection.SelectedCount(), 498u);
+    view.Delete(selection);
+    EXPECT_EQ(Shown(), "{0002}   bob> x|{0998}   bob> x|");
+    selection.Reset(2);
+    selection.SelectAll();
+    EXPECT_EQ(view.SelectedText(selection), "{0002}   bob> x\r\n{0998}   bob> x");
+    Apply(kPublic, false);  // and they are back
+    EXPECT_EQ(view.Count(), 500u);
+}
+
+TEST(ListSelection, FollowsTheClicks) {
+    ListSelection selection;
+    const auto selected = [&] {
+        std::string items;
+        selection.ForEach([&](size_t item) { items += std::to_string(item) + " "; });
+        return items;
+    };
+    selection.Reset(200);
+    selection.Click(3, false, false);
+    selection.Click(5, false, true);
+    EXPECT_EQ(selected(), "3 5 ");
+    selection.Click(7, true, false);
+    EXPECT_EQ(selected(), "5 6 7 ");
+    selection.Click(4, true, false);
+    EXPECT_EQ(selected(), "4 5 ");
+    selection.Click(130, false, true);
+    selection.Click(132, true, true);
+    EXPECT_EQ(selected(), "4 5 130 131 132 ");
+    selection.Click(131, false, true);  // turned off: now the range is given that
+    selection.Click(5, true, true);
+    EXPECT_EQ(selected(), "4 132 ");
+    selection.Invert();
+    EXPECT_EQ(selection.SelectedCount(), 198u);
+    EXPECT_EQ(selection.SelectedBefore(133), 131u);
+    selection.SelectAll();
+    EXPECT_EQ(selection.SelectedCount(), 200u);
+    selection.SelectRange(0, 199, false);
+    EXPECT_EQ(selected(), "");
+    selection.Reset(0);
+    selection.SelectAll();
+    selection.Invert();
+    EXPECT_EQ(selection.SelectedCount(), 0u);
+}
+
+// A list on screen: ten items fit, and the last screenful cannot be scrolled further.
+struct Screen {
+    size_t count;
+    size_t top = 0;
+    std::optional<size_t> current{};
+    FindList list{[this] { return top; }, [this] { return current; },
+                  [this](size_t item) {
+                      current = item;
+                      top = std::min(item, count < 10 ? 0 : count - 10);
+                  }};
+};
+
+TEST_F(LogViewTest, FindsOnFromTheTop) {
+    std::string text;
+    for (int i = 0; i < 40; ++i) text += "  Ann> line " + std::to_string(i) + (i % 8 == 0 ? " B\xE9la\r\n" : "\r\n");
+    Open(text);
+    Screen screen{view.Count()};
+    EXPECT_FALSE(FindInLog(view, "b\xC9LA", screen.list));  // on the top line: found, but the list did not move
+    EXPECT_EQ(screen.current, 0u);
+    for (const size_t expected : {8u, 16u, 24u}) {
+        EXPECT_TRUE(FindInLog(view, "b\xC9LA", screen.list));
+        EXPECT_EQ(screen.top, expected);
+    }
+    EXPECT_TRUE(FindInLog(view, "b\xC9LA", screen.list));  // the last screenful, but it was not there yet
+    EXPECT_EQ(screen.top, 30u);
+    EXPECT_EQ(screen.current, 32u);
+    EXPECT_FALSE(FindInLog(view, "b\xC9LA", screen.list));  // again from the top line, which is not the current one
+    EXPECT_EQ(screen.top, 30u);
+    EXPECT_FALSE(FindInLog(view, "no such", screen.list));
+    EXPECT_EQ(CannotFindText("no such"), "Cannot find 'no such'");
+    Screen fresh{view.Count()};
+    EXPECT_FALSE(FindInLog(view, "", fresh.list));  // the first line searched, which is the top one
+    EXPECT_TRUE(FindInLog(view, "", fresh.list));
+    EXPECT_EQ(fresh.top, 1u);
+    view.Clear();
+    EXPECT_EQ(FindItem(view, "", 0), std::nullopt);
+}
+
+// Against a search through each item's text.
+TEST_F(LogViewTest, FindsWhatIsThere) {
+    Open(GenerateLog({120000, 30, 5}));
+    std::mt19937 random(9);
+    Move(include, exclude, {include.Name(3), include.Name(7), include.Name(8)});
+    for (int round = 0; round < 400; ++round) {
+        if (round % 40 == 0) Apply(round % 80 == 0 ? 0x7FF : kTeam | kKill, round % 3 == 0);
+        const std::string around = view.Text(random() % view.Count());
+        std::string text = around.substr(random() % std::min<size_t>(around.size(), 30), 1 + random() % 12);
+        if (random() % 4 == 0) text = FoldCase(text);
+        if (random() % 8 == 0) text.back() = 'q';
+        const size_t start = random() % view.Count();
+        std::optional<size_t> expected;
+        for (size_t i = start; i < view.Count() && !expected; ++i)
+            if (FoldCase(view.Text(i)).find(FoldCase(text)) != std::string::npos) expected = i;
+        ASSERT_EQ(FindItem(view, text, start), expected) << '"' << text << "\" from " << start;
+    }
+    // Nothing is found across the end of a line, or in lines that are not kept.
+    Open("  bob> abc\r\n[~ xyz\r\ndef> one\r\n");
+    for (const char* text : {"c\r", "\n", "xyz", "abcdef"}) EXPECT_EQ(FindItem(view, text, 0), std::nullopt) << text;
+}
+
+TEST_F(LogViewTest, SavesWhatIsShownAndReadsItAgain) {
+    Open(std::string(kFour) + "\r\n{7} T Ann> six\n  bob> seven\r");
+    const std::string header = "[~ Filtered by QUIRN v1.61 ~]\r\n";
+    EXPECT_FALSE(SaveFilteredLog(view, In("save.log")));
+    EXPECT_EQ(FileBytes(In("save.log")),
+              header +
+                  "  bob> one\r\nT Ann> two\r\n  Player entered arena\r\nP :Ann:> four\r\n  Cid> five\r\n"
+                  "T Ann> six\r\n  bob> seven\r\r\n");
+    Apply(kTeam, true);
+    EXPECT_FALSE(SaveFilteredLog(view, In("save.log")));
+    EXPECT_EQ(FileBytes(In("save.log")), header + "{2} T Ann> two\r\n{7} T Ann> six\r\n");
+    Apply(0, false);
+    EXPECT_FALSE(SaveFilteredLog(view, In("save.log")));
+    EXPECT_EQ(FileBytes(In("save.log")), header);
+
+    // A big one, some of it deleted, over the file that it came from; with and without tags.
+    for (const bool lineNumbers : {false, true}) {
+        Open(GenerateLog({3000000, 200, 8}));
+        Apply(0x7FF, lineNumbers);
+        ListSelection selection;
+        selection.Reset(view.Count());
+        for (size_t i = 0; i < view.Count(); i += 7)
+            selection.SelectRange(i, std::min(i + i % 3, view.Count() - 1), i % 2);
+        view.Delete(selection);
+        std::vector<std::string> lines;
+        std::string bytes = header;
+        for (size_t i = 0; i < view.Count(); ++i) {
+            // What stood behind a tag alone does not come back without one.
+            if (lineNumbers || !(Trim(view.Line(i)).empty() || view.Line(i).starts_with("[~")))
+                lines.emplace_back(view.Line(i));
+            bytes += view.Text(i) + "\r\n";
+        }
+        EXPECT_FALSE(SaveFilteredLog(view, In("a.log")));
+        const auto same = [&] { return FileBytes(In("a.log")) == bytes; };
+        EXPECT_TRUE(same());
+        Open(*FileBytes(In("a.log")));
+        ASSERT_EQ(view.Count(), lines.size());
+        for (size_t i = 0; i < lines.size(); ++i) ASSERT_EQ(view.Text(i), lines[i]);
+    }
+}
+
+TEST_F(LogViewTest, AFailedSaveLeavesTheOldFile) {
+    Open(kFour);
+    test::PutFile(In("old.log"), "old");
+    SetReadOnly(In("old.log"));
+    EXPECT_EQ(SaveFilteredLog(view, In("old.log"))->number, 75);
+    EXPECT_EQ(SaveFilteredLog(view, In("nowhere\\old.log"))->number, 76);
+    EXPECT_EQ(FileBytes(In("old.log")), "old");
+    EXPECT_EQ(FileBytes(In("old.log") + ".quirn-unfinished"), std::nullopt);
+}
+
+TEST(LogMRU, KeepsTheLastFive) {
+    LogMRUList list{"a", "b", "c", "d", "e"};
+    AddToLogMRU(list, "C");
+    EXPECT_EQ(list, (LogMRUList{"C", "a", "b", "d", "e"}));
+    AddToLogMRU(list, "f");
+    EXPECT_EQ(list, (LogMRUList{"f", "C", "a", "b", "d"}));
+    AddToLogMRU(list, "F");
+    EXPECT_EQ(list[0], "f");  // nothing moves, so the spelling stays
+    list = {"x", "y", "z", "y", " "};
+    AddToLogMRU(list, "y");  // the last one that is equal counts
+    EXPECT_EQ(list, (LogMRUList{"y", "x", "y", "z", " "}));
+    EXPECT_EQ(LogMRUCaption(list, 1), "&2 x");
+    EXPECT_EQ(LogMRUCaption(list, 4), std::nullopt);
+}
+
+}  // namespace
+}  // namespace quirn
