@@ -42,8 +42,7 @@ private:
 
 constexpr int kTextMargin = 2;  // pixels
 
-// Lines of one font are about as long as they have characters. With a face of many widths a line of wide ones may be
-// longer, but not twice.
+// About as much as the longest text needs; when a line that is drawn turns out to be wider, the list learns it then.
 int TextExtent(const VirtualList& list) {
     const HDC device = GetDC(WindowOf(list));
     const HGDIOBJ before = SelectObject(device, FontFor(list.FontUsed(), DpiOf(list)));
@@ -51,9 +50,7 @@ int TextExtent(const VirtualList& list) {
     GetTextMetricsA(device, &metrics);
     SelectObject(device, before);
     ReleaseDC(WindowOf(list), device);
-    const bool oneWidth = (metrics.tmPitchAndFamily & TMPF_FIXED_PITCH) == 0;  // the flag means the opposite
-    const int width =
-        oneWidth ? metrics.tmAveCharWidth : std::min(metrics.tmMaxCharWidth, 2 * metrics.tmAveCharWidth);
+    const int width = std::max<int>(metrics.tmAveCharWidth, 1);
     constexpr int kWidest = 1 << 26;  // pixels; coordinates end at twice that
     const auto characters = static_cast<int>(std::min<size_t>(list.LongestText(), kWidest / width));
     return characters * width + 2 * kTextMargin;
@@ -100,8 +97,9 @@ void ScrollToThumb(const VirtualList& list) {
         Send(list, LB_SETTOPINDEX, static_cast<WPARAM>(info.nTrackPos));
 }
 
-// Piece by piece, since no drawing function takes a line of any length; only pieces in sight are drawn.
-void DrawLine(HDC device, int x, int y, const RECT& area, std::string_view text) {
+// Piece by piece, since no drawing function takes a line of any length; only pieces in sight are drawn. Returns where
+// the last one measured ends.
+int DrawLine(HDC device, int x, int y, const RECT& area, std::string_view text) {
     constexpr size_t kPiece = 1024;
     RECT clip{};
     GetClipBox(device, &clip);
@@ -110,11 +108,12 @@ void DrawLine(HDC device, int x, int y, const RECT& area, std::string_view text)
         text.remove_prefix(piece.size());
         SIZE size{};
         const auto length = static_cast<int>(piece.size());
-        if (!text.empty()) GetTextExtentPoint32A(device, piece.data(), length, &size);
-        if (text.empty() || x + size.cx > clip.left)
+        GetTextExtentPoint32A(device, piece.data(), length, &size);
+        if (x + size.cx > clip.left)
             ExtTextOutA(device, x, y, ETO_CLIPPED, &area, piece.data(), static_cast<UINT>(length), nullptr);
         x += size.cx;
     }
+    return x;
 }
 
 }  // namespace
@@ -167,8 +166,14 @@ void DrawVirtualItem(const VirtualList& list, const DRAWITEMSTRUCT& item) {
     SetBkColor(item.hDC, selected ? GetSysColor(COLOR_HIGHLIGHT) : back);
     ExtTextOutA(item.hDC, 0, 0, ETO_OPAQUE, &item.rcItem, nullptr, 0, nullptr);
     SetBkMode(item.hDC, TRANSPARENT);
-    if (item.itemID < list.Count())
-        DrawLine(item.hDC, item.rcItem.left + kTextMargin, item.rcItem.top, item.rcItem, list.itemText(item.itemID));
+    if (item.itemID < list.Count()) {
+        const int end = DrawLine(item.hDC, item.rcItem.left + kTextMargin, item.rcItem.top, item.rcItem,
+                                 list.itemText(item.itemID));
+        // Later, because it may paint the list anew.
+        const int extent = end + kTextMargin - item.rcItem.left;
+        if (extent > Send(list, LB_GETHORIZONTALEXTENT))
+            PostMessageA(WindowOf(list), LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(extent), 0);
+    }
     if ((item.itemState & ODS_FOCUS) != 0) DrawFocusRect(item.hDC, &item.rcItem);
 }
 

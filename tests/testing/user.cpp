@@ -5,6 +5,7 @@
 // the end of this file. An answer with "error" means that the command could not be done.
 #include <windows.h>
 
+#include <commctrl.h>
 #include <tlhelp32.h>
 
 #include <array>
@@ -183,8 +184,15 @@ std::string Items(const Words& words) {
     std::vector<std::string> rows, selected;
     for (LRESULT i = 0; i < count; ++i) {
         std::vector<char> text(1 << 12);
-        SendMessageA(list, combo ? CB_GETLBTEXT : LB_GETTEXT, static_cast<WPARAM>(i),
-                     reinterpret_cast<LPARAM>(text.data()));
+        if (combo) {
+            SendMessageA(list, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text.data()));
+        } else {
+            // Wine answers this one in Unicode, whoever asks.
+            std::vector<wchar_t> wide(1 << 12);
+            SendMessageW(list, LB_GETTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(wide.data()));
+            WideCharToMultiByte(CP_ACP, 0, wide.data(), -1, text.data(), static_cast<int>(text.size()), nullptr,
+                                nullptr);
+        }
         rows.push_back(Quoted(text.data()));
         const bool isSelected = combo ? SendMessageA(list, CB_GETCURSEL, 0, 0) == i
                                       : SendMessageA(list, LB_GETSEL, static_cast<WPARAM>(i), 0) > 0;
@@ -375,6 +383,18 @@ std::string Send(const Words& words) {
     return Done(Member("result", static_cast<long long>(result)));
 }
 
+// panel STATUSBAR NUMBER: the text of a panel, from 0. It comes by way of the memory of the window's process.
+std::string Panel(const Words& words) {
+    const HANDLE process = OpenProcess(PROCESS_ALL_ACCESS, FALSE, ProcessOf(Window(words)));
+    std::array<char, 256> text{};
+    void* there = VirtualAllocEx(process, nullptr, text.size(), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+    SendMessageA(Window(words), SB_GETTEXTA, static_cast<WPARAM>(Number(words, 2)), reinterpret_cast<LPARAM>(there));
+    const bool read = there && ReadProcessMemory(process, there, text.data(), text.size() - 1, nullptr);
+    VirtualFreeEx(process, there, 0, MEM_RELEASE);
+    CloseHandle(process);
+    return read ? Done(Member("text", Quoted(text.data()))) : Error("could not read it");
+}
+
 // drop WINDOW FILE: what the shell sends when a file is dropped on the window. The list of files must lie in the
 // memory of the window's process.
 std::string Drop(const Words& words) {
@@ -502,6 +522,7 @@ int main() {
         {"items", Items},          // WINDOW
         {"focus", Focus},          // WINDOW: of its process
         {"drop", Drop},            // WINDOW FILE
+        {"panel", Panel},          // STATUSBAR NUMBER
         {"place", Place},          // WINDOW LEFT TOP
         {"clipboard", Clipboard},  // TEXT
         {"foreground", Foreground},
