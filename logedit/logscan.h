@@ -17,7 +17,8 @@ inline constexpr size_t kWindowBytes = 8192;
 inline constexpr std::string_view kKilledBy = ") killed by: ";
 inline constexpr uint16_t kNoPlace = 0xFFFF;
 
-struct ScanWindow {
+// Aligned like the keys of the players, and for the same reason.
+struct alignas(32) ScanWindow {
     // Offsets in the window, ascending, each list ended by kNoPlace.
     struct Places {
         uint16_t at[kWindowBytes + 8];

@@ -68,7 +68,7 @@ public:
 
 private:
     std::string path_;  // of the target; empty while nothing is open
-    void* handle_ = nullptr;
+    [[maybe_unused]] void* handle_ = nullptr;
 };
 
 // True when the disk that holds the path has no room for so many more bytes.
