@@ -156,7 +156,7 @@ bool LogParser::ParseWindow(size_t end) {
         pending.info = Keep(line, static_cast<size_t>(lineEnd - line), type, directlyNext);
         pending.name = name;
         pending.length = static_cast<uint32_t>(nameEnd - name);
-        pending.key = MakePlayerKey(name, pending.length);
+        MakePlayerKey(name, pending.length, pending.key);
         table_.FetchBucket(pending.key);
         window.pendingCount += named;
     }
@@ -178,8 +178,11 @@ void LogParser::ParseUnusual(std::string_view whole, size_t directlyNext) {
     if (!Decode(whole, line)) return;
     int32_t* const info = Keep(line.text.data(), line.text.size(), line.type, directlyNext);
     if (!line.named) return;
-    window_->pending[window_->pendingCount++] = {MakePlayerKey(line.name.data(), line.name.size()), line.name.data(),
-                                                 static_cast<uint32_t>(line.name.size()), info};
+    ScanWindow::Speaker& pending = window_->pending[window_->pendingCount++];
+    pending.info = info;
+    pending.name = line.name.data();
+    pending.length = static_cast<uint32_t>(line.name.size());
+    MakePlayerKey(pending.name, pending.length, pending.key);
 }
 
 // Any line, step by step. False when nothing is kept of it.

@@ -51,7 +51,7 @@ uint32_t Hash(__m128i low, __m128i high) {
 
 }  // namespace
 
-PlayerKey MakePlayerKey(const char* name, size_t length) {
+void MakePlayerKey(const char* name, size_t length, PlayerKey& key) {
     const size_t inKey = length < kKeyBytes ? length : kKeyBytes;
     const char* masks = kMaskSource.bytes + kKeyBytes - inKey;
     const __m128i filler = _mm_set1_epi8(kFiller);
@@ -66,12 +66,15 @@ PlayerKey MakePlayerKey(const char* name, size_t length) {
         low = FoldLetters(low);
         high = FoldLetters(high);
     }
-    PlayerKey key{Select(lowMask, low, filler), Select(highMask, high, filler), 0};
-    key.hash = Hash(key.low, key.high);
+    low = Select(lowMask, low, filler);
+    high = Select(highMask, high, filler);
+    uint32_t hash = Hash(low, high);
     // Bytes that do not fit into the key count in the hash, or a log of long names would take for ever.
     for (size_t i = kKeyBytes; i < length; ++i)
-        key.hash = (key.hash ^ static_cast<unsigned char>(FoldCase(name[i]))) * 0x01000193u;
-    return key;
+        hash = (hash ^ static_cast<unsigned char>(FoldCase(name[i]))) * 0x01000193u;
+    key.low = low;
+    key.high = high;
+    key.hash = hash;
 }
 
 PlayerTable::PlayerTable(std::vector<std::string_view>& names)

@@ -20,8 +20,8 @@ struct PlayerKey {
 
 inline constexpr size_t kKeyBytes = 32;
 
-// There must be kKeyBytes readable bytes from the name's start on.
-PlayerKey MakePlayerKey(const char* name, size_t length);
+// Fills a key in its place. There must be kKeyBytes readable bytes from the name's start on.
+void MakePlayerKey(const char* name, size_t length, PlayerKey& key);
 
 class PlayerTable {
 public:

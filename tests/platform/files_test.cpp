@@ -111,6 +111,43 @@ TEST_F(FilesTest, ReplacementInSteps) {
     EXPECT_EQ(Bytes("fresh"), "");
 }
 
+TEST_F(FilesTest, ReadsAndReplacesInPieces) {
+    PutFile(In("file"), "old");
+    {
+        FileReplacer file;
+        EXPECT_FALSE(file.Open(In("file")));
+        EXPECT_FALSE(file.Write("half"));
+        EXPECT_TRUE(Unfinished("file"));
+    }
+    EXPECT_EQ(Bytes("file"), "old");
+    EXPECT_FALSE(Unfinished("file"));
+    FileReplacer file;
+    EXPECT_FALSE(file.Open(In("file")));
+    EXPECT_FALSE(file.Write("first "));
+    EXPECT_FALSE(file.Write(std::string("\0 second", 8)));
+    EXPECT_FALSE(file.Finish());
+    EXPECT_EQ(Bytes("file"), std::string("first \0 second", 14));
+    EXPECT_FALSE(Unfinished("file"));
+    {
+        const HeldFile held(In("file"));
+        FileReplacer refused;
+        EXPECT_EQ(NumberOf(refused.Open(In("file"))), 70);
+        FileReader reader;
+        EXPECT_EQ(NumberOf(reader.Open(In("file"))), 70);
+    }
+
+    FileReader reader;
+    EXPECT_FALSE(reader.Open(In("file")));
+    EXPECT_EQ(reader.Size(), 14u);
+    char buffer[10];
+    EXPECT_EQ(reader.Read(buffer, 10).Value(), 10u);
+    EXPECT_EQ(reader.Read(buffer, 10).Value(), 4u);
+    EXPECT_EQ(std::string(buffer, 4), "cond");
+    EXPECT_EQ(reader.Read(buffer, 10).Value(), 0u);
+    FileReader missing;
+    EXPECT_EQ(NumberOf(missing.Open(In("missing"))), 53);
+}
+
 TEST_F(FilesTest, ReadsOrSaysWhyNot) {
     PutFile(In("file"), "x");
     PutFile(In("fixed"), "x");
