@@ -250,7 +250,7 @@ private:
 // How far some work is. Its window is told only when the picture changes, so it may be told of every step.
 class ProgressBar : public Control {
 public:
-    static constexpr int kSteps = 1000;
+    static constexpr int kSteps = 100;
 
     ProgressBar(Parent parent, const Bounds& place);
 
