@@ -6,10 +6,10 @@
 #include <string>
 #include <string_view>
 
-#include "logedit/listselection.h"
 #include "logedit/logfilter.h"
 #include "logedit/parsedlog.h"
 #include "platform/error.h"
+#include "platform/listselection.h"
 
 namespace quirn {
 

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "logedit/listselection.h"
 #include "logedit/parsedlog.h"
+#include "platform/listselection.h"
 
 namespace quirn {
 

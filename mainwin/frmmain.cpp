@@ -147,7 +147,8 @@ bool frmMain::Form_QueryUnload(UnloadMode mode) {
 }
 
 bool frmMain::Form_Unload() {
-    const bool goOn = !program_.dirty || document_.AskSaveChanges();
+    const bool goOn =
+        (!program_.dirty || document_.AskSaveChanges()) && (!logEditor_ || logEditor_->Unload(UnloadMode::FromCode));
     // A minimised window keeps nothing, on purpose, not even the recent files and favourites.
     if (goOn && !IsMinimized()) WriteMainSettings(program_, Place());
     // Also when the player has stayed at the question: the icon is then gone, on purpose.
@@ -197,6 +198,7 @@ void frmMain::MenuCommand(int command) {
         case mnuFile_Close: Hide(); break;
         case mnuFile_Exit: Unload(); break;
         case mnuOptions_Set: mnuOptions_Set_Click(); break;
+        case mnuLog: mnuLog_Click(); break;
         case mnuHelp_Contents: mnuHelp_Contents_Click(); break;
         case mnuHelp_Revision: frmRelNotes().ShowModal(*this); break;
         case mnuHelp_GotoQUIRNWebSite: OpenDocument(*this, kQuirnWebSite); break;
@@ -213,6 +215,14 @@ void frmMain::MenuCommand(int command) {
 void frmMain::mnuFile_Print_Click() { ShowMessage("Function unavailable in this version.", kInformation); }
 
 void frmMain::mnuOptions_Set_Click() { ShowOptions(false); }
+
+// Also while the window is open: its lists then show what a filter would no longer find. Kept on purpose.
+void frmMain::mnuLog_Click() {
+    logEdit_.Forget();
+    if (!logEditor_ || !logEditor_->IsLoaded()) logEditor_ = std::make_unique<frmLogEdit>(program_.gameFolder, logEdit_);
+    logEditor_->Show();
+    logEditor_->BringToFront();
+}
 
 void frmMain::mnuHelp_Contents_Click() {
     if (!ShowHelpContents(*this, program_.helpFile)) OpenDocument(*this, ProgramFolder() + kHelpPage);

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <memory>
+
+#include "logedit/frmlogedit.h"
 #include "mainwin/advancedpage.h"
 #include "mainwin/document.h"
 #include "mainwin/hiddenpage.h"
@@ -32,6 +35,7 @@ private:
     void MenuCommand(int command);
     void mnuFile_Print_Click();
     void mnuOptions_Set_Click();
+    void mnuLog_Click();
     void mnuHelp_Contents_Click();
 
     void Tray_Mouse(unsigned message);
@@ -68,6 +72,9 @@ private:
     Button Command3;
     MacroPicker picker_;
     StatusBar StatusBar1;
+
+    LogEdit logEdit_;
+    std::unique_ptr<frmLogEdit> logEditor_;  // the window, made when it is first asked for
 };
 
 }  // namespace quirn

@@ -32,6 +32,7 @@ bool Control::CanFocus() const {
         case ControlKind::Label:
         case ControlKind::Picture:
         case ControlKind::Frame:
+        case ControlKind::ProgressBar:
         case ControlKind::UpDown:
         case ControlKind::StatusBar: return false;
         default: break;
@@ -73,9 +74,18 @@ void Control::SetFont(const Font& font) {
     Changed(Aspect::Font);
 }
 
-void Control::SetForeColor(Color color) {
+void Control::SetForeColor(std::optional<Color> color) {
     foreColor_ = color;
     Changed(Aspect::Colors);
+}
+
+void Control::SetBackColor(std::optional<Color> color) {
+    backColor_ = color;
+    Changed(Aspect::Colors);
+}
+
+void Control::Repaint() {
+    if (window != nullptr) native::Repaint(*this);
 }
 
 void Control::SetToolTip(const std::string& text) {

@@ -38,6 +38,8 @@ struct Font {
     int points = 0;
     bool bold = false;
     bool italic = false;
+    bool underline = false;
+    bool strikeout = false;
 
     bool operator==(const Font&) const = default;
 };
@@ -58,6 +60,8 @@ enum class ControlKind {
     MaskedBox,
     ComboBox,
     ListBox,
+    VirtualList,
+    ProgressBar,
     Frame,
     TabStrip,
     UpDown,
@@ -110,7 +114,8 @@ public:
     bool Visible() const { return visible_; }
     const Bounds& Place() const { return place_; }  // in its container's inner area
     const Font& FontUsed() const { return font_; }
-    std::optional<Color> ForeColor() const { return foreColor_; }
+    std::optional<Color> ForeColor() const { return foreColor_; }  // nothing is the system's
+    std::optional<Color> BackColor() const { return backColor_; }
     const std::string& ToolTip() const { return toolTip_; }
     bool HasFocus() const;  // the keyboard goes to it, or will when its form is in front again
     bool CanFocus() const;  // of a kind that takes the keyboard, enabled, visible, and on a page that is in front
@@ -120,8 +125,10 @@ public:
     void SetVisible(bool visible);
     void Move(const Bounds& place);
     void SetFont(const Font& font);
-    void SetForeColor(Color color);
+    void SetForeColor(std::optional<Color> color);
+    void SetBackColor(std::optional<Color> color);
     void SetToolTip(const std::string& text);
+    void Repaint();  // paints it now, without waiting for events
     // Does nothing while it cannot have the focus. Calls onLostFocus of the old one, then onGotFocus. Before its form is
     // shown it says where the focus will be, and calls nobody.
     void SetFocus();
@@ -152,6 +159,7 @@ private:
     bool visible_ = true;
     Font font_;
     std::optional<Color> foreColor_;
+    std::optional<Color> backColor_;
     std::string toolTip_;
 };
 

@@ -47,8 +47,8 @@ void Picture::UserClicks() {
     if (onClick) CallHandler(onClick);
 }
 
-Frame::Frame(Parent parent, const Bounds& place, const std::string& caption)
-    : Control(parent, ControlKind::Frame, place, caption) {}
+Frame::Frame(Parent parent, const Bounds& place, const std::string& caption, FrameStyle style)
+    : Control(parent, ControlKind::Frame, place, caption), style_(style) {}
 
 Frame::operator Parent() const {
     return {Holder(), Place().left, Place().top};
@@ -301,6 +301,31 @@ void UpDown::UserSpins(int steps) {
     buddy_->UserEdits(std::to_string(static_cast<int>(value)));
 }
 
-StatusBar::StatusBar(Form& form) : Control(form, ControlKind::StatusBar, {}, {}) {}
+ProgressBar::ProgressBar(Parent parent, const Bounds& place) : Control(parent, ControlKind::ProgressBar, place, {}) {}
+
+int ProgressBar::Step() const {
+    const double part = static_cast<double>(std::min(value_, maximum_)) / static_cast<double>(maximum_);
+    return static_cast<int>(part * kSteps);
+}
+
+void ProgressBar::SetRange(uint64_t maximum) {
+    maximum_ = std::max<uint64_t>(maximum, 1);
+    SetValue(0);
+}
+
+void ProgressBar::SetValue(uint64_t value) {
+    const int before = Step();
+    value_ = value;
+    if (Step() != before || value == 0) Changed(Aspect::Value);
+}
+
+StatusBar::StatusBar(Form& form, int secondPanelWidth)
+    : Control(form, ControlKind::StatusBar, {}, {}), secondPanelWidth_(secondPanelWidth) {}
+
+void StatusBar::SetSecondText(const std::string& text) {
+    if (text == secondText_) return;
+    secondText_ = text;
+    Changed(Aspect::Text);
+}
 
 }  // namespace quirn

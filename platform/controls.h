@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <string>
@@ -228,12 +229,40 @@ private:
     std::vector<char> selected_;
 };
 
+enum class FrameStyle {
+    Box,    // a line around what is in it
+    Panel,  // a filled area that lies over other controls while it is visible, the caption at its top
+};
+
 // A box with a caption around other controls.
 class Frame : public Control {
 public:
-    Frame(Parent parent, const Bounds& place, const std::string& caption);
+    Frame(Parent parent, const Bounds& place, const std::string& caption, FrameStyle style = FrameStyle::Box);
+
+    FrameStyle Style() const { return style_; }
 
     operator Parent() const;  // so that controls can be put into it, relative to its corner
+
+private:
+    FrameStyle style_;
+};
+
+// How far some work is. Its window is told only when the picture changes, so it may be told of every step.
+class ProgressBar : public Control {
+public:
+    static constexpr int kSteps = 100;
+
+    ProgressBar(Parent parent, const Bounds& place);
+
+    uint64_t Maximum() const { return maximum_; }
+    uint64_t Value() const { return value_; }
+    int Step() const;  // of kSteps: what the picture shows
+    void SetRange(uint64_t maximum);  // from 0; 0 counts as 1. The value is 0 then
+    void SetValue(uint64_t value);
+
+private:
+    uint64_t maximum_ = 1;
+    uint64_t value_ = 0;
 };
 
 class TabStrip;
@@ -293,10 +322,20 @@ private:
     int maximum_;
 };
 
-// The bar at the lower edge of a form; its text is the first panel's.
+// The bar at the lower edge of a form; its text is the first panel's. It may have a second panel at its right end.
 class StatusBar : public Control {
 public:
-    explicit StatusBar(Form& form);
+    explicit StatusBar(Form& form, int secondPanelWidth = 0);
+
+    static constexpr int kHeight = 330;  // about; the system's font decides
+
+    int SecondPanelWidth() const { return secondPanelWidth_; }
+    const std::string& SecondText() const { return secondText_; }
+    void SetSecondText(const std::string& text);
+
+private:
+    int secondPanelWidth_;
+    std::string secondText_;
 };
 
 }  // namespace quirn

@@ -97,6 +97,17 @@ bool Form::IsBlocked() const {
     return loaded_ && native::IsBlocked(*this);
 }
 
+void Form::ShowOwned(Form& owner) {
+    Load();
+    if (!loaded_) return;
+    native::SetOwner(*this, owner);
+    Show();
+}
+
+void Form::SetAlwaysOnTop() {
+    if (loaded_) native::KeepOnTop(*this);
+}
+
 void Form::Hide() {
     if (loaded_) native::ShowForm(*this, false);
 }
@@ -154,6 +165,9 @@ void Form::UserPressesEscape() {
 }
 
 bool Form::UserPressesShortcut(int key, bool control) {
+    bool swallowed = false;
+    if (onKeyDown) CallHandler([&] { swallowed = onKeyDown(key, control); });
+    if (swallowed) return true;
     const auto found = std::find_if(shortcuts_.begin(), shortcuts_.end(), [&](const Shortcut& shortcut) {
         return shortcut.key == key && shortcut.control == control;
     });

@@ -71,11 +71,13 @@ public:
     void Load();
     void Show();               // loads it first when need be; does not wait
     void ShowModal(Form& owner);  // waits until it is unloaded or hidden; the owner is disabled meanwhile
+    void ShowOwned(Form& owner);  // in front of the owner, which stays usable; must be unloaded before the owner
     void Hide();
 
     // A modal form, a message box or a file dialog of this program waits for its answer before the form.
     bool IsBlocked() const;
     void BringToFront();  // restores it when it is minimised
+    void SetAlwaysOnTop();  // above the windows of other programs too; once it is loaded
     void Repaint();       // paints the window now, without waiting for events
 
     // Asks onQueryUnload and onUnload, and destroys the window unless one of them says no. True when it is gone
@@ -92,6 +94,7 @@ public:
     std::function<void()> onResize;
     std::function<bool(UnloadMode)> onQueryUnload;  // false: the form stays
     std::function<bool()> onUnload;                 // false: the form stays
+    std::function<bool(int key, bool control)> onKeyDown;  // by its virtual code, before shortcuts; true swallows it
     std::function<void(char)> onKeyPress;           // a character typed, before the control that has the focus gets it
     std::function<void(int)> onSystemMenuHighlight; // the player moves over a command of the system menu (0xF000 ...)
     std::function<void(const std::string&)> onDropFile;  // a file dropped on the window; set before Load
@@ -155,6 +158,10 @@ private:
     int interval_ = 0;
     bool enabled_ = false;
 };
+
+// The first screen, and the part of a form's screen that no task bar takes. Twips.
+Bounds ScreenArea();
+Bounds WorkArea(const Form& form);
 
 // Lets pending events run and returns.
 void DoEvents();

@@ -4,6 +4,7 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/tray.h"
+#include "platform/virtuallist.h"
 
 // What the two back ends implement for forms, controls, menus and the tray. Only the portable part of platform/ calls
 // these. A form is loaded when they are called.
@@ -19,6 +20,8 @@ void RunModal(Form& form, Form& owner);  // shows it and returns when it is unlo
 bool IsBlocked(const Form& form);
 void BringToFront(Form& form);  // or the window that blocks it
 void Repaint(Form& form);
+void SetOwner(Form& form, Form& owner);
+void KeepOnTop(Form& form);
 
 struct Size {
     int width;
@@ -31,11 +34,17 @@ void PopUpMenu(Form& form, Menu& menu, int defaultCommand);
 
 // Aspect::Visible also comes for a control that has no window yet. The value of a tab strip is its page in front.
 void ControlChanged(Control& control, Aspect aspect);
+void Repaint(Control& control);
 void DestroyControl(Control& control);
 void FocusControl(Control& control);  // its form has been shown
 void SelectAll(TextBox& box);
 void PutCaretAtEnd(TextBox& box);
 int CaretLeft(const TextBox& box);
+
+// The window knows best what the player has selected and scrolled to; asked for only while there is a window.
+void ReadSelection(const VirtualList& list, ListSelection& selection);
+size_t TopIndex(const VirtualList& list);
+void SetTopIndex(VirtualList& list, size_t item);
 
 void AddTrayIcon(TrayIcon& icon);
 void RemoveTrayIcon(TrayIcon& icon);

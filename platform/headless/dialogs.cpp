@@ -51,6 +51,33 @@ std::optional<std::string> AnswerFile(bool save, const FileDialog& dialog) {
     return answer;
 }
 
+template <class T>
+struct Chooser {
+    std::deque<std::optional<T>> answers;
+    T last{};
+
+    std::optional<T> Ask(const char* what, const T& current) {
+        last = current;
+        if (answers.empty()) {
+            ReportFailure(std::string("unexpected dialog to choose a ") + what);
+            return std::nullopt;
+        }
+        std::optional<T> answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+};
+
+Chooser<Font>& Fonts() {
+    static Chooser<Font> fonts;
+    return fonts;
+}
+
+Chooser<Color>& Colors() {
+    static Chooser<Color> colors;
+    return colors;
+}
+
 std::string Describe(const MessageBox& box) {
     return "\"" + box.text + "\" (style " + std::to_string(box.style) + ", caption \"" + box.caption + "\")";
 }
@@ -80,6 +107,29 @@ size_t TakeMissingFileDialogs() {
     const size_t missing = ExpectedFiles().size();
     ExpectedFiles().clear();
     return missing;
+}
+
+void ExpectFont(std::optional<Font> answer) {
+    Fonts().answers.push_back(std::move(answer));
+}
+
+void ExpectColor(std::optional<Color> answer) {
+    Colors().answers.push_back(answer);
+}
+
+size_t TakeMissingChoosers() {
+    const size_t missing = Fonts().answers.size() + Colors().answers.size();
+    Fonts().answers.clear();
+    Colors().answers.clear();
+    return missing;
+}
+
+const Font& LastFontAsked() {
+    return Fonts().last;
+}
+
+Color LastColorAsked() {
+    return Colors().last;
 }
 
 const FileDialog& LastFileDialog() {
@@ -116,6 +166,14 @@ std::optional<std::string> AskOpenFile(const FileDialog& dialog) {
 
 std::optional<std::string> AskSaveFile(const FileDialog& dialog) {
     return headless::AnswerFile(true, dialog);
+}
+
+std::optional<Font> AskFont(const Font& current) {
+    return headless::Fonts().Ask("font", current);
+}
+
+std::optional<Color> AskColor(Color current) {
+    return headless::Colors().Ask("colour", current);
 }
 
 }  // namespace quirn

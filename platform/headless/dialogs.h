@@ -31,6 +31,13 @@ void ExpectSaveFile(const std::string& title, std::optional<std::string> answer)
 // How many expected file dialogs have not come; forgets them.
 size_t TakeMissingFileDialogs();
 
+// The same for the choosers of fonts and colours.
+void ExpectFont(std::optional<Font> answer);
+void ExpectColor(std::optional<Color> answer);
+size_t TakeMissingChoosers();
+const Font& LastFontAsked();    // what they were preset with
+Color LastColorAsked();
+
 // What the last file dialog was asked for.
 const FileDialog& LastFileDialog();
 

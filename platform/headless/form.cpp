@@ -1,6 +1,7 @@
 #include "platform/form.h"
 
 #include <algorithm>
+#include <map>
 #include <utility>
 #include <vector>
 
@@ -66,6 +67,17 @@ void ForEachControl(Form& form, Visit visit) {
     }
 }
 
+std::map<const VirtualList*, size_t> topIndexes;  // of lists that have been scrolled
+
+// The last items fill the list: it scrolls no further.
+size_t HighestTop(const VirtualList& list) {
+    constexpr int kTwipsPerPoint = 20;
+    const int points = list.FontUsed().points > 0 ? list.FontUsed().points : 8;
+    const int line = points * kTwipsPerPoint * 5 / 4;
+    const auto visible = static_cast<size_t>(std::max(list.Place().height / line, 1));
+    return list.Count() > visible ? list.Count() - visible : 0;
+}
+
 // A window of the same life as on Windows: there from the first moment that the control is seen.
 void MakeWindow(Control& control) {
     TabPage* const page = PageOf(control.Holder());
@@ -94,6 +106,14 @@ long Now() {
 
 }  // namespace headless
 
+Bounds ScreenArea() {
+    return {0, 0, 15360, 11520};
+}
+
+Bounds WorkArea(const Form&) {
+    return {0, 0, 15360, 11100};
+}
+
 void DoEvents() {
     while (RunOne()) {
     }
@@ -121,6 +141,7 @@ void DestroyForm(Form& form) {
     --loadedForms;
     form.window = nullptr;
     ForEachControl(form, [](Control& control) {
+        if (control.Kind() == ControlKind::VirtualList) topIndexes.erase(static_cast<VirtualList*>(&control));
         control.window = nullptr;
         control.Holder().window = nullptr;
     });
@@ -156,6 +177,9 @@ void BringToFront(Form& form) {
     form.WindowMinimized(false);
 }
 void Repaint(Form&) {}
+void Repaint(Control&) {}
+void SetOwner(Form&, Form&) {}
+void KeepOnTop(Form&) {}
 
 Size InnerSize(const Form& form) {
     const int frame = form.Border() == FormBorder::None ? 0 : kFrame;
@@ -171,11 +195,14 @@ void PopUpMenu(Form&, Menu& menu, int defaultCommand) {
 
 void ControlChanged(Control& control, Aspect aspect) {
     if (aspect == Aspect::Visible) MakeWindow(control);
+    if (control.Kind() == ControlKind::VirtualList && aspect == Aspect::Items)
+        topIndexes[static_cast<VirtualList*>(&control)] = 0;
     if (control.Kind() == ControlKind::TabStrip && aspect == Aspect::Value)
         ForEachControl(control.Holder().Owner(), MakeWindow);
 }
 
 void DestroyControl(Control& control) {
+    if (control.Kind() == ControlKind::VirtualList) topIndexes.erase(static_cast<VirtualList*>(&control));
     control.window = nullptr;
 }
 void FocusControl(Control& control) {
@@ -185,6 +212,17 @@ void SelectAll(TextBox&) {}
 void PutCaretAtEnd(TextBox&) {}
 int CaretLeft(const TextBox&) {
     return 0;
+}
+
+void ReadSelection(const VirtualList&, ListSelection&) {}
+
+size_t TopIndex(const VirtualList& list) {
+    const auto found = topIndexes.find(&list);
+    return found == topIndexes.end() ? 0 : std::min(found->second, HighestTop(list));
+}
+
+void SetTopIndex(VirtualList& list, size_t item) {
+    topIndexes[&list] = std::min(item, HighestTop(list));
 }
 
 void AddTrayIcon(TrayIcon& icon) {

@@ -65,6 +65,7 @@ struct World {
     bool programsFailToStart = false;                                  // for programs that exist; others never start
     std::vector<std::pair<std::string, std::string>> startedPrograms;  // program, folder
     std::vector<std::string> playedSounds;
+    std::string clipboard;
 
     std::vector<std::string> openedTargets;  // by their registered programs
     std::vector<std::string> shownHelp;      // help files

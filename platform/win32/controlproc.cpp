@@ -76,6 +76,8 @@ std::optional<LRESULT> KindMessage(Control& control, WNDPROC original, const Mes
     switch (control.Kind()) {
         case ControlKind::OptionButton: return OptionMessage(static_cast<OptionButton&>(control), original, m);
         case ControlKind::ListBox: return ListMessage(static_cast<ListBox&>(control), original, m);
+        case ControlKind::VirtualList:
+            return VirtualListMessage(static_cast<VirtualList&>(control), m.message, m.wParam, m.lParam);
         case ControlKind::TextBox: return TextBoxMessage(static_cast<TextBox&>(control), m.message, m.wParam);
         case ControlKind::MaskedBox: return MaskedBoxMessage(static_cast<MaskedBox&>(control), m.message, m.wParam);
         case ControlKind::Label:
@@ -129,6 +131,7 @@ void Subclass(const Control& control) {
         case ControlKind::MaskedBox: SubclassAs<ControlKind::MaskedBox>(window); break;
         case ControlKind::ComboBox: SubclassAs<ControlKind::ComboBox>(window); break;
         case ControlKind::ListBox: SubclassAs<ControlKind::ListBox>(window); break;
+        case ControlKind::VirtualList: SubclassAs<ControlKind::VirtualList>(window); break;
         case ControlKind::TabStrip: SubclassAs<ControlKind::TabStrip>(window); break;
         case ControlKind::Label: {
             const auto& label = static_cast<const Label&>(control);

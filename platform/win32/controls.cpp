@@ -34,6 +34,14 @@ DWORD LabelStyle(const Label& label) {
     return style;
 }
 
+bool IsPanel(const Control& control) {
+    return control.Kind() == ControlKind::Frame && static_cast<const Frame&>(control).Style() == FrameStyle::Panel;
+}
+
+bool IsBox(const Control& control) {
+    return control.Kind() == ControlKind::Frame && !IsPanel(control);
+}
+
 Look LookOf(const Control& control) {
     const Form& form = control.Holder().Owner();
     switch (control.Kind()) {
@@ -63,7 +71,15 @@ Look LookOf(const Control& control) {
                         static_cast<DWORD>(extended ? LBS_EXTENDEDSEL : 0),
                     WS_EX_CLIENTEDGE};
         }
-        case ControlKind::Frame: return {"BUTTON", BS_GROUPBOX};
+        case ControlKind::VirtualList:
+            return {"LISTBOX",
+                    WS_TABSTOP | WS_VSCROLL | WS_HSCROLL | LBS_NOTIFY | LBS_NODATA | LBS_OWNERDRAWFIXED |
+                        LBS_EXTENDEDSEL | LBS_NOINTEGRALHEIGHT,
+                    WS_EX_CLIENTEDGE};
+        case ControlKind::ProgressBar: return {PROGRESS_CLASSA, 0, 0, ICC_PROGRESS_CLASS};
+        case ControlKind::Frame:
+            if (IsPanel(control)) return {"STATIC", SS_OWNERDRAW};
+            return {"BUTTON", BS_GROUPBOX};
         case ControlKind::TabStrip: return {WC_TABCONTROLA, WS_TABSTOP | WS_CLIPSIBLINGS, 0, ICC_TAB_CLASSES};
         case ControlKind::UpDown: return {UPDOWN_CLASSA, UDS_ARROWKEYS, 0, ICC_UPDOWN_CLASS};
         case ControlKind::StatusBar:
@@ -97,12 +113,12 @@ bool StartsGroup(const Control& control) {
 
 // Siblings above a window are cut out of what it paints, except in a frame: that lies above what is in it.
 bool CutsSiblings(const Control& control) {
-    if (control.Kind() == ControlKind::Frame) return false;
+    if (IsBox(control)) return false;
     const Bounds& place = control.Place();
     const auto& all = control.Holder().Controls();
     return std::none_of(all.begin(), all.end(), [&](const Control* other) {
         const Bounds& frame = other->Place();
-        return other->Kind() == ControlKind::Frame && place.left < frame.Right() && frame.left < place.Right() &&
+        return IsBox(*other) && place.left < frame.Right() && frame.left < place.Right() &&
                place.top < frame.Bottom() && frame.top < place.Bottom();
     });
 }
@@ -117,6 +133,10 @@ RECT PixelPlace(const Control& control) {
 
 void ApplyFont(const Control& control) {
     const HFONT font = FontFor(control.FontUsed(), DpiOf(control));
+    if (control.Kind() == ControlKind::VirtualList) {
+        ApplyVirtualFont(static_cast<const VirtualList&>(control), font);
+        return;
+    }
     SendMessageA(WindowOf(control), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     if (control.Kind() == ControlKind::ComboBox) {
         constexpr int kBorders = 6;
@@ -159,6 +179,7 @@ void CreateControl(Control& control) {
                                         WindowOf(control.Holder()), nullptr, Instance(), nullptr);
     if (window == nullptr) return;
     control.window = window;
+    if (control.Kind() == ControlKind::VirtualList) PrepareVirtualList(static_cast<VirtualList&>(control));
     ApplyFont(control);
     FillControl(control);
     SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&control));

@@ -14,6 +14,8 @@ namespace quirn {
 namespace {
 
 constexpr DWORD kLongestPath = 32768;
+constexpr int kPointsPerInch = 72;
+constexpr int kTenthsPerPoint = 10;
 
 std::string CurrentFolder() {
     std::string folder(kLongestPath, '\0');
@@ -70,6 +72,44 @@ std::optional<std::string> AskOpenFile(const FileDialog& dialog) {
 
 std::optional<std::string> AskSaveFile(const FileDialog& dialog) {
     return AskFile(dialog, GetSaveFileNameA);
+}
+
+std::optional<Font> AskFont(const Font& current) {
+    const HDC screen = GetDC(nullptr);
+    const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
+    ReleaseDC(nullptr, screen);
+    LOGFONTA description{};
+    description.lfHeight = -MulDiv(current.points, dpi, kPointsPerInch);
+    description.lfWeight = current.bold ? FW_BOLD : FW_NORMAL;
+    description.lfItalic = current.italic;
+    description.lfUnderline = current.underline;
+    description.lfStrikeOut = current.strikeout;
+    description.lfCharSet = DEFAULT_CHARSET;
+    current.face.copy(description.lfFaceName, LF_FACESIZE - 1);
+    CHOOSEFONTA record{};
+    record.lStructSize = sizeof(record);
+    record.hwndOwner = GetActiveWindow();
+    record.lpLogFont = &description;
+    record.Flags = CF_SCREENFONTS | CF_EFFECTS | CF_INITTOLOGFONTSTRUCT | CF_FORCEFONTEXIST;
+    if (!ChooseFontA(&record)) return std::nullopt;
+    return Font{.face = description.lfFaceName,
+                .points = std::max(record.iPointSize / kTenthsPerPoint, 1),
+                .bold = description.lfWeight >= FW_SEMIBOLD,
+                .italic = description.lfItalic != FALSE,
+                .underline = description.lfUnderline != FALSE,
+                .strikeout = description.lfStrikeOut != FALSE};
+}
+
+std::optional<Color> AskColor(Color current) {
+    static COLORREF custom[16];  // the player's own ones, kept from one time to the next
+    CHOOSECOLORA record{};
+    record.lStructSize = sizeof(record);
+    record.hwndOwner = GetActiveWindow();
+    record.rgbResult = current;
+    record.lpCustColors = custom;
+    record.Flags = CC_RGBINIT | CC_FULLOPEN;
+    if (!ChooseColorA(&record)) return std::nullopt;
+    return record.rgbResult;
 }
 
 }  // namespace quirn

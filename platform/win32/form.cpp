@@ -78,8 +78,10 @@ void LimitSize(const Form& form, MINMAXINFO& limits) {
 void Resize(Form& form) {
     TellPlace(form);
     for (const Control* control : form.Controls())
-        if (control->Kind() == ControlKind::StatusBar && control->window != nullptr)
+        if (control->Kind() == ControlKind::StatusBar && control->window != nullptr) {
             SendMessageA(WindowOf(*control), WM_SIZE, 0, 0);
+            PlacePanels(static_cast<const StatusBar&>(*control));
+        }
     form.WindowResized();
 }
 
@@ -191,6 +193,27 @@ Form* FormOf(HWND window) {
 
 }  // namespace win32
 
+namespace {
+
+Bounds InTwips(const RECT& area) {
+    const int dpi = win32::DpiOf(nullptr);
+    return {win32::ToTwips(area.left, dpi), win32::ToTwips(area.top, dpi),
+            win32::ToTwips(area.right - area.left, dpi), win32::ToTwips(area.bottom - area.top, dpi)};
+}
+
+}  // namespace
+
+Bounds ScreenArea() {
+    return InTwips({0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)});
+}
+
+Bounds WorkArea(const Form& form) {
+    MONITORINFO info{};
+    info.cbSize = sizeof(info);
+    GetMonitorInfoA(MonitorFromWindow(win32::WindowOf(form), MONITOR_DEFAULTTONEAREST), &info);
+    return InTwips(info.rcWork);
+}
+
 void RunEventLoop() {
     while (!win32::loadedForms.empty())
         if (!win32::RunOneEvent()) WaitMessage();
@@ -260,6 +283,14 @@ void BringToFront(Form& form) {
 
 void Repaint(Form& form) {
     RedrawWindow(WindowOf(form), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+void SetOwner(Form& form, Form& owner) {
+    SetWindowLongPtrA(WindowOf(form), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(WindowOf(owner)));
+}
+
+void KeepOnTop(Form& form) {
+    SetWindowPos(WindowOf(form), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
 }
 
 Size InnerSize(const Form& form) {

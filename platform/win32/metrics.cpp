@@ -44,6 +44,8 @@ HFONT MakeFont(const Font& font, int dpi) {
     description.lfWidth = 0;
     if (font.bold) description.lfWeight = FW_BOLD;
     if (font.italic) description.lfItalic = TRUE;
+    if (font.underline) description.lfUnderline = TRUE;
+    if (font.strikeout) description.lfStrikeOut = TRUE;
     return CreateFontIndirectA(&description);
 }
 

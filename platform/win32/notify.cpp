@@ -2,6 +2,7 @@
 
 #include <commctrl.h>  // needs windows.h first
 
+#include "platform/win32/metrics.h"
 #include "platform/win32/window.h"
 
 // What the windows of controls report to their form or page.
@@ -51,6 +52,7 @@ void Command(Control& control, WORD code) {
         case ControlKind::MaskedBox: EditCommand(control, code); break;
         case ControlKind::ComboBox: ComboBoxCommand(static_cast<ComboBox&>(control), code); break;
         case ControlKind::ListBox: ListCommand(static_cast<ListBox&>(control), code); break;
+        case ControlKind::VirtualList: VirtualListCommand(static_cast<VirtualList&>(control), code); break;
         default: break;
     }
 }
@@ -76,19 +78,43 @@ std::optional<LRESULT> ColorsOf(const Form& form, HDC device, HWND window) {
     if (control == nullptr) return std::nullopt;
     const bool onForm = &control->Holder() == &form;
     const bool edits = control->Kind() == ControlKind::TextBox || control->Kind() == ControlKind::MaskedBox ||
-                       control->Kind() == ControlKind::ListBox || control->Kind() == ControlKind::ComboBox;
-    const std::optional<Color> formColor = onForm && !edits ? form.BackColor() : std::nullopt;
-    if (!formColor && !control->ForeColor()) return std::nullopt;
-    const Color back = formColor.value_or(GetSysColor(edits ? COLOR_WINDOW : COLOR_BTNFACE));
+                       control->Kind() == ControlKind::ListBox || control->Kind() == ControlKind::ComboBox ||
+                       control->Kind() == ControlKind::VirtualList;
+    std::optional<Color> own = control->BackColor();
+    if (!own && onForm && !edits) own = form.BackColor();
+    if (!own && !control->ForeColor()) return std::nullopt;
+    const Color back = own.value_or(GetSysColor(edits ? COLOR_WINDOW : COLOR_BTNFACE));
     SetTextColor(device, control->ForeColor().value_or(GetSysColor(COLOR_WINDOWTEXT)));
     SetBkColor(device, back);
     SetDCBrushColor(device, back);
     return reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));
 }
 
+void DrawPanel(const Frame& panel, HDC device, RECT area) {
+    SetDCBrushColor(device, panel.BackColor().value_or(GetSysColor(COLOR_WINDOW)));
+    FillRect(device, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    DrawEdge(device, &area, EDGE_RAISED, BF_RECT | BF_ADJUST);
+    const HGDIOBJ before = SelectObject(device, FontFor(panel.FontUsed(), DpiOf(panel)));
+    SetTextColor(device, panel.ForeColor().value_or(GetSysColor(COLOR_WINDOWTEXT)));
+    SetBkMode(device, TRANSPARENT);
+    constexpr int kTextTop = 120;  // twips
+    area.top += ToPixels(kTextTop, DpiOf(panel));
+    DrawTextA(device, panel.Text().c_str(), -1, &area, DT_CENTER | DT_SINGLELINE);
+    SelectObject(device, before);
+}
+
 bool Draw(const DRAWITEMSTRUCT& item) {
     const Control* control = ControlOf(item.hwndItem);
-    if (control == nullptr || control->Kind() != ControlKind::Picture) return false;
+    if (control == nullptr) return false;
+    if (control->Kind() == ControlKind::Frame) {
+        DrawPanel(static_cast<const Frame&>(*control), item.hDC, item.rcItem);
+        return true;
+    }
+    if (control->Kind() == ControlKind::VirtualList) {
+        DrawVirtualItem(static_cast<const VirtualList&>(*control), item);
+        return true;
+    }
+    if (control->Kind() != ControlKind::Picture) return false;
     const int width = item.rcItem.right - item.rcItem.left;
     const int height = item.rcItem.bottom - item.rcItem.top;
     const auto icon =

@@ -3,6 +3,7 @@
 #include <commctrl.h>  // needs windows.h first
 
 #include "platform/native.h"
+#include "platform/win32/metrics.h"
 #include "platform/win32/window.h"
 
 // Brings windows up to the state of their controls.
@@ -34,6 +35,7 @@ void ApplyItems(Control& control) {
     const HWND window = WindowOf(control);
     if (control.Kind() == ControlKind::ComboBox)
         FillList(window, CB_RESETCONTENT, CB_ADDSTRING, static_cast<ComboBox&>(control).Items());
+    if (control.Kind() == ControlKind::VirtualList) ApplyVirtualItems(static_cast<VirtualList&>(control));
     if (control.Kind() == ControlKind::ListBox)
         FillList(window, LB_RESETCONTENT, LB_ADDSTRING, static_cast<ListBox&>(control).Items());
 }
@@ -45,6 +47,7 @@ void ApplySelection(Control& control) {
         if (SendMessageA(window, CB_GETCURSEL, 0, 0) != index)
             SendMessageA(window, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
     }
+    if (control.Kind() == ControlKind::VirtualList) ApplyVirtualSelection(static_cast<VirtualList&>(control));
     if (control.Kind() != ControlKind::ListBox) return;
     const auto& list = static_cast<ListBox&>(control);
     if (list.Style() == ListStyle::Single) {
@@ -74,6 +77,11 @@ void ApplyValue(Control& control) {
             SendMessageA(window, BM_SETCHECK, static_cast<WPARAM>(static_cast<CheckBox&>(control).Value()), 0);
             break;
         case ControlKind::OptionButton: ApplyOption(static_cast<OptionButton&>(control)); break;
+        case ControlKind::VirtualList: ApplyVirtualCurrent(static_cast<VirtualList&>(control)); break;
+        case ControlKind::ProgressBar:
+            SendMessageA(window, PBM_SETPOS, static_cast<WPARAM>(static_cast<ProgressBar&>(control).Step()), 0);
+            UpdateWindow(window);  // the work that it shows leaves no time for events
+            break;
         case ControlKind::TextBox: {
             const WPARAM shown = static_cast<TextBox&>(control).IsMasked() ? static_cast<unsigned char>(kBullet) : 0;
             if (static_cast<WPARAM>(SendMessageA(window, EM_GETPASSWORDCHAR, 0, 0)) == shown) break;
@@ -111,6 +119,9 @@ void PrepareUpDown(const UpDown& arrows) {
 // A window's text is set only when it differs, which also keeps the caret where it is.
 void ApplyText(const Control& control) {
     const HWND window = WindowOf(control);
+    if (control.Kind() == ControlKind::StatusBar && static_cast<const StatusBar&>(control).SecondPanelWidth() > 0)
+        SendMessageA(window, SB_SETTEXTA, 1,
+                     reinterpret_cast<LPARAM>(static_cast<const StatusBar&>(control).SecondText().c_str()));
     if (TextOf(window) == control.Text()) return;
     setsText = window;
     SetWindowTextA(window, control.Text().c_str());
@@ -133,8 +144,11 @@ void ApplyVisible(Control& control) {
     }
     ShowWindow(WindowOf(control), control.Visible() ? SW_SHOWNA : SW_HIDE);
     if (control.Kind() == ControlKind::TabStrip) ShowFrontPage(static_cast<TabStrip&>(control));
-    // A list that appears and goes lies over whatever is there.
-    if (control.Kind() == ControlKind::ListBox && control.Visible())
+    // Lists and panels that appear and go lie over whatever is there, and so does what shows progress on them.
+    const bool liesOver = control.Kind() == ControlKind::ListBox || control.Kind() == ControlKind::ProgressBar ||
+                          (control.Kind() == ControlKind::Frame &&
+                           static_cast<const Frame&>(control).Style() == FrameStyle::Panel);
+    if (liesOver && control.Visible())
         SetWindowPos(WindowOf(control), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
@@ -142,6 +156,14 @@ void ApplyVisible(Control& control) {
 
 bool TextIsBeingSet(HWND window) {
     return setsText == window;
+}
+
+void PlacePanels(const StatusBar& bar) {
+    if (bar.SecondPanelWidth() == 0) return;
+    RECT area{};
+    GetClientRect(GetParent(WindowOf(bar)), &area);
+    const int rightEdges[] = {area.right - ToPixels(bar.SecondPanelWidth(), DpiOf(bar)), -1};
+    SendMessageA(WindowOf(bar), SB_SETPARTS, std::size(rightEdges), reinterpret_cast<LPARAM>(rightEdges));
 }
 
 void FillControl(Control& control) {
@@ -160,6 +182,18 @@ void FillControl(Control& control) {
             break;
         case ControlKind::TabStrip: AddTabs(static_cast<TabStrip&>(control)); break;
         case ControlKind::UpDown: PrepareUpDown(static_cast<UpDown&>(control)); break;
+        case ControlKind::ProgressBar:
+            SendMessageA(WindowOf(control), PBM_SETRANGE32, 0, ProgressBar::kSteps);
+            ApplyValue(control);
+            break;
+        case ControlKind::StatusBar:
+            PlacePanels(static_cast<StatusBar&>(control));
+            ApplyText(control);
+            break;
+        case ControlKind::VirtualList:
+            ApplyItems(control);
+            ApplySelection(control);
+            break;
         default: break;
     }
 }
@@ -187,6 +221,10 @@ void ControlChanged(Control& control, Aspect aspect) {
         case Aspect::Selection: ApplySelection(control); break;
         case Aspect::ToolTip: ToolTipChanged(control); break;
     }
+}
+
+void Repaint(Control& control) {
+    RedrawWindow(WindowOf(control), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
 }
 
 void FocusControl(Control& control) {

@@ -7,6 +7,7 @@
 
 #include "platform/controls.h"
 #include "platform/form.h"
+#include "platform/virtuallist.h"
 
 // The windows of forms, pages and controls, for the files of win32/ only.
 namespace quirn::win32 {
@@ -60,6 +61,7 @@ void PlaceControl(Control& control);  // at its place, and in its font, by the f
 // sync.cpp: brings a part of a new window up to its control's state.
 void FillControl(Control& control);
 bool TextIsBeingSet(HWND window);
+void PlacePanels(const StatusBar& bar);  // after its form has another size
 
 // controlproc.cpp: lets this program see the messages of a control's window first.
 void Subclass(const Control& control);
@@ -69,6 +71,16 @@ bool FocusArrives(HWND window);  // the window is just taking the focus
 std::optional<LRESULT> TextBoxMessage(TextBox& box, UINT message, WPARAM wParam);
 std::optional<LRESULT> MaskedBoxMessage(MaskedBox& box, UINT message, WPARAM wParam);
 std::string TextOf(HWND window);
+
+// virtuallist.cpp
+void PrepareVirtualList(const VirtualList& list);  // a new window
+void ApplyVirtualItems(const VirtualList& list);
+void ApplyVirtualSelection(const VirtualList& list);
+void ApplyVirtualCurrent(const VirtualList& list);
+void ApplyVirtualFont(const VirtualList& list, HFONT font);
+void DrawVirtualItem(const VirtualList& list, const DRAWITEMSTRUCT& item);
+void VirtualListCommand(VirtualList& list, WORD code);
+std::optional<LRESULT> VirtualListMessage(VirtualList& list, UINT message, WPARAM wParam, LPARAM lParam);
 
 // page.cpp
 void ShowFrontPage(TabStrip& strip);

@@ -16,7 +16,7 @@ WorldTest::WorldTest() {
 WorldTest::~WorldTest() {
     for (const auto& box : headless::TakeMissingBoxes()) ADD_FAILURE() << "missing message box \"" << box.text << "\"";
     EXPECT_EQ(headless::TakeMissingFileDialogs(), 0u) << "file dialogs that were expected have not come";
-    EXPECT_EQ(headless::TakeMissingFileDialogs(), 0u) << "missing file dialogs";
+    EXPECT_EQ(headless::TakeMissingChoosers(), 0u) << "choosers of fonts or colours that were expected have not come";
     ResetWorld();
 }
 

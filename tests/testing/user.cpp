@@ -5,6 +5,7 @@
 // the end of this file. An answer with "error" means that the command could not be done.
 #include <windows.h>
 
+#include <commctrl.h>
 #include <tlhelp32.h>
 
 #include <array>
@@ -378,6 +379,18 @@ std::string Send(const Words& words) {
     return Done(Member("result", static_cast<long long>(result)));
 }
 
+// panel STATUSBAR NUMBER: the text of a panel, from 0. It comes by way of the memory of the window's process.
+std::string Panel(const Words& words) {
+    const HANDLE process = OpenProcess(PROCESS_ALL_ACCESS, FALSE, ProcessOf(Window(words)));
+    std::array<char, 256> text{};
+    void* there = VirtualAllocEx(process, nullptr, text.size(), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+    SendMessageA(Window(words), SB_GETTEXTA, static_cast<WPARAM>(Number(words, 2)), reinterpret_cast<LPARAM>(there));
+    const bool read = there && ReadProcessMemory(process, there, text.data(), text.size() - 1, nullptr);
+    VirtualFreeEx(process, there, 0, MEM_RELEASE);
+    CloseHandle(process);
+    return read ? Done(Member("text", Quoted(text.data()))) : Error("could not read it");
+}
+
 // drop WINDOW FILE: what the shell sends when a file is dropped on the window. The list of files must lie in the
 // memory of the window's process.
 std::string Drop(const Words& words) {
@@ -505,6 +518,7 @@ int main() {
         {"items", Items},          // WINDOW
         {"focus", Focus},          // WINDOW: of its process
         {"drop", Drop},            // WINDOW FILE
+        {"panel", Panel},          // STATUSBAR NUMBER
         {"place", Place},          // WINDOW LEFT TOP
         {"clipboard", Clipboard},  // TEXT
         {"foreground", Foreground},

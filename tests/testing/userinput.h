@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/form.h"
+#include "platform/virtuallist.h"
 
 // Acts as the player on the windows of this process. In memory it calls what the back end would call; on Windows it
 // sends the windows the messages that mouse and keyboard would bring. The form must be shown.
@@ -21,6 +22,9 @@ size_t Type(MaskedBox& box, const std::string& text, size_t caret);  // returns 
 size_t Paste(MaskedBox& box, const std::string& text, size_t caret);
 void Choose(ComboBox& box, int index);
 void Choose(ListBox& list, const std::vector<int>& indexes);
+void ClickItem(VirtualList& list, size_t item, bool shift = false, bool control = false);
+void DoubleClickItem(VirtualList& list, size_t item);
+void ChooseFromPopup(VirtualList& list, int position);  // the right button, then an item counted from 0
 void Spin(UpDown& arrows, int steps);
 void TurnTo(TabStrip& strip, int page);
 void Close(Form& form);  // the close box
@@ -39,6 +43,13 @@ void Choose(Form& form, int command);
 std::string ShownText(const Control& control);
 bool ShownChecked(const Control& control);
 int ShownIndex(const Control& control);  // the selected item or page
+
+std::string ShownItem(const VirtualList& list, size_t item);  // as another program asks for it
+size_t ShownTop(const VirtualList& list);
+std::string ShownSecondText(const StatusBar& bar);
+
+// The clipboard's text.
+std::string Clipboard();
 
 // Runs once events are waited for, as inside a modal form.
 void Later(std::function<void()> task);

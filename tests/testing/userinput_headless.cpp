@@ -1,4 +1,5 @@
 #include "platform/headless/events.h"
+#include "platform/headless/headless.h"
 #include "tests/testing/userinput.h"
 
 namespace quirn::test {
@@ -48,6 +49,22 @@ void Choose(ComboBox& box, int index) {
 
 void Choose(ListBox& list, const std::vector<int>& indexes) {
     list.UserSelects(indexes);
+}
+
+void ClickItem(VirtualList& list, size_t item, bool shift, bool control) {
+    list.SetFocus();
+    list.UserClicksItem(item, shift, control);
+}
+
+void DoubleClickItem(VirtualList& list, size_t item) {
+    ClickItem(list, item, false, false);
+    list.UserDoubleClicks();
+}
+
+void ChooseFromPopup(VirtualList& list, int position) {
+    list.UserPressesRightButton();
+    Menu* menu = headless::TheWorld().poppedUpMenus.back().menu;
+    menu->UserChooses(menu->Items()[static_cast<size_t>(position) + 1].row.command);
 }
 
 void Spin(UpDown& arrows, int steps) {
@@ -106,6 +123,22 @@ int ShownIndex(const Control& control) {
         case ControlKind::ListBox: return static_cast<const ListBox&>(control).ListIndex();
         default: return static_cast<const TabStrip&>(control).Tab();
     }
+}
+
+std::string ShownItem(const VirtualList& list, size_t item) {
+    return list.itemText(item);
+}
+
+size_t ShownTop(const VirtualList& list) {
+    return list.TopIndex();
+}
+
+std::string ShownSecondText(const StatusBar& bar) {
+    return bar.SecondText();
+}
+
+std::string Clipboard() {
+    return headless::TheWorld().clipboard;
 }
 
 void Later(std::function<void()> task) {

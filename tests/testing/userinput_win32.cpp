@@ -122,6 +122,34 @@ void Choose(ListBox& list, const std::vector<int>& indexes) {
     Tell(list, LBN_SELCHANGE);
 }
 
+void ClickItem(VirtualList& list, size_t item, bool shift, bool control) {
+    RECT place{};
+    Send(list, LB_GETITEMRECT, item, reinterpret_cast<LPARAM>(&place));
+    if (place.top < 0 || place.bottom > 100) {
+        Send(list, LB_SETTOPINDEX, item);
+        Send(list, LB_GETITEMRECT, item, reinterpret_cast<LPARAM>(&place));
+    }
+    const WPARAM keys = static_cast<WPARAM>((shift ? MK_SHIFT : 0) | (control ? MK_CONTROL : 0));
+    const LPARAM point = MAKELPARAM(5, place.top + 2);
+    Send(list, WM_LBUTTONDOWN, keys | MK_LBUTTON, point);
+    Send(list, WM_LBUTTONUP, keys, point);
+}
+
+void DoubleClickItem(VirtualList& list, size_t item) {
+    ClickItem(list, item, false, false);
+    RECT place{};
+    Send(list, LB_GETITEMRECT, item, reinterpret_cast<LPARAM>(&place));
+    Send(list, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, place.top + 2));
+    Send(list, WM_LBUTTONUP, 0, MAKELPARAM(5, place.top + 2));
+}
+
+void ChooseFromPopup(VirtualList& list, int position) {
+    // The keys wait for the menu, which takes them as soon as it is open.
+    for (int i = 0; i <= position; ++i) PostMessageA(WindowOf(list), WM_KEYDOWN, VK_DOWN, 0);
+    PostMessageA(WindowOf(list), WM_KEYDOWN, VK_RETURN, 0);
+    Send(list, WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(5, 5));
+}
+
 void Spin(UpDown& arrows, int steps) {
     for (int i = 0; i != steps; i += steps > 0 ? 1 : -1) {
         Send(arrows.Buddy(), WM_KEYDOWN, steps > 0 ? VK_UP : VK_DOWN);
@@ -188,6 +216,31 @@ int ShownIndex(const Control& control) {
         case ControlKind::ListBox: return static_cast<int>(Send(control, LB_GETCURSEL));
         default: return static_cast<int>(Send(control, TCM_GETCURSEL));
     }
+}
+
+std::string ShownItem(const VirtualList& list, size_t item) {
+    std::string text(static_cast<size_t>(Send(list, LB_GETTEXTLEN, item)) + 1, '\0');
+    text.resize(static_cast<size_t>(Send(list, LB_GETTEXT, item, reinterpret_cast<LPARAM>(text.data()))));
+    return text;
+}
+
+size_t ShownTop(const VirtualList& list) {
+    return static_cast<size_t>(Send(list, LB_GETTOPINDEX));
+}
+
+std::string ShownSecondText(const StatusBar& bar) {
+    std::array<char, 256> text{};
+    Send(bar, SB_GETTEXTA, 1, reinterpret_cast<LPARAM>(text.data()));
+    return text.data();
+}
+
+std::string Clipboard() {
+    OpenClipboard(nullptr);
+    const auto held = static_cast<HGLOBAL>(GetClipboardData(CF_TEXT));
+    const std::string text = held ? static_cast<const char*>(GlobalLock(held)) : "";
+    if (held) GlobalUnlock(held);
+    CloseClipboard();
+    return text;
 }
 
 void Later(std::function<void()> task) {

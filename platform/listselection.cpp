@@ -1,4 +1,4 @@
-#include "logedit/listselection.h"
+#include "platform/listselection.h"
 
 #include <algorithm>
 

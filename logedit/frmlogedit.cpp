@@ -1,0 +1,510 @@
+#include "logedit/frmlogedit.h"
+
+#include <algorithm>
+
+#include "logedit/logfind.h"
+#include "logedit/logmenuhelp.h"
+#include "logedit/logmenurows.h"
+#include "logedit/logsettings.h"
+#include "platform/clipboard.h"
+#include "platform/dialogs.h"
+#include "platform/text.h"
+#include "platform/version.h"
+#include "profile/splitpath.h"
+
+namespace quirn {
+
+using namespace logmenu;
+
+namespace {
+
+constexpr int kWidth = 12000;
+constexpr int kHeight = 9000;
+// 730 by 540 pixels at 96 dpi.
+constexpr int kSmallestWidth = 730 * 15;
+constexpr int kSmallestHeight = 540 * 15;
+
+// How the controls follow the window's size, from its inner area's edges.
+constexpr int kBesideLog = 300;
+constexpr int kBelowLog = 1500;  // and the height of the lists of players
+constexpr int kBelowBlock = 800;  // down to the status bar
+constexpr int kButtonGap = 100;
+constexpr int kLabelGap = 30;
+
+constexpr int kLabelHeight = 195;
+constexpr int kButtonHeight = 345;
+constexpr int kBlockHeight = 1900;
+
+// The tops of the lower block follow the window.
+// clang-format off
+//                             left  top  width  height
+constexpr Bounds kLog{          150, 120, 11600, 3000};
+constexpr Bounds kInclude{      150,   0,  1700, kBlockHeight};
+constexpr Bounds kButtons{     1920,   0,  1150, kButtonHeight};
+constexpr Bounds kExclude{     3140,   0,  1700, kBlockHeight};
+constexpr Bounds kTypes{       4960,   0,  4700, kBlockHeight};
+constexpr Bounds kProgress{       0,   0,  4800, 900};
+constexpr Bounds kProgressBar{  150, 450,  4500, 270};
+// clang-format on
+
+// The check boxes, in the frame: two columns of six.
+constexpr size_t kRows = 6;
+constexpr int kBoxLeft = 150, kBoxTop = 270, kBoxWidth = 2200, kBoxHeight = 225, kColumnStep = 2250, kRowStep = 262;
+static_assert(kBoxTop + static_cast<int>(kRows - 1) * kRowStep + kBoxHeight < kBlockHeight);
+static_assert(kBoxLeft + kColumnStep + kBoxWidth < kTypes.width);
+
+constexpr int kCountPanelWidth = 2700;
+constexpr char kLogFilter[] = "All Files (*.*)|*.*|LOG Files (*.log)|*.log|Text Files (*.txt)|*.txt";
+constexpr int kLogFiles = 2;  // in the filter
+
+constexpr char kLoaded[] = "Log file has been loaded";
+constexpr char kLoadFailed[] = "ERROR loading log file";
+constexpr char kSaved[] = "File has been saved";
+
+constexpr Color kBlack = Rgb(0, 0, 0);
+constexpr Color kWhite = Rgb(255, 255, 255);
+
+class Flagged {
+public:
+    explicit Flagged(bool& flag) : flag_(flag) { flag_ = true; }
+    ~Flagged() { flag_ = false; }
+
+private:
+    bool& flag_;
+};
+
+void MoveTop(Control& control, int top) {
+    Bounds place = control.Place();
+    place.top = top;
+    control.Move(place);
+}
+
+size_t LongestName(const PlayerList& players) {
+    size_t longest = 0;
+    for (size_t i = 0; i < players.Count(); ++i) longest = std::max(longest, players.Name(i).size());
+    return longest;
+}
+
+}  // namespace
+
+frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
+    : Form(FormBorder::Sizable, kWidth, kHeight),
+      gameFolder_(gameFolder),
+      edit_(edit),
+      menuBar_(kLogMenuRows),
+      mnuLogEditPopup_(kLogEditPopupRows),
+      mnuInExPopup_(kInExPopupRows),
+      popupList_(&lstInclude),
+      famProgFrame(*this, kProgress, "Reading log file...", FrameStyle::Panel),
+      ProgBar(famProgFrame, kProgressBar),
+      lstLog(*this, kLog, "Log"),
+      lblInclude(*this, {kInclude.left, 0, kInclude.width, kLabelHeight}, "Include :"),
+      lstInclude(*this, kInclude, "Include"),
+      cmdIn(*this, kButtons, "<<"),
+      cmdOut(*this, kButtons, ">>"),
+      cmdApplyFilter(*this, kButtons, "Apply Filter"),
+      lblExclude(*this, {kExclude.left, 0, kExclude.width, kLabelHeight}, "Exclude :"),
+      lstExclude(*this, kExclude, "Exclude"),
+      Frame1(*this, kTypes, "Include Message Types"),
+      StatusBar1(*this, kCountPanelWidth),
+      find_([this](const std::string& text) { FindInLog(text); }, edit.lastSearch) {
+    for (size_t i = 0; i < kFilterBoxCount; ++i) {
+        const Bounds place{kBoxLeft + static_cast<int>(i / kRows) * kColumnStep,
+                           kBoxTop + static_cast<int>(i % kRows) * kRowStep, kBoxWidth, kBoxHeight};
+        CheckBox& box = chkFilters.emplace_back(Frame1, place, kFilterBoxes[i].caption);
+        box.SetValue(1);
+        box.onClick = [this] { chkFilters_Click(); };
+    }
+    SetCaption(kFullTitle);
+    SetMinimumSize(kSmallestWidth, kSmallestHeight);
+    famProgFrame.SetVisible(false);
+    ProgBar.SetVisible(false);
+
+    lstLog.SetFont({.face = "Courier New", .points = 9});
+    lstLog.itemText = [this](size_t item) { return edit_.view.Text(item); };
+    lstLog.itemData = [this](size_t item) { return edit_.view.Info(item); };
+    lstLog.onRightMouseDown = [this] { PopUpMenu(mnuLogEditPopup_, 0); };
+    for (VirtualList* list : {&lstInclude, &lstExclude}) {
+        const PlayerList& players = PlayersOf(*list);
+        list->itemText = [&players](size_t item) { return std::string(players.Name(item)); };
+        list->itemData = [&players](size_t item) { return static_cast<int32_t>(players.Number(item)); };
+        list->onRightMouseDown = [this, list] {
+            popupList_ = list;
+            PopUpMenu(mnuInExPopup_, 0);
+        };
+    }
+    lstInclude.onDoubleClick = [this] { cmdOut_Click(); };
+    lstExclude.onDoubleClick = [this] { cmdIn_Click(); };
+    cmdIn.onClick = [this] { cmdIn_Click(); };
+    cmdOut.onClick = [this] { cmdOut_Click(); };
+    cmdApplyFilter.onClick = [this] { ApplyLogFilter(); };
+
+    SetMenu(menuBar_, {kLogShortcuts.begin(), kLogShortcuts.end()});
+    for (Menu* menu : {&menuBar_, &mnuLogEditPopup_, &mnuInExPopup_}) {
+        menu->onCommand = [this](int command) { MenuCommand(command); };
+        menu->onHighlight = [this](int command) { StatusBar1.SetText(LogMenuHelpText(command)); };
+    }
+    onSystemMenuHighlight = [this](int command) { StatusBar1.SetText(LogSystemMenuHelpText(command)); };
+
+    onLoad = [this] { Form_Load(); };
+    onResize = [this] { Form_Resize(); };
+    onQueryUnload = [this](UnloadMode) { return !busy_; };
+    onUnload = [this] { return Form_Unload(); };
+    onKeyDown = [this](int key, bool control) { return Form_KeyDown(key, control); };
+    onKeyPress = [this](char character) { Form_KeyPress(character); };
+    onDropFile = [this](const std::string& path) { OpenLog(path); };
+}
+
+void frmLogEdit::Form_Load() {
+    edit_.include.Clear();
+    edit_.exclude.Clear();
+    edit_.view.Clear();
+    edit_.applyAtOnce = edit_.lineNumbers = false;
+    edit_.chkFilters.fill(1);
+    edit_.LogFilterMask = BuildFilterMask(edit_.chkFilters);
+
+    const Bounds screen = ScreenArea();
+    LogLook look{Place(), lstLog.FontUsed(), lstLog.ForeColor(), lstLog.BackColor()};
+    look.place.left = (screen.width - look.place.width) / 2;
+    look.place.top = (screen.height - look.place.height) / 2;
+    look = ReadLogLook(look);
+    lstLog.SetFont(look.font);
+    lstLog.SetForeColor(look.foreColor);
+    lstLog.SetBackColor(look.backColor);
+    Move(look.place);
+    ReadLogMRU(edit_.LogMRU);
+    RefreshLogMRUMenu();
+    Form_Resize();
+}
+
+void frmLogEdit::Form_Resize() {
+    if (IsMinimized()) return;
+    const int width = InnerWidth();
+    const int height = InnerHeight();
+    const int blockBottom = height - StatusBar::kHeight - kBelowBlock;
+    for (Control* control : {static_cast<Control*>(&lstInclude), static_cast<Control*>(&lstExclude)})
+        MoveTop(*control, blockBottom - control->Place().height);
+    // The frame takes its check boxes along.
+    const int down = blockBottom - Frame1.Place().height - Frame1.Place().top;
+    MoveTop(Frame1, Frame1.Place().top + down);
+    for (CheckBox& box : chkFilters) MoveTop(box, box.Place().top + down);
+    lstLog.Move({kLog.left, kLog.top, width - kBesideLog, height - lstInclude.Place().height - kBelowLog});
+    MoveTop(cmdIn, lstInclude.Place().top);
+    MoveTop(cmdOut, cmdIn.Place().Bottom() + kButtonGap);
+    MoveTop(cmdApplyFilter, blockBottom - cmdApplyFilter.Place().height);
+    MoveTop(lblInclude, lstInclude.Place().top - lblInclude.Place().height - kLabelGap);
+    MoveTop(lblExclude, lstExclude.Place().top - lblExclude.Place().height - kLabelGap);
+}
+
+bool frmLogEdit::Form_Unload() {
+    WriteLogLook({Place(), lstLog.FontUsed(), lstLog.ForeColor(), lstLog.BackColor()});
+    WriteLogMRU(edit_.LogMRU);
+    find_.Unload();
+    return true;
+}
+
+bool frmLogEdit::Form_KeyDown(int key, bool control) {
+    if (!control && key == kKeyF3) {
+        if (edit_.lastSearch.empty()) mnuSearch_Find_Click();
+        else FindInLog(edit_.lastSearch);
+        return true;
+    }
+    const Control* active = ActiveControl();
+    if (active == nullptr || active->Kind() != ControlKind::VirtualList) return false;
+    if (!control && key == kKeyDelete && lstLog.HasFocus()) {
+        mnuLogEditPopup_Delete_Click();
+    } else if (control && key == 'A') {
+        auto& list = static_cast<VirtualList&>(*ActiveControl());
+        ListSelection all = list.Selection();
+        all.SelectAll();
+        list.SetSelection(all);
+    } else if (control && key == 'C') {
+        CopySelected();
+    } else {
+        return false;
+    }
+    return true;
+}
+
+// In a list of players a character leads to the next name that begins with it.
+void frmLogEdit::Form_KeyPress(char character) {
+    for (VirtualList* list : {&lstInclude, &lstExclude}) {
+        if (!list->HasFocus() || static_cast<unsigned char>(character) <= ' ') continue;
+        const PlayerList& players = PlayersOf(*list);
+        for (size_t i = 0; i < players.Count(); ++i) {
+            const size_t item = (list->Current().value_or(players.Count() - 1) + 1 + i) % players.Count();
+            if (players.Name(item).empty() || FoldCase(players.Name(item)[0]) != FoldCase(character)) continue;
+            ListSelection one;
+            one.Reset(players.Count());
+            one.Select(item, true);
+            list->SetSelection(one);
+            list->SetCurrent(item);
+            list->SetTopIndex(item);
+            break;
+        }
+    }
+}
+
+void frmLogEdit::MenuCommand(int command) {
+    if (busy_) return;
+    switch (command) {
+        case mnuFile_Open: mnuFile_Open_Click(); break;
+        case mnuFile_SaveAs: mnuFile_SaveAs_Click(); break;
+        case mnuFile_Close: Unload(); break;
+        case mnuOptions_Font:
+        case mnuLogEditPopup_Font: ChooseLogFont(); break;
+        case mnuOptions_Color_Foreground: ChooseLogColor(true); break;
+        case mnuOptions_Color_Background: ChooseLogColor(false); break;
+        case mnuOptions_Apply: mnuOptions_Apply_Click(); break;
+        case mnuOptions_LineNums: mnuOptions_LineNums_Click(); break;
+        case mnuSearch_Find: mnuSearch_Find_Click(); break;
+        case mnuLogEditPopup_Delete: mnuLogEditPopup_Delete_Click(); break;
+        case mnuInExPopup_All: mnuInExPopup_All_Click(); break;
+        case mnuInExPopup_Invert: mnuInExPopup_Invert_Click(); break;
+        default:
+            // By value: opening moves the list's entries.
+            if (command >= mnuFileMRU && command < mnuFileBarMRU)
+                OpenLog(std::string(edit_.LogMRU[static_cast<size_t>(command - mnuFileMRU)]));
+            break;
+    }
+}
+
+void frmLogEdit::mnuFile_Open_Click() {
+    const auto path = AskOpenFile({.title = "Open",
+                                   .filter = kLogFilter,
+                                   .filterIndex = kLogFiles,
+                                   .folder = gameFolder_,
+                                   .fileName = "",
+                                   .flags = kHideReadOnly});
+    if (path) OpenLog(*path);
+}
+
+void frmLogEdit::mnuFile_SaveAs_Click() {
+    const auto path = AskSaveFile({.title = "Save As",
+                                   .filter = kLogFilter,
+                                   .filterIndex = kLogFiles,
+                                   .folder = gameFolder_,
+                                   .fileName = kLogSaveName,
+                                   .flags = kHideReadOnly | kOverwritePrompt});
+    if (!path) return;
+    // A player who trusts in a file that is not there would lose his work.
+    if (Failure failure = SaveFilteredLog(edit_.view, *path)) {
+        ShowError(failure);
+        return;
+    }
+    AddToLogMRU(edit_.LogMRU, *path);
+    RefreshLogMRUMenu();
+    StatusBar1.SetText(kSaved);
+}
+
+void frmLogEdit::mnuOptions_Apply_Click() {
+    edit_.applyAtOnce = !edit_.applyAtOnce;
+    menuBar_.SetChecked(mnuOptions_Apply, edit_.applyAtOnce);
+}
+
+void frmLogEdit::mnuOptions_LineNums_Click() {
+    edit_.lineNumbers = !edit_.lineNumbers;
+    menuBar_.SetChecked(mnuOptions_LineNums, edit_.lineNumbers);
+    ApplyLogFilter();
+}
+
+void frmLogEdit::mnuSearch_Find_Click() {
+    find_.Open(*this);
+}
+
+void frmLogEdit::mnuLogEditPopup_Delete_Click() {
+    if (busy_) return;
+    edit_.view.Delete(lstLog.Selection());
+    lstLog.SelectionRemoved(edit_.view.LongestText());
+    StatusBar1.SetSecondText(edit_.view.CountText());
+}
+
+void frmLogEdit::mnuInExPopup_All_Click() {
+    ListSelection all = popupList_->Selection();
+    all.SelectAll();
+    popupList_->SetSelection(all);
+}
+
+void frmLogEdit::mnuInExPopup_Invert_Click() {
+    ListSelection other = popupList_->Selection();
+    other.Invert();
+    popupList_->SetSelection(other);
+}
+
+void frmLogEdit::ChooseLogFont() {
+    if (const auto font = AskFont(lstLog.FontUsed())) lstLog.SetFont(*font);
+}
+
+void frmLogEdit::ChooseLogColor(bool foreground) {
+    const auto color = AskColor(foreground ? lstLog.ForeColor().value_or(kBlack) : lstLog.BackColor().value_or(kWhite));
+    if (!color) return;
+    if (foreground) lstLog.SetForeColor(*color);
+    else lstLog.SetBackColor(*color);
+}
+
+void frmLogEdit::RefreshLogMRUMenu() {
+    bool any = false;
+    for (size_t i = 0; i < edit_.LogMRU.size(); ++i) {
+        const int command = mnuFileMRU + static_cast<int>(i);
+        const auto caption = LogMRUCaption(edit_.LogMRU, i);
+        if (caption) menuBar_.SetCaption(command, *caption);
+        menuBar_.SetVisible(command, caption.has_value());
+        any |= caption.has_value();
+    }
+    menuBar_.SetVisible(mnuFileBarMRU, any);
+}
+
+void frmLogEdit::chkFilters_Click() {
+    for (size_t i = 0; i < kFilterBoxCount; ++i) edit_.chkFilters[i] = chkFilters[i].Value();
+    edit_.LogFilterMask = BuildFilterMask(edit_.chkFilters);
+    if (edit_.applyAtOnce) ApplyLogFilter();
+}
+
+void frmLogEdit::cmdIn_Click() {
+    MovePlayers(lstExclude, lstInclude);
+}
+
+void frmLogEdit::cmdOut_Click() {
+    MovePlayers(lstInclude, lstExclude);
+}
+
+void frmLogEdit::OpenLog(const std::string& path) {
+    if (busy_) return;
+    bool loaded = false;
+    bool begun = false;
+    {
+        const Flagged busy(busy_);
+        const ParseSteps steps{
+            .onReading =
+                [&](uint64_t size) {
+                    begun = true;
+                    for (VirtualList* list : {&lstExclude, &lstInclude, &lstLog}) list->SetCount(0, 0);
+                    ShowProgress("Reading && Parsing Log File...", size);
+                },
+            .onProgress = [&](uint64_t done) { ProgBar.SetValue(done); },
+            .onPlayers =
+                [&](size_t highest) {
+                    ShowProgress("Populating Player List...", highest);
+                    DoEvents();
+                    ProgBar.SetValue(highest);
+                },
+        };
+        loaded = ParseLogFile(edit_, path, steps);
+        HideProgress();
+    }
+    // Without a file, or with one that cannot be opened, the lists stay as they are.
+    if (begun) {
+        ShowPlayers();
+        ShowLog();
+    }
+    if (!loaded) {
+        StatusBar1.SetText(kLoadFailed);
+        return;
+    }
+    AddToLogMRU(edit_.LogMRU, path);
+    RefreshLogMRUMenu();
+    SetCaption(std::string(kFullTitle) + " - " + SplitPath(path).File());
+    StatusBar1.SetText(kLoaded);
+    ApplyLogFilter();
+}
+
+void frmLogEdit::ApplyLogFilter() {
+    if (busy_) return;
+    const Flagged busy(busy_);
+    const size_t highest = edit_.LogLines->LineCount() - 1;
+    ShowProgress("Applying Filter...", highest);
+    const bool applied = quirn::ApplyLogFilter(edit_);
+    ProgBar.SetValue(highest);
+    HideProgress();
+    if (applied) ShowLog();
+}
+
+void frmLogEdit::MovePlayers(VirtualList& from, VirtualList& to) {
+    if (busy_) return;
+    PlayerList& fromPlayers = PlayersOf(from);
+    PlayerList& toPlayers = PlayersOf(to);
+    fromPlayers.Selection() = from.Selection();
+    toPlayers.Selection() = to.Selection();
+    quirn::MovePlayers(fromPlayers, toPlayers);
+    const size_t top = to.TopIndex();
+    from.SelectionRemoved(LongestName(fromPlayers));
+    to.SetCount(toPlayers.Count(), LongestName(toPlayers));
+    to.SetSelection(toPlayers.Selection());
+    to.SetTopIndex(top);
+    UpdateListCounts();
+    if (edit_.applyAtOnce) ApplyLogFilter();
+}
+
+void frmLogEdit::FindInLog(const std::string& text) {
+    const FindList list{
+        .topIndex = [this] { return lstLog.TopIndex(); },
+        .current = [this] { return lstLog.Current(); },
+        .showHit =
+            [this](size_t item) {
+                lstLog.SetTopIndex(item);
+                lstLog.SetCurrent(item);
+                lstLog.Select(item);
+            },
+    };
+    const bool moved = quirn::FindInLog(edit_.view, text, list);
+    edit_.lastSearch = text;
+    if (!moved) ShowMessage(CannotFindText(text), kInformation);
+}
+
+void frmLogEdit::CopySelected() {
+    std::string text;
+    if (lstLog.HasFocus()) {
+        text = edit_.view.SelectedText(lstLog.Selection());
+    } else {
+        const VirtualList& list = lstInclude.HasFocus() ? lstInclude : lstExclude;
+        PlayersOf(list).Selection() = list.Selection();
+        text = PlayersOf(list).SelectedText();
+    }
+    if (!text.empty()) SetClipboardText(text);
+}
+
+PlayerList& frmLogEdit::PlayersOf(const VirtualList& list) {
+    return &list == &lstInclude ? edit_.include : edit_.exclude;
+}
+
+void frmLogEdit::ShowPlayers() {
+    for (VirtualList* list : {&lstInclude, &lstExclude})
+        list->SetCount(PlayersOf(*list).Count(), LongestName(PlayersOf(*list)));
+    UpdateListCounts();
+}
+
+void frmLogEdit::ShowLog() {
+    lstLog.SetCount(edit_.view.Count(), edit_.view.LongestText());
+    StatusBar1.SetSecondText(edit_.view.CountText());
+}
+
+void frmLogEdit::UpdateListCounts() {
+    lblInclude.SetText(IncludeCaption(edit_.include));
+    lblExclude.SetText(ExcludeCaption(edit_.exclude));
+}
+
+void frmLogEdit::ShowProgress(const std::string& caption, uint64_t maximum) {
+    // In the middle of the log.
+    const Bounds& log = lstLog.Place();
+    Bounds place = kProgress;
+    place.left = log.left + (log.width - place.width) / 2;
+    place.top = log.top + (log.height - place.height) / 2;
+    famProgFrame.Move(place);
+    ProgBar.Move({place.left + kProgressBar.left, place.top + kProgressBar.top, kProgressBar.width,
+                  kProgressBar.height});
+    famProgFrame.SetText(caption);
+    famProgFrame.SetForeColor(lstLog.ForeColor());
+    famProgFrame.SetBackColor(lstLog.BackColor());
+    famProgFrame.SetVisible(true);
+    ProgBar.SetRange(maximum);
+    ProgBar.SetVisible(true);
+    famProgFrame.Repaint();
+    ProgBar.Repaint();
+}
+
+void frmLogEdit::HideProgress() {
+    ProgBar.SetVisible(false);
+    famProgFrame.SetVisible(false);
+}
+
+}  // namespace quirn

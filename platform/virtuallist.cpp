@@ -1,0 +1,87 @@
+#include "platform/virtuallist.h"
+
+#include <algorithm>
+
+#include "platform/form.h"
+#include "platform/native.h"
+
+namespace quirn {
+
+VirtualList::VirtualList(Parent parent, const Bounds& place, const std::string& nameForReaders)
+    : Control(parent, ControlKind::VirtualList, place, nameForReaders) {}
+
+const ListSelection& VirtualList::Selection() const {
+    if (selectionIsOld_ && window != nullptr) native::ReadSelection(*this, selection_);
+    selectionIsOld_ = false;
+    return selection_;
+}
+
+size_t VirtualList::TopIndex() const {
+    return window != nullptr ? native::TopIndex(*this) : topIndex_;
+}
+
+void VirtualList::SetCount(size_t count, size_t longestText) {
+    count_ = count;
+    longestText_ = longestText;
+    selection_.Reset(count);
+    selectionIsOld_ = false;
+    current_.reset();
+    topIndex_ = 0;
+    Changed(Aspect::Items);
+}
+
+void VirtualList::SetSelection(const ListSelection& selection) {
+    selection_ = selection;
+    selectionIsOld_ = false;
+    Changed(Aspect::Selection);
+}
+
+void VirtualList::Select(size_t item) {
+    Selection();
+    selection_.Select(item, true);
+    Changed(Aspect::Selection);
+}
+
+void VirtualList::SetCurrent(std::optional<size_t> item) {
+    current_ = item;
+    Changed(Aspect::Value);
+}
+
+void VirtualList::SetTopIndex(size_t item) {
+    topIndex_ = item;
+    if (window != nullptr) native::SetTopIndex(*this, item);
+}
+
+void VirtualList::SelectionRemoved(size_t longestText) {
+    const ListSelection& gone = Selection();
+    const size_t left = count_ - gone.SelectedCount();
+    const size_t top = TopIndex();
+    const size_t newTop = top - gone.SelectedBefore(top);
+    std::optional<size_t> newCurrent;
+    if (current_ && left > 0) newCurrent = std::min(*current_ - gone.SelectedBefore(*current_), left - 1);
+    SetCount(left, longestText);
+    SetCurrent(newCurrent);
+    SetTopIndex(newTop);
+}
+
+void VirtualList::UserClicksItem(size_t item, bool shift, bool control) {
+    Selection();
+    selection_.Click(item, shift, control);
+    current_ = item;
+    Changed(Aspect::Selection);
+}
+
+void VirtualList::UserDoubleClicks() {
+    if (onDoubleClick) CallHandler(onDoubleClick);
+}
+
+void VirtualList::UserPressesRightButton() {
+    if (onRightMouseDown) CallHandler(onRightMouseDown);
+}
+
+void VirtualList::WindowChangedSelection(std::optional<size_t> current) {
+    selectionIsOld_ = true;
+    current_ = current;
+}
+
+}  // namespace quirn

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "platform/control.h"
+#include "platform/listselection.h"
+
+namespace quirn {
+
+// A list of any number of lines with extended selection. It holds no texts: it knows how many items there are, and asks
+// for the text of those that somebody looks at. Indexes count from 0.
+class VirtualList : public Control {
+public:
+    VirtualList(Parent parent, const Bounds& place, const std::string& nameForReaders);
+
+    // What the items are. Asked at any time; an index is always below Count().
+    std::function<std::string(size_t)> itemText;
+    std::function<int32_t(size_t)> itemData;
+
+    size_t Count() const { return count_; }
+    size_t LongestText() const { return longestText_; }  // bytes
+    const ListSelection& Selection() const;
+    std::optional<size_t> Current() const { return current_; }  // the item that the keyboard is at, once it is at one
+    size_t TopIndex() const;                                    // the first visible item
+
+    // Other items: nothing is selected, none is current, and the list is scrolled to its start. longestText: the most
+    // bytes that an item has, for scrolling sideways.
+    void SetCount(size_t count, size_t longestText);
+    void SetSelection(const ListSelection& selection);  // of Count() items
+    void Select(size_t item);                           // beside what is selected
+    void SetCurrent(std::optional<size_t> item);        // scrolls nothing
+    void SetTopIndex(size_t item);                      // or as near to the top as the list's end lets it come
+
+    // The selected items have gone, and the items behind them have moved up. The place of the list stays.
+    void SelectionRemoved(size_t longestText);
+
+    std::function<void()> onDoubleClick;
+    std::function<void()> onRightMouseDown;  // or the keyboard's key for the same
+
+    void UserClicksItem(size_t item, bool shift, bool control);
+    void UserDoubleClicks();
+    void UserPressesRightButton();
+    void WindowChangedSelection(std::optional<size_t> current);  // the window has done what UserClicksItem would
+
+private:
+    size_t count_ = 0;
+    size_t longestText_ = 0;
+    mutable ListSelection selection_;
+    mutable bool selectionIsOld_ = false;  // the window knows a newer one; fetched when somebody asks
+    std::optional<size_t> current_;
+    size_t topIndex_ = 0;  // while there is no window
+};
+
+}  // namespace quirn

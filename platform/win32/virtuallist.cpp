@@ -1,0 +1,243 @@
+#include "platform/virtuallist.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
+#include "platform/native.h"
+#include "platform/win32/metrics.h"
+#include "platform/win32/window.h"
+
+// A list box without data, whose items this program draws: it keeps one byte for each item, so that a million of them
+// is selected in milliseconds.
+namespace quirn {
+
+namespace win32 {
+
+namespace {
+
+LRESULT Send(const VirtualList& list, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    return SendMessageA(WindowOf(list), message, wParam, lParam);
+}
+
+// While it lives the list paints nothing; its scroll place is the same afterwards unless another one is asked for.
+class Unpainted {
+public:
+    explicit Unpainted(const VirtualList& list) : list_(list), top_(Send(list, LB_GETTOPINDEX)) {
+        Send(list, WM_SETREDRAW, FALSE);
+    }
+    ~Unpainted() {
+        Send(list_, LB_SETTOPINDEX, static_cast<WPARAM>(top_));
+        Send(list_, WM_SETREDRAW, TRUE);
+        InvalidateRect(WindowOf(list_), nullptr, TRUE);
+    }
+    void ScrollTo(LRESULT top) { top_ = top; }
+
+private:
+    const VirtualList& list_;
+    LRESULT top_;
+};
+
+constexpr int kTextMargin = 2;  // pixels
+
+// About as much as the longest text needs; when a line that is drawn turns out to be wider, the list learns it then.
+int TextExtent(const VirtualList& list) {
+    const HDC device = GetDC(WindowOf(list));
+    const HGDIOBJ before = SelectObject(device, FontFor(list.FontUsed(), DpiOf(list)));
+    TEXTMETRICA metrics{};
+    GetTextMetricsA(device, &metrics);
+    SelectObject(device, before);
+    ReleaseDC(WindowOf(list), device);
+    const int width = std::max<int>(metrics.tmAveCharWidth, 1);
+    constexpr int kWidest = 1 << 26;  // pixels; coordinates end at twice that
+    const auto characters = static_cast<int>(std::min<size_t>(list.LongestText(), kWidest / width));
+    return characters * width + 2 * kTextMargin;
+}
+
+void ApplySelected(const VirtualList& list) {
+    const ListSelection& selection = list.Selection();
+    const size_t count = selection.SelectedCount();
+    Send(list, LB_SETSEL, count == list.Count(), -1);
+    if (count == 0 || count == list.Count()) return;
+    size_t first = 0, next = 0;  // of the items in a row that are selected
+    const auto finishRow = [&] {
+        if (next > first) Send(list, LB_SELITEMRANGEEX, first, static_cast<LPARAM>(next - 1));
+    };
+    selection.ForEach([&](size_t item) {
+        if (item != next) {
+            finishRow();
+            first = item;
+        }
+        next = item + 1;
+    });
+    finishRow();
+}
+
+void ApplyCurrent(const VirtualList& list) {
+    if (list.Current()) Send(list, LB_SETCARETINDEX, *list.Current(), TRUE);
+}
+
+// A translation between ANSI and Unicode on a text's way to another program may have no more room than this.
+constexpr size_t kLongestAnswer = 511;
+
+std::string AnswerText(const VirtualList& list, WPARAM item) {
+    std::string text = list.itemText(item);
+    if (text.size() > kLongestAnswer) text.resize(kLongestAnswer);
+    return text;
+}
+
+// The message has only 16 bits for the place; the scroll bar knows it in full.
+void ScrollToThumb(const VirtualList& list) {
+    SCROLLINFO info{};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_TRACKPOS;
+    if (GetScrollInfo(WindowOf(list), SB_VERT, &info))
+        Send(list, LB_SETTOPINDEX, static_cast<WPARAM>(info.nTrackPos));
+}
+
+// Piece by piece, since no drawing function takes a line of any length; only pieces in sight are drawn. Returns where
+// the last one measured ends.
+int DrawLine(HDC device, int x, int y, const RECT& area, std::string_view text) {
+    constexpr size_t kPiece = 1024;
+    RECT clip{};
+    GetClipBox(device, &clip);
+    while (!text.empty() && x < clip.right) {
+        const std::string_view piece = text.substr(0, kPiece);
+        text.remove_prefix(piece.size());
+        SIZE size{};
+        const auto length = static_cast<int>(piece.size());
+        GetTextExtentPoint32A(device, piece.data(), length, &size);
+        if (x + size.cx > clip.left)
+            ExtTextOutA(device, x, y, ETO_CLIPPED, &area, piece.data(), static_cast<UINT>(length), nullptr);
+        x += size.cx;
+    }
+    return x;
+}
+
+}  // namespace
+
+void PrepareVirtualList(const VirtualList& list) {
+    // The list box has read its styles. Those who ask it for texts look at them too, and would take a list without
+    // strings for one without texts: screen readers, and the system on a text's way to another program.
+    const HWND window = WindowOf(list);
+    SetWindowLongPtrA(window, GWL_STYLE, GetWindowLongPtrA(window, GWL_STYLE) | LBS_HASSTRINGS);
+}
+
+void ApplyVirtualItems(const VirtualList& list) {
+    Unpainted unpainted(list);
+    Send(list, LB_RESETCONTENT);
+    if (list.Count() > 0) Send(list, LB_SETCOUNT, list.Count());
+    Send(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(TextExtent(list)));
+    unpainted.ScrollTo(0);
+}
+
+void ApplyVirtualSelection(const VirtualList& list) {
+    const Unpainted unpainted(list);
+    ApplySelected(list);
+    ApplyCurrent(list);
+}
+
+void ApplyVirtualCurrent(const VirtualList& list) {
+    const Unpainted unpainted(list);
+    ApplyCurrent(list);
+}
+
+void ApplyVirtualFont(const VirtualList& list, HFONT font) {
+    if (reinterpret_cast<HFONT>(Send(list, WM_GETFONT)) == font) return;
+    const Unpainted unpainted(list);
+    Send(list, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    const HDC device = GetDC(WindowOf(list));
+    const HGDIOBJ before = SelectObject(device, font);
+    TEXTMETRICA metrics{};
+    GetTextMetricsA(device, &metrics);
+    SelectObject(device, before);
+    ReleaseDC(WindowOf(list), device);
+    Send(list, LB_SETITEMHEIGHT, 0, metrics.tmHeight);
+    Send(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(TextExtent(list)));
+}
+
+void DrawVirtualItem(const VirtualList& list, const DRAWITEMSTRUCT& item) {
+    const bool selected = (item.itemState & ODS_SELECTED) != 0;
+    const Color fore = list.ForeColor().value_or(GetSysColor(COLOR_WINDOWTEXT));
+    const Color back = list.BackColor().value_or(GetSysColor(COLOR_WINDOW));
+    SetTextColor(item.hDC, selected ? GetSysColor(COLOR_HIGHLIGHTTEXT) : fore);
+    SetBkColor(item.hDC, selected ? GetSysColor(COLOR_HIGHLIGHT) : back);
+    ExtTextOutA(item.hDC, 0, 0, ETO_OPAQUE, &item.rcItem, nullptr, 0, nullptr);
+    SetBkMode(item.hDC, TRANSPARENT);
+    if (item.itemID < list.Count()) {
+        const int end = DrawLine(item.hDC, item.rcItem.left + kTextMargin, item.rcItem.top, item.rcItem,
+                                 list.itemText(item.itemID));
+        // Later, because it may paint the list anew.
+        const int extent = end + kTextMargin - item.rcItem.left;
+        if (extent > Send(list, LB_GETHORIZONTALEXTENT))
+            PostMessageA(WindowOf(list), LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(extent), 0);
+    }
+    if ((item.itemState & ODS_FOCUS) != 0) DrawFocusRect(item.hDC, &item.rcItem);
+}
+
+void VirtualListCommand(VirtualList& list, WORD code) {
+    if (code == LBN_DBLCLK) list.UserDoubleClicks();
+    if (code != LBN_SELCHANGE) return;
+    const LRESULT caret = Send(list, LB_GETCARETINDEX);
+    const bool there = caret >= 0 && static_cast<size_t>(caret) < list.Count();
+    list.WindowChangedSelection(there ? std::optional(static_cast<size_t>(caret)) : std::nullopt);
+}
+
+std::optional<LRESULT> VirtualListMessage(VirtualList& list, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case LB_GETTEXT: {
+            if (wParam >= list.Count()) return LB_ERR;
+            const std::string text = AnswerText(list, wParam);
+            std::copy_n(text.c_str(), text.size() + 1, reinterpret_cast<char*>(lParam));
+            return static_cast<LRESULT>(text.size());
+        }
+        case LB_GETTEXTLEN:
+            if (wParam >= list.Count()) return LB_ERR;
+            return static_cast<LRESULT>(AnswerText(list, wParam).size());
+        case LB_GETITEMDATA:
+            if (wParam >= list.Count()) return LB_ERR;
+            return list.itemData ? list.itemData(wParam) : 0;
+        case WM_VSCROLL:
+            if (LOWORD(wParam) != SB_THUMBTRACK && LOWORD(wParam) != SB_THUMBPOSITION) return std::nullopt;
+            ScrollToThumb(list);
+            return 0;
+        case WM_RBUTTONDOWN: list.UserPressesRightButton(); return 0;
+        case WM_CONTEXTMENU:
+            if (lParam == -1) list.UserPressesRightButton();  // by the keyboard
+            return 0;
+        default: return std::nullopt;
+    }
+}
+
+}  // namespace win32
+
+namespace native {
+
+using namespace win32;
+
+void ReadSelection(const VirtualList& list, ListSelection& selection) {
+    selection.Reset(list.Count());
+    const LRESULT count = Send(list, LB_GETSELCOUNT);
+    if (count <= 0) return;
+    if (static_cast<size_t>(count) == list.Count()) {
+        selection.SelectAll();
+        return;
+    }
+    std::vector<int> items(static_cast<size_t>(count));
+    Send(list, LB_GETSELITEMS, items.size(), reinterpret_cast<LPARAM>(items.data()));
+    for (const int item : items) selection.Select(static_cast<size_t>(item), true);
+}
+
+size_t TopIndex(const VirtualList& list) {
+    return static_cast<size_t>(Send(list, LB_GETTOPINDEX));
+}
+
+void SetTopIndex(VirtualList& list, size_t item) {
+    Send(list, LB_SETTOPINDEX, item);
+}
+
+}  // namespace native
+
+}  // namespace quirn

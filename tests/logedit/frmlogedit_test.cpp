@@ -1,0 +1,331 @@
+#include "logedit/frmlogedit.h"
+
+#include <string>
+#include <vector>
+
+#include "logedit/logmenuhelp.h"
+#include "logedit/logmenurows.h"
+#include "platform/headless/dialogs.h"
+#include "platform/settings.h"
+#include "tests/testing/userinput.h"
+#include "tests/testing/world.h"
+
+// The log editor's window as the player uses it.
+namespace quirn::test {
+namespace {
+
+using namespace logmenu;
+using Lines = std::vector<std::string>;
+
+const std::string kTitleText = "The Vellick Subspace Manager";
+constexpr char kLog[] =
+    "  Bo> one\r\n"
+    "P Cy> two\r\n"
+    "T Ann> three\r\n"
+    "\r\n"
+    "  Welcome\r\n"
+    "Xx Dee> hidden\r\n"
+    "  Cy> four BO\r\n";
+
+template <class T>
+T& Find(const Form& form, ControlKind kind, const std::string& text) {
+    for (Control* control : form.Controls())
+        if (control->Kind() == kind && control->Text().starts_with(text)) return static_cast<T&>(*control);
+    throw std::runtime_error("no control " + text);
+}
+
+class LogEditTest : public WorldTest {
+protected:
+    LogEditTest() {
+        path_ = Scratch() + "\\monday.log";
+        PutFile(path_, kLog);
+        Start();
+    }
+
+    void Start() {
+        edit_.Forget();
+        form_ = std::make_unique<frmLogEdit>(folder_, edit_);
+        form_->Show();
+    }
+
+    void Open(const std::string& path) {
+        headless::ExpectOpenFile("Open", path);
+        Choose(*form_, mnuFile_Open);
+    }
+
+    VirtualList& List(const char* name) { return Find<VirtualList>(*form_, ControlKind::VirtualList, name); }
+    VirtualList& Log() { return List("Log"); }
+    Button& Press(const char* caption) {
+        Button& button = Find<Button>(*form_, ControlKind::Button, caption);
+        Click(button);
+        return button;
+    }
+    void Tick(const char* caption) { Click(Find<CheckBox>(*form_, ControlKind::CheckBox, caption)); }
+    StatusBar& Status() { return Find<StatusBar>(*form_, ControlKind::StatusBar, ""); }
+
+    static Lines Shown(const VirtualList& list) {
+        Lines lines;
+        for (size_t i = 0; i < list.Count(); ++i) lines.push_back(ShownItem(list, i));
+        return lines;
+    }
+
+    LogEdit edit_;
+    std::string folder_ = Scratch(), path_;
+    std::unique_ptr<frmLogEdit> form_;
+};
+
+TEST_F(LogEditTest, OpeningFiltersAndMovingPlayers) {
+    Open(path_);
+    EXPECT_EQ(headless::LastFileDialog().flags, 4u);
+    EXPECT_EQ(headless::LastFileDialog().folder, folder_);
+    EXPECT_EQ(form_->Caption(), kTitleText + " - monday.log");
+    EXPECT_EQ(ShownText(Status()), "Log file has been loaded");
+    EXPECT_EQ(ShownSecondText(Status()), "Log Lines = 5");
+    EXPECT_EQ(Shown(Log()), (Lines{"  Bo> one", "P Cy> two", "T Ann> three", "  Welcome", "  Cy> four BO"}));
+    EXPECT_EQ(Shown(List("Include")), (Lines{"Ann", "Bo", "Cy", "Dee"}));
+    EXPECT_EQ(List("Include").itemData(2), 2);
+    EXPECT_EQ(Log().itemData(1), 2 * 65536 + 8);
+
+    ClickItem(List("Include"), 1);
+    ClickItem(List("Include"), 2, true);
+    Press(">>");
+    EXPECT_EQ(Shown(List("Exclude")), (Lines{"Bo", "Cy"}));
+    EXPECT_EQ(ShownText(Find<Label>(*form_, ControlKind::Label, "Include")), "Include : (2)");
+    EXPECT_EQ(ShownText(Find<Label>(*form_, ControlKind::Label, "Exclude")), "Exclude : (2)");
+    EXPECT_EQ(Log().Count(), 5u) << "nothing changes before the filter is applied";
+    Press("Apply Filter");
+    EXPECT_EQ(Shown(Log()), (Lines{"T Ann> three", "  Welcome"}));
+
+    Choose(*form_, mnuOptions_Apply);
+    EXPECT_TRUE(form_->MenuBar()->At(mnuOptions_Apply).checked);
+    DoubleClickItem(List("Exclude"), 0);
+    EXPECT_EQ(Shown(Log()), (Lines{"  Bo> one", "T Ann> three", "  Welcome"}));
+    Tick("System messages");
+    EXPECT_EQ(Shown(Log()), (Lines{"  Bo> one", "T Ann> three"}));
+    Choose(*form_, mnuOptions_Apply);
+    Tick("System messages");
+    EXPECT_EQ(Log().Count(), 2u);
+    Choose(*form_, mnuOptions_LineNums);  // applies always
+    EXPECT_EQ(Shown(Log()), (Lines{"{1}   Bo> one", "{3} T Ann> three", "{4}   Welcome"}));
+    EXPECT_EQ(ShownSecondText(Status()), "Log Lines = 3");
+}
+
+TEST_F(LogEditTest, ThePopupsSelectAndDelete) {
+    Open(path_);
+    VirtualList& include = List("Include");
+    ClickItem(include, 1);
+    ChooseFromPopup(include, 1);
+    EXPECT_EQ(include.Selection().SelectedCount(), 3u);
+    EXPECT_FALSE(include.Selection().IsSelected(1));
+    EXPECT_EQ(include.Current(), 1u);
+    ChooseFromPopup(include, 0);
+    EXPECT_EQ(include.Selection().SelectedCount(), 4u);
+    Press(">>");
+    Press("Apply Filter");
+    EXPECT_EQ(Shown(Log()), Lines{"  Welcome"});
+
+    Open(path_);
+    ClickItem(Log(), 1);
+    ClickItem(Log(), 3, false, true);
+    ChooseFromPopup(Log(), 0);
+    EXPECT_EQ(Shown(Log()), (Lines{"  Bo> one", "T Ann> three", "  Cy> four BO"}));
+    EXPECT_EQ(ShownSecondText(Status()), "Log Lines = 3");
+    Press("Apply Filter");
+    EXPECT_EQ(Log().Count(), 5u) << "the filter brings deleted lines back";
+}
+
+TEST_F(LogEditTest, TheKeyboardSelectsCopiesAndDeletes) {
+    Open(path_);
+    Log().SetFocus();
+    quirn::test::Press(*form_, 'A', true);
+    quirn::test::Press(*form_, 'C', true);
+    EXPECT_EQ(Clipboard(), "  Bo> one\r\nP Cy> two\r\nT Ann> three\r\n  Welcome\r\n  Cy> four BO");
+    ClickItem(Log(), 0);
+    quirn::test::Press(*form_, kKeyDelete);
+    EXPECT_EQ(Log().Count(), 4u);
+    ClickItem(List("Include"), 0);
+    quirn::test::Press(*form_, kKeyDelete);
+    EXPECT_EQ(Log().Count(), 4u) << "deletes lines only";
+    quirn::test::Press(*form_, 'A', true);
+    quirn::test::Press(*form_, 'C', true);
+    EXPECT_EQ(Clipboard(), "Ann\r\nBo\r\nCy\r\nDee");
+}
+
+TEST_F(LogEditTest, SavesWhatIsShownAndOpensItAgain) {
+    Open(path_);
+    Choose(*form_, mnuOptions_LineNums);
+    ClickItem(Log(), 2);
+    ChooseFromPopup(Log(), 0);
+    const Lines shown = Shown(Log());
+    const std::string saved = Scratch() + "\\a.b.log";
+    headless::ExpectSaveFile("Save As", saved);
+    Choose(*form_, mnuFile_SaveAs);
+    EXPECT_EQ(headless::LastFileDialog().flags, 6u);
+    EXPECT_EQ(headless::LastFileDialog().fileName, "save.log");
+    EXPECT_EQ(ShownText(Status()), "File has been saved");
+    EXPECT_EQ(FileBytes(saved),
+              "[~ Filtered by QUIRN v1.61 ~]\r\n{1}   Bo> one\r\n{2} P Cy> two\r\n{4}   Welcome\r\n{6}   Cy> four BO\r\n");
+    EXPECT_EQ(form_->MenuBar()->At(mnuFileMRU).caption, "&1 " + saved);
+    EXPECT_EQ(form_->MenuBar()->At(mnuFileMRU + 1).caption, "&2 " + path_);
+    Choose(*form_, mnuOptions_LineNums);
+    Choose(*form_, mnuFileMRU);
+    EXPECT_EQ(form_->Caption(), kTitleText + " - a.b.log");
+    EXPECT_EQ(Shown(Log()), (Lines{"  Bo> one", "P Cy> two", "  Welcome", "  Cy> four BO"}));
+    headless::ExpectSaveFile("Save As", std::nullopt);
+    Choose(*form_, mnuFile_SaveAs);
+    EXPECT_EQ(ShownText(Status()), "Log file has been loaded");
+
+    SetReadOnly(saved);
+    headless::ExpectSaveFile("Save As", saved);
+    ExpectMessage("Error # 75 was generated by QUIRN\rPath/File access error", kPlain, Answer::Ok, "Error");
+    Choose(*form_, mnuFile_SaveAs);
+    EXPECT_EQ(ShownText(Status()), "Log file has been loaded");
+}
+
+TEST_F(LogEditTest, AFileThatIsNotThereLeavesTheLists) {
+    Open(path_);
+    const std::string gone = Scratch() + "\\gone.log";
+    ExpectMessage("ERROR - Could not find log file named '" + gone + "'", kCritical);
+    form_->onDropFile(gone);
+    EXPECT_EQ(ShownText(Status()), "ERROR loading log file");
+    EXPECT_EQ(form_->Caption(), kTitleText + " - monday.log");
+    EXPECT_EQ(Log().Count(), 5u);
+    EXPECT_EQ(Shown(Log())[4], "  Cy> four BO");
+    EXPECT_EQ(List("Include").Count(), 4u);
+    Press("Apply Filter");
+    EXPECT_EQ(Shown(Log()), Lines{""}) << "the lines are gone but for the first, empty one";
+}
+
+TEST_F(LogEditTest, TheSearchGoesDownAndSaysWhenItCannotMove) {
+    std::string log;
+    for (int i = 0; i < 300; ++i) log += i % 100 == 50 ? "  Bob> stop\r\n" : "  Ann> go on\r\n";
+    PutFile(path_, log);
+    Open(path_);
+    edit_.lastSearch = "BOB>";
+    for (const size_t hit : {50u, 150u, 250u}) {
+        quirn::test::Press(*form_, kKeyF3);
+        EXPECT_EQ(ShownTop(Log()), hit);
+        EXPECT_EQ(Log().Current(), hit);
+    }
+    EXPECT_EQ(Log().Selection().SelectedCount(), 3u);
+    ExpectMessage("Cannot find 'BOB>'", kInformation);
+    quirn::test::Press(*form_, kKeyF3);
+    EXPECT_EQ(ShownTop(Log()), 250u);
+    Log().SetTopIndex(0);
+    Log().SetCurrent(std::nullopt);
+    edit_.lastSearch = "ann";  // the first line has it, but the list need not move
+    ExpectMessage("Cannot find 'ann'", kInformation);
+    quirn::test::Press(*form_, kKeyF3);
+    EXPECT_TRUE(Log().Selection().IsSelected(0));
+}
+
+TEST_F(LogEditTest, TheLookIsKeptAndBroughtBack) {
+    const Bounds screen = ScreenArea();
+    EXPECT_NEAR(form_->Place().left, (screen.width - form_->Place().width) / 2, 15);
+    EXPECT_NEAR(form_->Place().top, (screen.height - form_->Place().height) / 2, 15);
+    Open(path_);
+    ClickItem(Log(), 2);
+    headless::ExpectFont(Font{.face = "Courier New", .points = 14, .bold = true, .underline = true});
+    ChooseFromPopup(Log(), 1);
+    EXPECT_EQ(headless::LastFontAsked(), (Font{.face = "Courier New", .points = 9}));
+    EXPECT_TRUE(Log().Selection().IsSelected(2));
+    headless::ExpectColor(0x123456);
+    Choose(*form_, mnuOptions_Color_Foreground);
+    headless::ExpectColor(std::nullopt);
+    Choose(*form_, mnuOptions_Color_Background);
+    EXPECT_EQ(headless::LastColorAsked(), 0xFFFFFFu);
+    form_->Move({300, 450, 12300, 9300});
+    Choose(*form_, mnuFile_Close);
+    EXPECT_FALSE(form_->IsLoaded());
+    const auto stored = [](const char* key) { return GetSetting("Settings", key, "?"); };
+    EXPECT_EQ(stored("LogEditLeft"), "300");
+    EXPECT_EQ(stored("LogEditTop"), "450");
+    EXPECT_EQ(stored("LogEditWidth"), "12300");
+    EXPECT_EQ(stored("LogEditHeight"), "9300");
+    EXPECT_EQ(stored("LogEditFontName"), "Courier New");
+    EXPECT_EQ(stored("LogEditFontSize"), "14");
+    EXPECT_EQ(stored("LogEditFontBold"), "-1");
+    EXPECT_EQ(stored("LogEditFontItalic"), "0");
+    EXPECT_EQ(stored("LogEditForeColor"), "1193046");
+    EXPECT_EQ(stored("LogEditBackColor"), "-2147483643");
+    EXPECT_EQ(GetSetting("MRUList", "LogMRU0", "?"), path_);
+    EXPECT_EQ(GetSetting("MRUList", "LogMRU4", "?"), "");
+
+    SaveSetting("Settings", "LogEditFontItalic", "True");
+    SaveSetting("Settings", "LogEditFontSize", "huge");
+    SaveSetting("Settings", "LogEditBackColor", "255");
+    Start();
+    EXPECT_EQ(form_->Place(), (Bounds{300, 450, 12300, 9300}));
+    EXPECT_EQ(Log().FontUsed(), (Font{.face = "Courier New", .points = 9, .bold = true, .italic = true}));
+    EXPECT_EQ(Log().ForeColor(), 0x123456u);
+    EXPECT_EQ(Log().BackColor(), 255u);
+    EXPECT_EQ(form_->MenuBar()->At(mnuFileMRU).caption, "&1 " + path_);
+    EXPECT_TRUE(form_->MenuBar()->At(mnuFileBarMRU).visible);
+    EXPECT_FALSE(form_->MenuBar()->At(mnuFileMRU + 1).visible);
+    EXPECT_EQ(Log().Count(), 0u);
+}
+
+TEST_F(LogEditTest, TheControlsFollowTheWindow) {
+    for (const Bounds place : {Bounds{0, 0, 10950, 8100}, Bounds{0, 0, 15000, 11000}}) {
+        form_->Move(place);
+        DoEvents();
+        form_->onResize();
+        const int height = form_->InnerHeight();
+        const VirtualList& include = List("Include");
+        const int block = height - StatusBar::kHeight - 800;
+        EXPECT_EQ(Log().Place().width, form_->InnerWidth() - 300);
+        EXPECT_EQ(Log().Place().height, height - include.Place().height - 1500);
+        EXPECT_EQ(include.Place().Bottom(), block);
+        EXPECT_EQ(List("Exclude").Place().Bottom(), block);
+        EXPECT_EQ(Find<Frame>(*form_, ControlKind::Frame, "Include Message").Place().Bottom(), block);
+        const Bounds in = Find<Button>(*form_, ControlKind::Button, "<<").Place();
+        EXPECT_EQ(in.top, include.Place().top);
+        EXPECT_EQ(Find<Button>(*form_, ControlKind::Button, ">>").Place().top, in.Bottom() + 100);
+        EXPECT_EQ(Find<Button>(*form_, ControlKind::Button, "Apply").Place().Bottom(), block);
+        const Bounds label = Find<Label>(*form_, ControlKind::Label, "Include").Place();
+        EXPECT_EQ(label.Bottom() + 30, include.Place().top);
+        EXPECT_GE(label.top, Log().Place().Bottom());
+        const Bounds box = Find<CheckBox>(*form_, ControlKind::CheckBox, "System").Place();
+        EXPECT_GT(box.top, include.Place().top);
+        EXPECT_LT(box.Bottom(), block);
+    }
+}
+
+TEST_F(LogEditTest, MenusHelpInTheFirstPanel) {
+    PointAt(*form_, MenuPart::Item, mnuOptions_LineNums);
+    EXPECT_EQ(ShownText(Status()), "Display line numbers on log list");
+    PointAt(*form_, MenuPart::Nothing, 0);
+    EXPECT_EQ(ShownText(Status()), "");
+    EXPECT_EQ(LogMenuHelpText(mnuInExPopup_Invert), "Invert all selected (highlighted) items in this list");
+    EXPECT_EQ(LogMenuHelpText(mnuFileMRU), "");
+    EXPECT_EQ(LogSystemMenuHelpText(0xF060), "Close this window");
+}
+
+TEST_F(LogEditTest, TheFindDialogSearchesWithEnterAndStaysOnScreen) {
+    Lines searched;
+    std::string last = "old";
+    frmLogFind find([&](const std::string& text) { searched.push_back(text); }, last);
+    for (const int left : {0, ScreenArea().width - 12000}) {
+        form_->Move({left, 0, 10950, 8100});
+        find.Open(*form_);
+        const int right = WorkArea(*form_).Right();
+        EXPECT_EQ(find.Place().left, left == 0 && 10950 + find.Place().width <= right ? 10950
+                                                                                     : right - find.Place().width);
+        TextBox& text = Find<TextBox>(find, ControlKind::TextBox, "old");
+        Button& next = Find<Button>(find, ControlKind::Button, "&Find Next");
+        EXPECT_TRUE(text.HasFocus() && next.Enabled());
+        text.UserEdits("");
+        EXPECT_FALSE(next.Enabled());
+        quirn::test::Press(find, kKeyEnter);
+        Type(text, "new");
+        quirn::test::Press(find, kKeyEnter);
+        Click(next);
+        quirn::test::Press(find, kKeyEscape);
+        EXPECT_FALSE(find.IsLoaded());
+        EXPECT_EQ(searched, (Lines{"", "new", "new"}));
+        searched.clear();
+    }
+}
+
+}  // namespace
+}  // namespace quirn::test
