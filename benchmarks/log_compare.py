@@ -43,16 +43,12 @@ END { for (p in players) n++; print lines " lines, " n " players" }
 """
 
 
-# The C library's own switch for large pages: shows how much of the time is page faults of a hundred megabytes.
-LARGE_PAGES = {"GLIBC_TUNABLES": "glibc.malloc.hugetlb=1"}
-
-
-def run(command, output=os.devnull, environment=None):
+def run(command, output=os.devnull):
     """Runs a command; milliseconds of wall clock, its largest memory in bytes, and the milliseconds that it prints."""
     reading, writing = os.pipe()
     target = writing if output is None else os.open(output, os.O_WRONLY | os.O_CREAT | os.O_TRUNC, 0o644)
     started = time.perf_counter()
-    child = os.posix_spawnp(command[0], command, dict(os.environ, LC_ALL="C", **(environment or {})),
+    child = os.posix_spawnp(command[0], command, dict(os.environ, LC_ALL="C"),
                             file_actions=[(os.POSIX_SPAWN_DUP2, target, 1)])
     _, status, usage = os.wait4(child, 0)
     wall = (time.perf_counter() - started) * 1000
@@ -82,7 +78,6 @@ def compare(title, log, tool, folder, rounds):
         "cat FILE >OTHER": (["cat", log], other),
         "mawk classify and count": (["mawk", MAWK, log], os.devnull),
         "show": ([tool, "show", log], None),
-        "show, large pages": ([tool, "show", log], None),
         "find zzqqxx": ([tool, "find", log, "zzqqxx"], None),
         "save": ([tool, "save", log, saved], None),
     }
@@ -91,7 +86,7 @@ def compare(title, log, tool, folder, rounds):
     memory = 0
     for round_ in range(rounds + 1):
         for name, (command, output) in jobs.items():
-            wall, most, printed = run(command, output, LARGE_PAGES if name.endswith("large pages") else None)
+            wall, most, printed = run(command, output)
             if name == "show":
                 memory = max(memory, most)
             if round_ > 0:  # the first fills the caches
@@ -108,14 +103,10 @@ def compare(title, log, tool, folder, rounds):
     def ratio(over, under):
         return statistics.median(a / b for a, b in zip(over, under))
 
-    large = times["show, large pages"]
     rows = [
         ("show / wc -l", ratio(times["show"], times["wc -l"]), "at most 8"),
         ("show / rg -c '> '", ratio(times["show"], times["rg -c '> '"]), "at most 1.8"),
         ("mawk / show", ratio(times["mawk classify and count"], times["show"]), "at least 9"),
-        ("the same three, large pages: wc", ratio(large, times["wc -l"]), "at most 8"),
-        ("  rg", ratio(large, times["rg -c '> '"]), "at most 1.8"),
-        ("  mawk", ratio(times["mawk classify and count"], large), "at least 9"),
         ("find in memory / rg -i -F -c", ratio(inside["find zzqqxx"], times["rg -i -F -c zzqqxx"]), "at most 0.8"),
         ("save in memory / cat", ratio(inside["save"], times["cat FILE >OTHER"]), "at most 2.5"),
         ("bytes a line besides the file", (memory - size) / lines, "at most 16"),

@@ -2,12 +2,11 @@
 //     bench_log FILE
 // Each round is a fresh log; medians.
 #include <windows.h>
-//
+
 #include <psapi.h>
 
 #include <algorithm>
 #include <cstdio>
-#include <map>
 #include <string>
 #include <vector>
 

@@ -14,7 +14,7 @@ namespace quirn {
 namespace {
 
 // Read and scanned at once: little enough to stay in the cache in between.
-constexpr size_t kReadBytes = 256 * 1024;
+constexpr size_t kReadBytes = size_t{256} * 1024;
 
 constexpr size_t kFetchAhead = 8;  // names
 

@@ -11,8 +11,8 @@ namespace quirn {
 
 namespace {
 
-constexpr size_t kBufferBytes = 1024 * 1024;
-constexpr size_t kLongRun = 64 * 1024;  // bytes; longer ones are not copied before they are written
+constexpr size_t kBufferBytes = size_t{256} * 1024;
+constexpr size_t kLongRun = size_t{64} * 1024;  // bytes; longer ones are not copied before they are written
 
 // Collects small pieces; the first failure stays, and nothing is written after it.
 class Output {

@@ -33,8 +33,4 @@ bool ParsedLog::Allocate(size_t size) {
     return true;
 }
 
-size_t ParsedLog::MemoryUsed() const {
-    return textSize_ + 2 * kMargin + blocks_.size() * sizeof(LineBlock) + players_.capacity() * sizeof(players_[0]);
-}
-
 }  // namespace quirn

@@ -74,9 +74,6 @@ public:
     // Slices of the text.
     const std::vector<std::string_view>& Players() const { return players_; }
 
-    // The bytes that the log takes.
-    size_t MemoryUsed() const;
-
 private:
     friend class LogParser;
 

@@ -72,7 +72,7 @@ const char* TextFinder::Next(const char* from, const char* end) const {
             continue;
         for (int i = 0; i < 4; ++i) {
             for (auto left = static_cast<unsigned>(_mm_movemask_epi8(found[i])); left != 0; left &= left - 1) {
-                const char* const place = at + 16 * i + std::countr_zero(left);
+                const char* const place = at + ptrdiff_t{16} * i + std::countr_zero(left);
                 if (place > last) return nullptr;
                 if (StandsAt(place)) return place;
             }
