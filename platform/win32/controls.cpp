@@ -193,7 +193,8 @@ void PlaceControl(Control& control) {
                  SWP_NOZORDER | SWP_NOACTIVATE);
     ApplyFont(control);
     if (control.Kind() == ControlKind::TabStrip) PlacePages(static_cast<TabStrip&>(control));
-    InvalidateRect(WindowOf(control), nullptr, TRUE);
+    // With its border, of which a move in the middle of other moves may leave parts behind.
+    RedrawWindow(WindowOf(control), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
 }
 
 }  // namespace win32

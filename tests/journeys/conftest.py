@@ -356,6 +356,7 @@ def whole_desk():
         stack.callback(machine.stop)
         user = User(machine, build / "tests/user.exe")
         stack.callback(user.stop)
+        user.ask("icons")
         yield Desk(screen, machine, user)
 
 

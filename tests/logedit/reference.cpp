@@ -71,12 +71,25 @@ int ParseLine(Log& log, const std::string& line) {
     return static_cast<int>(static_cast<uint32_t>(number) << 16) + flags;
 }
 
+// A CR belongs to a line's end only before an LF.
+std::vector<std::string_view> LinesOf(std::string_view file) {
+    std::vector<std::string_view> lines;
+    while (!file.empty()) {
+        const size_t end = file.find('\n');
+        std::string_view line = file.substr(0, end);
+        if (end != std::string_view::npos && line.ends_with('\r')) line.remove_suffix(1);
+        lines.push_back(line);
+        file.remove_prefix(end == std::string_view::npos ? file.size() : end + 1);
+    }
+    return lines;
+}
+
 }  // namespace
 
 Log Parse(std::string_view file) {
     Log log;
     size_t k = 0;
-    for (const std::string_view stored : SplitLines(file)) {
+    for (const std::string_view stored : LinesOf(file)) {
         std::string line(stored);
         log.consumed += line.size() + 2;
         if (Trimmed(line).empty() || Mid(line, 1, 2) == "[~") continue;

@@ -328,6 +328,12 @@ std::string IconName(HWND box) {
     return "unclear";
 }
 
+// icons: learns what the four look like, best while no other window can lie above them.
+std::string Icons(const Words&) {
+    References();
+    return Done();
+}
+
 std::string Message(const Words& words) {
     const HWND box = Window(words);
     if (!IsWindow(box)) return Error("no such window");
@@ -412,10 +418,11 @@ std::string Drop(const Words& words) {
     return Done();
 }
 
-// place WINDOW LEFT TOP: moves it to a point of the screen.
+// place WINDOW LEFT TOP [WIDTH HEIGHT]: moves it to a point of the screen and gives it that size.
 std::string Place(const Words& words) {
-    SetWindowPos(Window(words), nullptr, static_cast<int>(Number(words, 2)), static_cast<int>(Number(words, 3)), 0, 0,
-                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(Window(words), nullptr, static_cast<int>(Number(words, 2)), static_cast<int>(Number(words, 3)),
+                 static_cast<int>(Number(words, 4)), static_cast<int>(Number(words, 5)),
+                 static_cast<UINT>(Word(words, 4).empty() ? SWP_NOSIZE : 0) | SWP_NOZORDER | SWP_NOACTIVATE);
     return Done();
 }
 
@@ -509,6 +516,7 @@ int main() {
         {"windows", Windows},    // [all]: top-level windows, topmost first; visible ones only without "all"
         {"wait", Wait},          // CLASS CAPTION PROCESS MILLISECONDS
         {"controls", Controls},  // WINDOW: its children, all levels
+        {"icons", Icons},
         {"message", Message},    // WINDOW: a message box's caption, text, buttons and icon
         {"press", Press},        // WINDOW BUTTON
         {"type", Type},          // WINDOW TEXT
@@ -519,7 +527,7 @@ int main() {
         {"focus", Focus},          // WINDOW: of its process
         {"drop", Drop},            // WINDOW FILE
         {"panel", Panel},          // STATUSBAR NUMBER
-        {"place", Place},          // WINDOW LEFT TOP
+        {"place", Place},          // WINDOW LEFT TOP [WIDTH HEIGHT]
         {"clipboard", Clipboard},  // TEXT
         {"foreground", Foreground},
         {"hold", Hold},  // FILE
