@@ -45,7 +45,7 @@ public:
             for (int i = 1; i <= section->Count(); ++i)
                 section->Value(i) = section->IsNumber(i) ? std::to_string(Number(2)) : Text();
         const bool listed = Number(2) == 0;
-        profile.Dialog.Value(kServerArena) = listed ? "Beta Drift" : "Gamma " + Text();
+        profile.Dialog.Value(kServerArena) = listed ? "Beta Drift" : "Gamma" + Text();
         profile.Dialog.Value(kServerName) = listed ? "b.example" : Text();
         profile.Dialog.Value(kServerPort) = listed ? "6000" : Text();
         profile.Dialog.Value(kProxyIP) = Number(2) == 0 ? "" : Text() + "." + Text() + "." + Text();
