@@ -19,28 +19,21 @@ inline __m128i In(__m128i bytes, int first, int count) {
 
 }  // namespace sse2
 
-// Bytes that FoldLetters gets wrong: 0x9A, 0x9C, 0x9E, 0xF7 and 0xFF, and a few more that are as rare.
-inline bool NeedsFoldAny(__m128i a, __m128i b) {
-    const auto rare = [](__m128i bytes) {
-        return _mm_or_si128(sse2::In(bytes, 0x80, 0x20), _mm_or_si128(sse2::Is(bytes, 0xF7), sse2::Is(bytes, 0xFF)));
-    };
-    return _mm_movemask_epi8(_mm_or_si128(rare(a), rare(b))) != 0;
+// Bytes below 128.
+inline __m128i FoldAscii(__m128i bytes) {
+    return _mm_sub_epi8(bytes, _mm_and_si128(sse2::In(bytes, 'a', 26), _mm_set1_epi8(0x20)));
 }
 
-// a-z and the accented letters whose capitals stand 32 places before them.
-inline __m128i FoldLetters(__m128i bytes) {
-    const __m128i small = _mm_or_si128(sse2::In(bytes, 'a', 26), sse2::In(bytes, 0xE0, 31));
-    return _mm_sub_epi8(bytes, _mm_and_si128(small, _mm_set1_epi8(0x20)));
-}
-
-// Any byte.
+// Any byte. Most accented letters stand 32 places behind their capitals, as a-z do.
 inline __m128i FoldAny(__m128i bytes) {
+    const __m128i small = _mm_or_si128(sse2::In(bytes, 'a', 26), sse2::In(bytes, 0xE0, 31));
     const __m128i outside =
         _mm_or_si128(_mm_or_si128(sse2::Is(bytes, 0x9A), sse2::Is(bytes, 0x9C)), sse2::Is(bytes, 0x9E));
-    __m128i distance = _mm_and_si128(outside, _mm_set1_epi8(0x10));
+    __m128i distance = _mm_and_si128(small, _mm_set1_epi8(0x20));
+    distance = _mm_or_si128(distance, _mm_and_si128(outside, _mm_set1_epi8(0x10)));
     distance = _mm_or_si128(distance, _mm_and_si128(sse2::Is(bytes, 0xFF), _mm_set1_epi8(0x60)));
     const __m128i division = _mm_and_si128(sse2::Is(bytes, 0xF7), _mm_set1_epi8(0x20));
-    return _mm_add_epi8(_mm_sub_epi8(FoldLetters(bytes), distance), division);
+    return _mm_add_epi8(_mm_sub_epi8(bytes, distance), division);
 }
 
 }  // namespace quirn

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstring>
 #include <new>
+#include <utility>
 
 #include "logedit/logscan.h"
 #include "platform/files.h"
@@ -15,8 +16,6 @@ namespace {
 
 // Read and scanned at once: little enough to stay in the cache in between.
 constexpr size_t kReadBytes = size_t{256} * 1024;
-
-constexpr size_t kFetchAhead = 8;  // names
 
 // What the first character of a prefix says when the second is a blank; 0 for the first characters of lines that need a
 // closer look.
@@ -32,6 +31,12 @@ constexpr std::array<uint16_t, 256> MakePrefixTable() {
     return table;
 }
 constexpr std::array<uint16_t, 256> kPrefixes = MakePrefixTable();
+
+// One of two without a branch, which the compiler would not always do by itself.
+template <class T>
+inline T Select(bool first, T a, T b) {
+    return static_cast<T>(b ^ ((a ^ b) & -static_cast<T>(first)));
+}
 
 // "1", anything else and no digit at all are channel 1.
 inline uint32_t ChannelType(char digit) {
@@ -134,6 +139,9 @@ bool LogParser::ParseWindow(size_t end) {
         const char* const arrow = hasSpeaker ? text + *speaker : line + 3;
         const char* name = line + 2;
         const uint32_t prefix = kPrefixes[static_cast<unsigned char>(*line)];
+        const bool isKill = *kill < next;
+        speaker += hasSpeaker;
+        kill += isKill;
         const bool blanks = (*name == ' ') | (hasSpeaker & (arrow[-1] == ' '));
         const bool squad = hasSpeaker & (*name == '(');
         const char* const nameEnd = arrow - squad;
@@ -145,19 +153,17 @@ bool LogParser::ParseWindow(size_t end) {
         name += ptrdiff_t{2} * ((name[1] == ':') & (nameEnd - name > 1));
         const bool named = hasSpeaker & ((*name != ':') | (name == nameEnd));
 
-        const char digit = line[3] == ':' ? line[2] : arrow[3] == ';' ? arrow[2] : '1';
-        uint32_t type = line[1] == ' ' ? prefix : static_cast<uint32_t>(kUnknown);
-        type = type == kChannel1 ? ChannelType(digit) : type;
-        type = hasSpeaker ? type : static_cast<uint32_t>(kSystem);
-        type = *kill < next ? static_cast<uint32_t>(kKill) : type;
-        type = squad ? static_cast<uint32_t>(kSquad) : type;
+        const bool short1 = line[3] == ':';
+        const char digit2 = Select(arrow[3] == ';', arrow[2], '1');
+        const char digit = Select(short1, line[2], digit2);
+        uint32_t type = Select(line[1] == ' ', prefix, uint32_t{kUnknown});
+        type = Select(type == kChannel1, ChannelType(digit), type);
+        type = Select(hasSpeaker, type, uint32_t{kSystem});
+        type = Select(isKill, uint32_t{kKill}, type);
+        type = Select(squad, uint32_t{kSquad}, type);
 
-        ScanWindow::Speaker& pending = window.pending[window.pendingCount];
-        pending.info = Keep(line, static_cast<size_t>(lineEnd - line), type, directlyNext);
-        pending.name = name;
-        pending.length = static_cast<uint32_t>(nameEnd - name);
-        MakePlayerKey(name, pending.length, pending.key);
-        table_.FetchBucket(pending.key);
+        window.pending[window.pendingCount] = {name, static_cast<uint32_t>(nameEnd - name),
+                                               Keep(line, static_cast<size_t>(lineEnd - line), type, directlyNext)};
         window.pendingCount += named;
     }
     start_ += begin;
@@ -178,11 +184,7 @@ void LogParser::ParseUnusual(std::string_view whole, size_t directlyNext) {
     if (!Decode(whole, line)) return;
     int32_t* const info = Keep(line.text.data(), line.text.size(), line.type, directlyNext);
     if (!line.named) return;
-    ScanWindow::Speaker& pending = window_->pending[window_->pendingCount++];
-    pending.info = info;
-    pending.name = line.name.data();
-    pending.length = static_cast<uint32_t>(line.name.size());
-    MakePlayerKey(pending.name, pending.length, pending.key);
+    window_->pending[window_->pendingCount++] = {line.name.data(), static_cast<uint32_t>(line.name.size()), info};
 }
 
 // Any line, step by step. False when nothing is kept of it.
@@ -246,15 +248,7 @@ void LogParser::AddBlock() {
 }
 
 bool LogParser::NumberPlayers() {
-    for (size_t i = 0; i < window_->pendingCount; ++i) {
-        if (i + kFetchAhead < window_->pendingCount) table_.FetchName(window_->pending[i + kFetchAhead].key);
-        const ScanWindow::Speaker& speaker = window_->pending[i];
-        const auto number = table_.Number(speaker.key, {speaker.name, speaker.length});
-        if (!number) return false;
-        *speaker.info |= static_cast<int32_t>(*number << 16);
-    }
-    window_->pendingCount = 0;
-    return true;
+    return table_.Number({window_->pending, std::exchange(window_->pendingCount, 0)});
 }
 
 Result<std::shared_ptr<const ParsedLog>> ReadLog(const std::string& path,

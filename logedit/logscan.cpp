@@ -28,7 +28,7 @@ Mask Bits(__m128i matches, size_t shift) {
 struct Masks {
     Mask ends = 0;      // LF
     Mask arrows = 0;    // "> "
-    Mask closings = 0;  // ") k"
+    Mask closings = 0;  // ") "
 };
 
 // Written out without a loop, which the compiler would not do by itself.
@@ -38,10 +38,9 @@ inline Masks MakeMasks(const char* text, std::index_sequence<shifts...>) {
     const auto add = [&](size_t shift) {
         const __m128i bytes = Load(text + shift);
         const __m128i blanks = Is(Load(text + shift + 1), ' ');
-        const __m128i ks = Is(Load(text + shift + 2), 'k');
         masks.ends |= Bits(Is(bytes, '\n'), shift);
         masks.arrows |= Bits(_mm_and_si128(Is(bytes, '>'), blanks), shift);
-        masks.closings |= Bits(_mm_and_si128(_mm_and_si128(Is(bytes, ')'), blanks), ks), shift);
+        masks.closings |= Bits(_mm_and_si128(Is(bytes, ')'), blanks), shift);
     };
     (add(shifts * 16), ...);
     return masks;

@@ -17,8 +17,7 @@ inline constexpr size_t kWindowBytes = 8192;
 inline constexpr std::string_view kKilledBy = ") killed by: ";
 inline constexpr uint16_t kNoPlace = 0xFFFF;
 
-// Aligned like the keys of the players, and for the same reason.
-struct alignas(32) ScanWindow {
+struct ScanWindow {
     // Offsets in the window, ascending, each list ended by kNoPlace.
     struct Places {
         uint16_t at[kWindowBytes + 8];
@@ -29,12 +28,6 @@ struct alignas(32) ScanWindow {
     size_t lineEndCount;
 
     // A line with a speaker takes five bytes at least.
-    struct Speaker {
-        PlayerKey key;
-        const char* name;
-        uint32_t length;
-        int32_t* info;  // of the line, which gets the number
-    };
     Speaker pending[kWindowBytes / 5 + 8];
     size_t pendingCount = 0;
 

@@ -1,5 +1,6 @@
 #include "logedit/playertable.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 
@@ -12,23 +13,25 @@ namespace quirn {
 namespace {
 
 constexpr size_t kFirstBuckets = 256;
+constexpr size_t kAtOnce = 256;   // speakers, whose keys stay in the cache
+constexpr size_t kFetchAhead = 8;  // names
 constexpr char kFiller = 'a';  // in no upper-case text, so keys of different lengths differ
 
-// 32 set bytes and 32 clear ones: read from the right place, a mask of the first n bytes.
+// Read from the right place, a mask of the first n bytes, and the filler for all others.
 struct alignas(16) MaskSource {
-    char bytes[2 * kKeyBytes]{};
+    char mask[2 * kKeyBytes]{};
+    char filler[2 * kKeyBytes]{};
     constexpr MaskSource() {
-        for (size_t i = 0; i < kKeyBytes; ++i) bytes[i] = static_cast<char>(-1);
+        for (size_t i = 0; i < kKeyBytes; ++i) {
+            mask[i] = static_cast<char>(-1);
+            filler[kKeyBytes + i] = kFiller;
+        }
     }
 };
 constexpr MaskSource kMaskSource;
 
 __m128i Load(const char* bytes) {
     return _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes));
-}
-
-__m128i Select(__m128i mask, __m128i bytes, __m128i others) {
-    return _mm_or_si128(_mm_and_si128(mask, bytes), _mm_andnot_si128(mask, others));
 }
 
 // Sums of products of neighbouring 32-bit words, each with a constant added: few instructions and no weak bits.
@@ -51,34 +54,66 @@ uint32_t Hash(__m128i low, __m128i high) {
 
 }  // namespace
 
-void MakePlayerKey(const char* name, size_t length, PlayerKey& key) {
-    const size_t inKey = length < kKeyBytes ? length : kKeyBytes;
-    const char* masks = kMaskSource.bytes + kKeyBytes - inKey;
-    const __m128i filler = _mm_set1_epi8(kFiller);
-    const __m128i lowMask = Load(masks);
-    const __m128i highMask = Load(masks + 16);
-    __m128i low = Load(name);
-    __m128i high = Load(name + 16);
-    if (NeedsFoldAny(_mm_and_si128(low, lowMask), _mm_and_si128(high, highMask))) [[unlikely]] {
-        low = FoldAny(low);
-        high = FoldAny(high);
-    } else {
-        low = FoldLetters(low);
-        high = FoldLetters(high);
-    }
-    low = Select(lowMask, low, filler);
-    high = Select(highMask, high, filler);
-    uint32_t hash = Hash(low, high);
-    // Bytes that do not fit into the key count in the hash, or a log of long names would take for ever.
-    for (size_t i = kKeyBytes; i < length; ++i)
-        hash = (hash ^ static_cast<unsigned char>(FoldCase(name[i]))) * 0x01000193u;
-    key.low = low;
-    key.high = high;
-    key.hash = hash;
+PlayerTable::PlayerTable(std::vector<std::string_view>& names)
+    : names_(names),
+      buckets_(kFirstBuckets),
+      mask_(kFirstBuckets - 1),
+      lookUps_(std::make_unique_for_overwrite<LookUp[]>(kAtOnce)) {
+    // Small letters other than the filler: no name's key.
+    const __m128i nobody = _mm_set1_epi8(kFiller + 1);
+    keys_.push_back({nobody, nobody});
 }
 
-PlayerTable::PlayerTable(std::vector<std::string_view>& names)
-    : names_(names), buckets_(kFirstBuckets), mask_(kFirstBuckets - 1) {}
+// First the keys, which lead to the buckets; then, with these in the cache, the names; then the numbers.
+bool PlayerTable::Number(std::span<const Speaker> speakers) {
+    for (; !speakers.empty(); speakers = speakers.subspan(std::min(kAtOnce, speakers.size()))) {
+        const size_t count = std::min(kAtOnce, speakers.size());
+        for (size_t i = 0; i < count; ++i) {
+            MakeLookUp(speakers[i], lookUps_[i]);
+            _mm_prefetch(reinterpret_cast<const char*>(&buckets_[lookUps_[i].hash & mask_]), _MM_HINT_T0);
+        }
+        std::array<uint32_t, kFetchAhead> likely{};
+        for (size_t i = 0; i < count + kFetchAhead; ++i) {
+            uint32_t& slot = likely[i % kFetchAhead];
+            if (i >= kFetchAhead) {
+                const Speaker& speaker = speakers[i - kFetchAhead];
+                const LookUp& lookUp = lookUps_[i - kFetchAhead];
+                const std::string_view name(speaker.name, speaker.length);
+                const uint32_t number = IsNamed(slot, lookUp.key, name) ? slot : Find(lookUp, name);
+                if (number > kMostPlayers) return false;
+                *speaker.info |= static_cast<int32_t>(number << 16);
+            }
+            if (i < count) {
+                slot = LikelyNumber(lookUps_[i].hash);
+                _mm_prefetch(reinterpret_cast<const char*>(&keys_[slot]), _MM_HINT_T0);
+            }
+        }
+    }
+    return true;
+}
+
+inline void PlayerTable::MakeLookUp(const Speaker& speaker, LookUp& lookUp) {
+    const size_t inKey = std::min<size_t>(speaker.length, kKeyBytes);
+    const char* const mask = kMaskSource.mask + kKeyBytes - inKey;
+    const char* const filler = kMaskSource.filler + kKeyBytes - inKey;
+    __m128i low = _mm_and_si128(Load(speaker.name), Load(mask));
+    __m128i high = _mm_and_si128(Load(speaker.name + 16), Load(mask + 16));
+    if (_mm_movemask_epi8(_mm_or_si128(low, high)) == 0) [[likely]] {
+        low = FoldAscii(low);
+        high = FoldAscii(high);
+    } else {
+        low = FoldAny(low);
+        high = FoldAny(high);
+    }
+    low = _mm_or_si128(low, Load(filler));
+    high = _mm_or_si128(high, Load(filler + 16));
+    uint32_t hash = Hash(low, high);
+    // Bytes that do not fit into the key count in the hash, or a log of long names would take for ever.
+    for (size_t i = kKeyBytes; i < speaker.length; ++i)
+        hash = (hash ^ static_cast<unsigned char>(FoldCase(speaker.name[i]))) * 0x01000193u;
+    lookUp.key = {low, high};
+    lookUp.hash = hash;
+}
 
 // The tags of a bucket that are equal to the hash's: two bits for each of the eight.
 inline uint32_t PlayerTable::SameTags(const Bucket& bucket, uint32_t hash) {
@@ -87,42 +122,44 @@ inline uint32_t PlayerTable::SameTags(const Bucket& bucket, uint32_t hash) {
     return static_cast<uint32_t>(_mm_movemask_epi8(_mm_cmpeq_epi16(tags, tag)));
 }
 
-void PlayerTable::FetchName(const PlayerKey& key) const {
-    const Bucket& bucket = buckets_[key.hash & mask_];
-    const int bit = std::countr_zero(SameTags(bucket, key.hash) | 1u << 14);
-    const size_t number = bucket.numbers[bit / 2];
-    if (number != 0) _mm_prefetch(reinterpret_cast<const char*>(&keys_[number - 1]), _MM_HINT_T0);
+// Who is probably meant; 0 when nobody is.
+inline uint32_t PlayerTable::LikelyNumber(uint32_t hash) const {
+    const Bucket& bucket = buckets_[hash & mask_];
+    return bucket.numbers[std::countr_zero(SameTags(bucket, hash) | 1u << 14) / 2];
 }
 
-std::optional<uint32_t> PlayerTable::Number(const PlayerKey& key, std::string_view name) {
-    for (size_t at = key.hash & mask_;; at = (at + 1) & mask_) {
+inline bool PlayerTable::IsNamed(uint32_t number, const Key& key, std::string_view name) const {
+    const Key& stored = keys_[number];
+    const __m128i equal = _mm_and_si128(_mm_cmpeq_epi8(stored.low, key.low), _mm_cmpeq_epi8(stored.high, key.high));
+    return _mm_movemask_epi8(equal) == 0xFFFF && (name.size() < kKeyBytes || SameTail(number, name));
+}
+
+uint32_t PlayerTable::Find(const LookUp& lookUp, std::string_view name) {
+    for (size_t at = lookUp.hash & mask_;; at = (at + 1) & mask_) {
         Bucket& bucket = buckets_[at];
-        for (uint32_t left = SameTags(bucket, key.hash); left != 0;) {
+        for (uint32_t left = SameTags(bucket, lookUp.hash); left != 0;) {
             const int bit = std::countr_zero(left);
             left &= ~(3u << bit);
             const uint32_t number = bucket.numbers[bit / 2];
             if (number == 0) break;
-            const Key& stored = keys_[number - 1];
-            const __m128i equal =
-                _mm_and_si128(_mm_cmpeq_epi8(stored.low, key.low), _mm_cmpeq_epi8(stored.high, key.high));
-            if (_mm_movemask_epi8(equal) == 0xFFFF && (name.size() < kKeyBytes || SameTail(number, name)))
-                return number;
+            if (IsNamed(number, lookUp.key, name)) return number;
         }
-        if (bucket.numbers[kPlayersPerBucket - 1] == 0) return Add(key, name, bucket);
+        if (bucket.numbers[kPlayersPerBucket - 1] == 0) return Add(lookUp, name, bucket);
     }
 }
 
-std::optional<uint32_t> PlayerTable::Add(const PlayerKey& key, std::string_view name, Bucket& bucket) {
+// The new player's number, more than kMostPlayers when there are too many.
+uint32_t PlayerTable::Add(const LookUp& lookUp, std::string_view name, Bucket& bucket) {
     // Before the first player the list holds one empty name, which an empty name finds: the line goes to whoever
     // speaks first afterwards. Kept on purpose.
     if (name.empty() && names_.empty()) return 1;
-    if (names_.size() == kMostPlayers) return std::nullopt;
+    if (names_.size() == kMostPlayers) return kMostPlayers + 1;
     names_.push_back(name);
-    keys_.push_back({key.low, key.high});
-    hashes_.push_back(key.hash);
+    keys_.push_back(lookUp.key);
+    hashes_.push_back(lookUp.hash);
     size_t place = 0;
     while (bucket.numbers[place] != 0) ++place;
-    bucket.tags[place] = static_cast<uint16_t>(key.hash >> 16);
+    bucket.tags[place] = static_cast<uint16_t>(lookUp.hash >> 16);
     bucket.numbers[place] = static_cast<uint16_t>(names_.size());
     if (names_.size() > buckets_.size() * kPlayersPerBucket / 2) Grow();
     return static_cast<uint32_t>(names_.size());

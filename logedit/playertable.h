@@ -4,38 +4,32 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
+#include <memory>
+#include <span>
 #include <string_view>
 #include <vector>
 
 // The distinct players of a log. Finds what a linear, case-blind search through the names from the first on finds.
 namespace quirn {
 
-// A name as it is looked up: its first bytes in upper case, filled up with a byte that no upper-case text holds, and a
-// hash of all of them.
-struct PlayerKey {
-    __m128i low, high;
-    uint32_t hash;
+// Who speaks a line: a name, and where his number is to go.
+struct Speaker {
+    const char* name;  // kKeyBytes readable bytes from here on, whatever the length
+    uint32_t length;
+    int32_t* info;  // the line's info word, still without a player
 };
 
+// Names are compared by this many bytes at once.
 inline constexpr size_t kKeyBytes = 32;
-
-// Fills a key in its place. There must be kKeyBytes readable bytes from the name's start on.
-void MakePlayerKey(const char* name, size_t length, PlayerKey& key);
 
 class PlayerTable {
 public:
     // names: filled by Number, in the order of numbers.
     explicit PlayerTable(std::vector<std::string_view>& names);
 
-    // The player's number, from 1; a new one when the name is new. Nothing when there are too many players.
-    std::optional<uint32_t> Number(const PlayerKey& key, std::string_view name);
-
-    // Fetches what Number will look at: first where the hash leads, and once that is there, the names found there.
-    void FetchBucket(const PlayerKey& key) const {
-        _mm_prefetch(reinterpret_cast<const char*>(&buckets_[key.hash & mask_]), _MM_HINT_T0);
-    }
-    void FetchName(const PlayerKey& key) const;
+    // Puts the speakers' numbers, from 1, into their lines; new ones for names that are new. False when there are too
+    // many players.
+    bool Number(std::span<const Speaker> speakers);
 
 private:
     // Eight players whose hashes end alike, found by comparing eight tags at once. Full ones overflow into the next.
@@ -49,16 +43,29 @@ private:
         __m128i low, high;
     };
 
+
+    // A name as it is looked up: its first bytes in upper case, filled up with a byte that no upper-case text holds,
+    // and a hash of all of them.
+    struct LookUp {
+        Key key;
+        uint32_t hash;
+    };
+
+    static void MakeLookUp(const Speaker& speaker, LookUp& lookUp);
     static uint32_t SameTags(const Bucket& bucket, uint32_t hash);
-    std::optional<uint32_t> Add(const PlayerKey& key, std::string_view name, Bucket& bucket);
+    uint32_t LikelyNumber(uint32_t hash) const;
+    uint32_t Find(const LookUp& lookUp, std::string_view name);
+    uint32_t Add(const LookUp& lookUp, std::string_view name, Bucket& bucket);
+    bool IsNamed(uint32_t number, const Key& key, std::string_view name) const;
     bool SameTail(uint32_t number, std::string_view name) const;
     void Grow();
 
     std::vector<std::string_view>& names_;
-    std::vector<Key> keys_;
+    std::vector<Key> keys_;  // by number; that of number 0 is nobody's
     std::vector<uint32_t> hashes_;
     std::vector<Bucket> buckets_;
     size_t mask_;
+    std::unique_ptr<LookUp[]> lookUps_;
 };
 
 }  // namespace quirn

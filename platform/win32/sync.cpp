@@ -70,6 +70,19 @@ void ApplyOption(const OptionButton& option) {
     SetWindowLongPtrA(window, GWL_STYLE, stops ? style | WS_TABSTOP : style & ~static_cast<LONG_PTR>(WS_TABSTOP));
 }
 
+// Painted at once, since the work that it shows leaves no time for events; but no more often than anybody sees, since
+// painting may take longer than the work.
+void ApplyProgress(const ProgressBar& bar) {
+    constexpr ULONGLONG kPause = 30;  // milliseconds
+    static ULONGLONG paintedAt = 0;
+    const ULONGLONG now = GetTickCount64();
+    const bool atEnd = bar.Step() == 0 || bar.Step() == ProgressBar::kSteps;
+    if (!atEnd && now - paintedAt < kPause) return;
+    paintedAt = now;
+    SendMessageA(WindowOf(bar), PBM_SETPOS, static_cast<WPARAM>(bar.Step()), 0);
+    UpdateWindow(WindowOf(bar));
+}
+
 void ApplyValue(Control& control) {
     const HWND window = WindowOf(control);
     switch (control.Kind()) {
@@ -79,8 +92,7 @@ void ApplyValue(Control& control) {
         case ControlKind::OptionButton: ApplyOption(static_cast<OptionButton&>(control)); break;
         case ControlKind::VirtualList: ApplyVirtualCurrent(static_cast<VirtualList&>(control)); break;
         case ControlKind::ProgressBar:
-            SendMessageA(window, PBM_SETPOS, static_cast<WPARAM>(static_cast<ProgressBar&>(control).Step()), 0);
-            UpdateWindow(window);  // the work that it shows leaves no time for events
+            ApplyProgress(static_cast<ProgressBar&>(control));
             break;
         case ControlKind::TextBox: {
             const WPARAM shown = static_cast<TextBox&>(control).IsMasked() ? static_cast<unsigned char>(kBullet) : 0;
