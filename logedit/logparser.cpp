@@ -37,6 +37,17 @@ template <class T>
 inline T Select(bool first, T a, T b) {
     return static_cast<T>(b ^ ((a ^ b) & -static_cast<T>(first)));
 }
+inline const char* Select(bool first, const char* a, const char* b) {
+    return b + ((a - b) & -static_cast<ptrdiff_t>(first));
+}
+
+// Whether kKilledBy stands here. Looks at 16 bytes.
+inline bool IsKill(const char* at) {
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+    const __m128i text = _mm_loadu_si128(reinterpret_cast<const __m128i*>(") killed by: \0\0"));
+    constexpr int kAll = (1 << kKilledBy.size()) - 1;
+    return (_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, text)) & kAll) == kAll;
+}
 
 // "1", anything else and no digit at all are channel 1.
 inline uint32_t ChannelType(char digit) {
@@ -111,51 +122,55 @@ bool LogParser::ParseWindow(size_t end) {
     ScanWindow& window = *window_;
     const char* const text = Buffer() + start_;
     window.Scan(text, end - start_);
-    if (window.lineEndCount == 0) {
+    if (window.placeCount == 0) {
         searched_ = end;
         return true;
     }
-    const uint16_t* speaker = window.speakers.at;
-    const uint16_t* kill = window.kills.at;
+    const uint16_t* const places = window.places;
     size_t begin = 0;
-    for (size_t i = 0; i < window.lineEndCount; ++i) {
-        const size_t next = window.lineEnds.at[i] + size_t{1};
-        const bool withReturn = (text[static_cast<ptrdiff_t>(next) - 2] == '\r') & (next - 1 > begin);
+    for (size_t i = 0; i < window.placeCount;) {
+        // A usual line has one mark, or none: the kinds of line come in no order that a processor could guess, so it is
+        // parsed nearly without a branch.
+        const size_t first = places[i];
+        const bool hasMark = text[first] != '\n';
+        size_t lineFeed = places[i + hasMark];
+        i += size_t{1} + hasMark;
+        bool unusual = false;
+        while (text[lineFeed] != '\n') [[unlikely]] {
+            unusual |= (text[first] == ')') | (text[lineFeed] == ')');
+            lineFeed = places[i++];
+        }
+
+        const size_t next = lineFeed + 1;
+        const bool withReturn = (text[static_cast<ptrdiff_t>(lineFeed) - 1] == '\r') & (lineFeed > begin);
         const char* const whole = text + begin;
-        const char* const lineEnd = text + next - 1 - withReturn;
+        const char* const lineEnd = text + lineFeed - withReturn;
         const size_t directlyNext = withReturn ? start_ + next : SIZE_MAX;
         consumed_ += static_cast<size_t>(lineEnd - whole) + 2;
+        begin = next;
         const char* line = whole;
         if (*line == '{') [[unlikely]]
             line += TagLength({whole, lineEnd});
-        begin = next;
 
-        // The usual line, nearly without a branch: the kinds of line come in no order that a processor could guess.
         // A few bytes behind a short line may be looked at; what they say is not used.
-        const auto rest = static_cast<size_t>(line + 2 - text);
-        while (*speaker < rest) ++speaker;
-        while (*kill < rest) ++kill;
-        const bool hasSpeaker = *speaker < next;
-        const char* const arrow = hasSpeaker ? text + *speaker : line + 3;
+        const bool hasSpeaker = text[first] == '>';
+        const bool isKill = IsKill(text + first);
+        const char* const arrow = Select(hasSpeaker, text + first, line + 3);
         const char* name = line + 2;
         const uint32_t prefix = kPrefixes[static_cast<unsigned char>(*line)];
-        const bool isKill = *kill < next;
-        speaker += hasSpeaker;
-        kill += isKill;
         const bool blanks = (*name == ' ') | (hasSpeaker & (arrow[-1] == ' '));
         const bool squad = hasSpeaker & (*name == '(');
         const char* const nameEnd = arrow - squad;
         name += squad;
-        if ((prefix == 0) | (lineEnd - line < 3) | blanks | (name >= nameEnd)) [[unlikely]] {
+        unusual |= (prefix == 0) | (lineEnd - line < 3) | blanks | (name >= nameEnd) | (text + first < line + 2);
+        if (unusual) [[unlikely]] {
             ParseUnusual({whole, lineEnd}, directlyNext);
             continue;
         }
         name += ptrdiff_t{2} * ((name[1] == ':') & (nameEnd - name > 1));
         const bool named = hasSpeaker & ((*name != ':') | (name == nameEnd));
 
-        const bool short1 = line[3] == ':';
-        const char digit2 = Select(arrow[3] == ';', arrow[2], '1');
-        const char digit = Select(short1, line[2], digit2);
+        const char digit = Select(line[3] == ':', line[2], Select(arrow[3] == ';', arrow[2], '1'));
         uint32_t type = Select(line[1] == ' ', prefix, uint32_t{kUnknown});
         type = Select(type == kChannel1, ChannelType(digit), type);
         type = Select(hasSpeaker, type, uint32_t{kSystem});

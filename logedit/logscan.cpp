@@ -25,60 +25,43 @@ Mask Bits(__m128i matches, size_t shift) {
     return static_cast<Mask>(static_cast<unsigned>(_mm_movemask_epi8(matches))) << shift;
 }
 
-struct Masks {
-    Mask ends = 0;      // LF
-    Mask arrows = 0;    // "> "
-    Mask closings = 0;  // ") "
-};
-
 // Written out without a loop, which the compiler would not do by itself.
 template <size_t... shifts>
-inline Masks MakeMasks(const char* text, std::index_sequence<shifts...>) {
-    Masks masks;
-    const auto add = [&](size_t shift) {
+inline Mask FindPlaces(const char* text, std::index_sequence<shifts...>) {
+    const auto find = [&](size_t shift) {
         const __m128i bytes = Load(text + shift);
-        const __m128i blanks = Is(Load(text + shift + 1), ' ');
-        masks.ends |= Bits(Is(bytes, '\n'), shift);
-        masks.arrows |= Bits(_mm_and_si128(Is(bytes, '>'), blanks), shift);
-        masks.closings |= Bits(_mm_and_si128(Is(bytes, ')'), blanks), shift);
+        const __m128i beforeBlank = Is(Load(text + shift + 1), ' ');
+        const __m128i closings = _mm_and_si128(Is(bytes, ')'), Is(Load(text + shift + 2), 'k'));
+        const __m128i marks = _mm_or_si128(Is(bytes, '>'), closings);
+        return Bits(_mm_or_si128(Is(bytes, '\n'), _mm_and_si128(marks, beforeBlank)), shift);
     };
-    (add(shifts * 16), ...);
-    return masks;
+    return (find(shifts * 16) | ...);
 }
 
-// Appends the places of a mask's bits. Two at once without asking whether they are there: asking would be guessed wrong
-// too often.
+// Appends the places of a mask's bits: the first without asking whether it is there, because asking would be guessed
+// wrong too often.
 inline uint16_t* Append(uint16_t* out, Mask bits, size_t base) {
-    for (int i = 0; i < 2; ++i) {
-        *out = static_cast<uint16_t>(base + static_cast<size_t>(std::countr_zero(bits)));
-        out += bits != 0;
+    *out = static_cast<uint16_t>(base + static_cast<size_t>(std::countr_zero(bits)));
+    out += bits != 0;
+    bits &= bits - 1;
+    while (bits != 0) [[unlikely]] {
+        *out++ = static_cast<uint16_t>(base + static_cast<size_t>(std::countr_zero(bits)));
         bits &= bits - 1;
     }
-    while (bits != 0) [[unlikely]] {
-            *out++ = static_cast<uint16_t>(base + static_cast<size_t>(std::countr_zero(bits)));
-            bits &= bits - 1;
-        }
     return out;
 }
 
 }  // namespace
 
 void ScanWindow::Scan(const char* text, size_t size) {
-    uint16_t* lineEnd = lineEnds.at;
-    uint16_t* speaker = speakers.at;
-    uint16_t* kill = kills.at;
+    uint16_t* place = places;
     for (size_t base = 0; base < size; base += kMaskBits) {
-        auto [ends, arrows, closings] = MakeMasks(text + base, std::make_index_sequence<kMaskBits / 16>());
-        if (size - base < kMaskBits) ends &= (Mask{1} << (size - base)) - 1;
-        lineEnd = Append(lineEnd, ends, base);
-        speaker = Append(speaker, arrows, base);
-        for (; closings != 0; closings &= closings - 1) {
-            const size_t at = base + static_cast<size_t>(std::countr_zero(closings));
-            if (std::memcmp(text + at, kKilledBy.data(), kKilledBy.size()) == 0) *kill++ = static_cast<uint16_t>(at);
-        }
+        Mask found = FindPlaces(text + base, std::make_index_sequence<kMaskBits / 16>());
+        if (size - base < kMaskBits) found &= (Mask{1} << (size - base)) - 1;
+        place = Append(place, found, base);
     }
-    lineEndCount = static_cast<size_t>(lineEnd - lineEnds.at);
-    *lineEnd = *speaker = *kill = kNoPlace;
+    while (place != places && text[place[-1]] != '\n') --place;
+    placeCount = static_cast<size_t>(place - places);
 }
 
 }  // namespace quirn

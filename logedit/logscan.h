@@ -15,23 +15,17 @@ namespace quirn {
 
 inline constexpr size_t kWindowBytes = 8192;
 inline constexpr std::string_view kKilledBy = ") killed by: ";
-inline constexpr uint16_t kNoPlace = 0xFFFF;
 
 struct ScanWindow {
-    // Offsets in the window, ascending, each list ended by kNoPlace.
-    struct Places {
-        uint16_t at[kWindowBytes + 8];
-    };
-    Places lineEnds;  // of each LF
-    Places speakers;  // of each "> "
-    Places kills;     // of each kKilledBy
-    size_t lineEndCount;
+    // Offsets in the window, ascending, of what may matter: each LF, "> " and ") k". The last one is that of an LF.
+    uint16_t places[kWindowBytes + 8];
+    size_t placeCount;
 
     // A line with a speaker takes five bytes at least.
     Speaker pending[kWindowBytes / 5 + 8];
     size_t pendingCount = 0;
 
-    // Fills the three lists from size bytes. A few bytes behind them are read too, and must be readable.
+    // Fills the places from size bytes. A few bytes behind them are read too, and must be readable.
     void Scan(const char* text, size_t size);
 };
 
