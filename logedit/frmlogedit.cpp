@@ -28,23 +28,14 @@ constexpr int kSmallestHeight = 540 * 15;
 constexpr int kBesideLog = 300;
 constexpr int kBelowLog = 1500;  // and the height of the lists of players
 constexpr int kBelowBlock = 800;  // down to the status bar
-constexpr int kButtonGap = 100;
-constexpr int kLabelGap = 30;
-
-constexpr int kLabelHeight = 195;
-constexpr int kButtonHeight = 345;
-constexpr int kBlockHeight = 1900;
+constexpr int kBlockHeight = PlayerPanel::kInclude.height;
 
 // The tops of the lower block follow the window.
 // clang-format off
 //                             left  top  width  height
 constexpr Bounds kLog{          150, 120, 11600, 3000};
-constexpr Bounds kInclude{      150,   0,  1700, kBlockHeight};
-constexpr Bounds kButtons{     1920,   0,  1150, kButtonHeight};
-constexpr Bounds kExclude{     3140,   0,  1700, kBlockHeight};
+constexpr Bounds kApplyFilter = PlayerPanel::kButtons;
 constexpr Bounds kTypes{       4960,   0,  4700, kBlockHeight};
-constexpr Bounds kProgress{       0,   0,  4800, 900};
-constexpr Bounds kProgressBar{  150, 450,  4500, 270};
 // clang-format on
 
 // The check boxes, in the frame: two columns of six.
@@ -64,27 +55,6 @@ constexpr char kSaved[] = "File has been saved";
 constexpr Color kBlack = Rgb(0, 0, 0);
 constexpr Color kWhite = Rgb(255, 255, 255);
 
-class Flagged {
-public:
-    explicit Flagged(bool& flag) : flag_(flag) { flag_ = true; }
-    ~Flagged() { flag_ = false; }
-
-private:
-    bool& flag_;
-};
-
-void MoveTop(Control& control, int top) {
-    Bounds place = control.Place();
-    place.top = top;
-    control.Move(place);
-}
-
-size_t LongestName(const PlayerList& players) {
-    size_t longest = 0;
-    for (size_t i = 0; i < players.Count(); ++i) longest = std::max(longest, players.Name(i).size());
-    return longest;
-}
-
 }  // namespace
 
 frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
@@ -94,17 +64,10 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
       menuBar_(kLogMenuRows),
       mnuLogEditPopup_(kLogEditPopupRows),
       mnuInExPopup_(kInExPopupRows),
-      popupList_(&lstInclude),
-      famProgFrame(*this, kProgress, "Reading log file...", FrameStyle::Panel),
-      ProgBar(famProgFrame, kProgressBar),
+      progress_(*this, lstLog),
       lstLog(*this, kLog, "Log"),
-      lblInclude(*this, {kInclude.left, 0, kInclude.width, kLabelHeight}, "Include :"),
-      lstInclude(*this, kInclude, "Include"),
-      cmdIn(*this, kButtons, "<<"),
-      cmdOut(*this, kButtons, ">>"),
-      cmdApplyFilter(*this, kButtons, "Apply Filter"),
-      lblExclude(*this, {kExclude.left, 0, kExclude.width, kLabelHeight}, "Exclude :"),
-      lstExclude(*this, kExclude, "Exclude"),
+      players_(*this, edit),
+      cmdApplyFilter(*this, kApplyFilter, "Apply Filter"),
       Frame1(*this, kTypes, "Include Message Types"),
       StatusBar1(*this, kCountPanelWidth),
       find_([this](const std::string& text) { FindInLog(text); }, edit.lastSearch) {
@@ -117,26 +80,14 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
     }
     SetCaption(kFullTitle);
     SetMinimumSize(kSmallestWidth, kSmallestHeight);
-    famProgFrame.SetVisible(false);
-    ProgBar.SetVisible(false);
-
     lstLog.SetFont({.face = "Courier New", .points = 9});
     lstLog.itemText = [this](size_t item) { return edit_.view.Text(item); };
     lstLog.itemData = [this](size_t item) { return edit_.view.Info(item); };
     lstLog.onRightMouseDown = [this] { PopUpMenu(mnuLogEditPopup_, 0); };
-    for (VirtualList* list : {&lstInclude, &lstExclude}) {
-        const PlayerList& players = PlayersOf(*list);
-        list->itemText = [&players](size_t item) { return std::string(players.Name(item)); };
-        list->itemData = [&players](size_t item) { return static_cast<int32_t>(players.Number(item)); };
-        list->onRightMouseDown = [this, list] {
-            popupList_ = list;
-            PopUpMenu(mnuInExPopup_, 0);
-        };
-    }
-    lstInclude.onDoubleClick = [this] { cmdOut_Click(); };
-    lstExclude.onDoubleClick = [this] { cmdIn_Click(); };
-    cmdIn.onClick = [this] { cmdIn_Click(); };
-    cmdOut.onClick = [this] { cmdOut_Click(); };
+    players_.onMove = [this] {
+        if (edit_.applyAtOnce) ApplyLogFilter();
+    };
+    players_.onPopUp = [this] { PopUpMenu(mnuInExPopup_, 0); };
     cmdApplyFilter.onClick = [this] { ApplyLogFilter(); };
 
     SetMenu(menuBar_, {kLogShortcuts.begin(), kLogShortcuts.end()});
@@ -148,10 +99,10 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
 
     onLoad = [this] { Form_Load(); };
     onResize = [this] { Form_Resize(); };
-    onQueryUnload = [this](UnloadMode) { return !busy_; };
+    onQueryUnload = [this](UnloadMode) { return !edit_.busy; };
     onUnload = [this] { return Form_Unload(); };
     onKeyDown = [this](int key, bool control) { return Form_KeyDown(key, control); };
-    onKeyPress = [this](char character) { Form_KeyPress(character); };
+    onKeyPress = [this](char character) { players_.KeyPress(character); };
     onDropFile = [this](const std::string& path) { OpenLog(path); };
 }
 
@@ -182,18 +133,13 @@ void frmLogEdit::Form_Resize() {
     const int width = InnerWidth();
     const int height = InnerHeight();
     const int blockBottom = height - StatusBar::kHeight - kBelowBlock;
-    for (Control* control : {static_cast<Control*>(&lstInclude), static_cast<Control*>(&lstExclude)})
-        MoveTop(*control, blockBottom - control->Place().height);
+    players_.MoveBottom(blockBottom);
     // The frame takes its check boxes along.
     const int down = blockBottom - Frame1.Place().height - Frame1.Place().top;
-    MoveTop(Frame1, Frame1.Place().top + down);
-    for (CheckBox& box : chkFilters) MoveTop(box, box.Place().top + down);
-    lstLog.Move({kLog.left, kLog.top, width - kBesideLog, height - lstInclude.Place().height - kBelowLog});
-    MoveTop(cmdIn, lstInclude.Place().top);
-    MoveTop(cmdOut, cmdIn.Place().Bottom() + kButtonGap);
-    MoveTop(cmdApplyFilter, blockBottom - cmdApplyFilter.Place().height);
-    MoveTop(lblInclude, lstInclude.Place().top - lblInclude.Place().height - kLabelGap);
-    MoveTop(lblExclude, lstExclude.Place().top - lblExclude.Place().height - kLabelGap);
+    Frame1.MoveTop(Frame1.Place().top + down);
+    for (CheckBox& box : chkFilters) box.MoveTop(box.Place().top + down);
+    lstLog.Move({kLog.left, kLog.top, width - kBesideLog, height - kBlockHeight - kBelowLog});
+    cmdApplyFilter.MoveTop(blockBottom - cmdApplyFilter.Place().height);
 }
 
 bool frmLogEdit::Form_Unload() {
@@ -214,10 +160,7 @@ bool frmLogEdit::Form_KeyDown(int key, bool control) {
     if (!control && key == kKeyDelete && lstLog.HasFocus()) {
         mnuLogEditPopup_Delete_Click();
     } else if (control && key == 'A') {
-        auto& list = static_cast<VirtualList&>(*ActiveControl());
-        ListSelection all = list.Selection();
-        all.SelectAll();
-        list.SetSelection(all);
+        static_cast<VirtualList&>(*ActiveControl()).SelectAll();
     } else if (control && key == 'C') {
         CopySelected();
     } else {
@@ -226,27 +169,8 @@ bool frmLogEdit::Form_KeyDown(int key, bool control) {
     return true;
 }
 
-// In a list of players a character leads to the next name that begins with it.
-void frmLogEdit::Form_KeyPress(char character) {
-    for (VirtualList* list : {&lstInclude, &lstExclude}) {
-        if (!list->HasFocus() || static_cast<unsigned char>(character) <= ' ') continue;
-        const PlayerList& players = PlayersOf(*list);
-        for (size_t i = 0; i < players.Count(); ++i) {
-            const size_t item = (list->Current().value_or(players.Count() - 1) + 1 + i) % players.Count();
-            if (players.Name(item).empty() || FoldCase(players.Name(item)[0]) != FoldCase(character)) continue;
-            ListSelection one;
-            one.Reset(players.Count());
-            one.Select(item, true);
-            list->SetSelection(one);
-            list->SetCurrent(item);
-            list->SetTopIndex(item);
-            break;
-        }
-    }
-}
-
 void frmLogEdit::MenuCommand(int command) {
-    if (busy_) return;
+    if (edit_.busy) return;
     switch (command) {
         case mnuFile_Open: mnuFile_Open_Click(); break;
         case mnuFile_SaveAs: mnuFile_SaveAs_Click(); break;
@@ -259,8 +183,8 @@ void frmLogEdit::MenuCommand(int command) {
         case mnuOptions_LineNums: mnuOptions_LineNums_Click(); break;
         case mnuSearch_Find: mnuSearch_Find_Click(); break;
         case mnuLogEditPopup_Delete: mnuLogEditPopup_Delete_Click(); break;
-        case mnuInExPopup_All: mnuInExPopup_All_Click(); break;
-        case mnuInExPopup_Invert: mnuInExPopup_Invert_Click(); break;
+        case mnuInExPopup_All: players_.SelectAll(); break;
+        case mnuInExPopup_Invert: players_.InvertSelection(); break;
         default:
             // By value: opening moves the list's entries.
             if (command >= mnuFileMRU && command < mnuFileBarMRU)
@@ -313,22 +237,10 @@ void frmLogEdit::mnuSearch_Find_Click() {
 }
 
 void frmLogEdit::mnuLogEditPopup_Delete_Click() {
-    if (busy_) return;
+    if (edit_.busy) return;
     edit_.view.Delete(lstLog.Selection());
     lstLog.SelectionRemoved(edit_.view.LongestText());
     StatusBar1.SetSecondText(edit_.view.CountText());
-}
-
-void frmLogEdit::mnuInExPopup_All_Click() {
-    ListSelection all = popupList_->Selection();
-    all.SelectAll();
-    popupList_->SetSelection(all);
-}
-
-void frmLogEdit::mnuInExPopup_Invert_Click() {
-    ListSelection other = popupList_->Selection();
-    other.Invert();
-    popupList_->SetSelection(other);
 }
 
 void frmLogEdit::ChooseLogFont() {
@@ -360,41 +272,30 @@ void frmLogEdit::chkFilters_Click() {
     if (edit_.applyAtOnce) ApplyLogFilter();
 }
 
-void frmLogEdit::cmdIn_Click() {
-    MovePlayers(lstExclude, lstInclude);
-}
-
-void frmLogEdit::cmdOut_Click() {
-    MovePlayers(lstInclude, lstExclude);
-}
-
 void frmLogEdit::OpenLog(const std::string& path) {
-    if (busy_) return;
-    bool loaded = false;
+    if (edit_.busy) return;
     bool begun = false;
-    {
-        const Flagged busy(busy_);
-        const ParseSteps steps{
-            .onReading =
-                [&](uint64_t size) {
-                    begun = true;
-                    for (VirtualList* list : {&lstExclude, &lstInclude, &lstLog}) list->SetCount(0, 0);
-                    ShowProgress("Reading && Parsing Log File...", size);
-                },
-            .onProgress = [&](uint64_t done) { ProgBar.SetValue(done); },
-            .onPlayers =
-                [&](size_t highest) {
-                    ShowProgress("Populating Player List...", highest);
-                    DoEvents();
-                    ProgBar.SetValue(highest);
-                },
-        };
-        loaded = ParseLogFile(edit_, path, steps);
-        HideProgress();
-    }
+    const ParseSteps steps{
+        .onReading =
+            [&](uint64_t size) {
+                begun = true;
+                players_.Empty();
+                lstLog.SetCount(0, 0);
+                progress_.Show("Reading && Parsing Log File...", size);
+            },
+        .onProgress = [&](uint64_t done) { progress_.SetValue(done); },
+        .onPlayers =
+            [&](size_t highest) {
+                progress_.Show("Populating Player List...", highest);
+                DoEvents();
+                progress_.SetValue(highest);
+            },
+        .onEnd = [&] { progress_.Hide(); },
+    };
+    const bool loaded = ParseLogFile(edit_, path, steps);
     // Without a file, or with one that cannot be opened, the lists stay as they are.
     if (begun) {
-        ShowPlayers();
+        players_.Show();
         ShowLog();
     }
     if (!loaded) {
@@ -409,30 +310,14 @@ void frmLogEdit::OpenLog(const std::string& path) {
 }
 
 void frmLogEdit::ApplyLogFilter() {
-    if (busy_) return;
-    const Flagged busy(busy_);
+    if (edit_.busy) return;
     const size_t highest = edit_.LogLines->LineCount() - 1;
-    ShowProgress("Applying Filter...", highest);
-    const bool applied = quirn::ApplyLogFilter(edit_);
-    ProgBar.SetValue(highest);
-    HideProgress();
-    if (applied) ShowLog();
-}
-
-void frmLogEdit::MovePlayers(VirtualList& from, VirtualList& to) {
-    if (busy_) return;
-    PlayerList& fromPlayers = PlayersOf(from);
-    PlayerList& toPlayers = PlayersOf(to);
-    fromPlayers.Selection() = from.Selection();
-    toPlayers.Selection() = to.Selection();
-    quirn::MovePlayers(fromPlayers, toPlayers);
-    const size_t top = to.TopIndex();
-    from.SelectionRemoved(LongestName(fromPlayers));
-    to.SetCount(toPlayers.Count(), LongestName(toPlayers));
-    to.SetSelection(toPlayers.Selection());
-    to.SetTopIndex(top);
-    UpdateListCounts();
-    if (edit_.applyAtOnce) ApplyLogFilter();
+    progress_.Show("Applying Filter...", highest);
+    const Failure failure = quirn::ApplyLogFilter(edit_);
+    progress_.SetValue(highest);
+    progress_.Hide();
+    if (failure) ShowError(failure);
+    else ShowLog();
 }
 
 void frmLogEdit::FindInLog(const std::string& text) {
@@ -452,59 +337,14 @@ void frmLogEdit::FindInLog(const std::string& text) {
 }
 
 void frmLogEdit::CopySelected() {
-    std::string text;
-    if (lstLog.HasFocus()) {
-        text = edit_.view.SelectedText(lstLog.Selection());
-    } else {
-        const VirtualList& list = lstInclude.HasFocus() ? lstInclude : lstExclude;
-        PlayersOf(list).Selection() = list.Selection();
-        text = PlayersOf(list).SelectedText();
-    }
+    const std::string text =
+        lstLog.HasFocus() ? edit_.view.SelectedText(lstLog.Selection()) : players_.SelectedText();
     if (!text.empty()) SetClipboardText(text);
-}
-
-PlayerList& frmLogEdit::PlayersOf(const VirtualList& list) {
-    return &list == &lstInclude ? edit_.include : edit_.exclude;
-}
-
-void frmLogEdit::ShowPlayers() {
-    for (VirtualList* list : {&lstInclude, &lstExclude})
-        list->SetCount(PlayersOf(*list).Count(), LongestName(PlayersOf(*list)));
-    UpdateListCounts();
 }
 
 void frmLogEdit::ShowLog() {
     lstLog.SetCount(edit_.view.Count(), edit_.view.LongestText());
     StatusBar1.SetSecondText(edit_.view.CountText());
-}
-
-void frmLogEdit::UpdateListCounts() {
-    lblInclude.SetText(IncludeCaption(edit_.include));
-    lblExclude.SetText(ExcludeCaption(edit_.exclude));
-}
-
-void frmLogEdit::ShowProgress(const std::string& caption, uint64_t maximum) {
-    // In the middle of the log.
-    const Bounds& log = lstLog.Place();
-    Bounds place = kProgress;
-    place.left = log.left + (log.width - place.width) / 2;
-    place.top = log.top + (log.height - place.height) / 2;
-    famProgFrame.Move(place);
-    ProgBar.Move({place.left + kProgressBar.left, place.top + kProgressBar.top, kProgressBar.width,
-                  kProgressBar.height});
-    famProgFrame.SetText(caption);
-    famProgFrame.SetForeColor(lstLog.ForeColor());
-    famProgFrame.SetBackColor(lstLog.BackColor());
-    famProgFrame.SetVisible(true);
-    ProgBar.SetRange(maximum);
-    ProgBar.SetVisible(true);
-    famProgFrame.Repaint();
-    ProgBar.Repaint();
-}
-
-void frmLogEdit::HideProgress() {
-    ProgBar.SetVisible(false);
-    famProgFrame.SetVisible(false);
 }
 
 }  // namespace quirn

@@ -44,10 +44,10 @@ frmLogFind::frmLogFind(std::function<void(const std::string&)> find, const std::
 void frmLogFind::Open(Form& owner) {
     if (IsLoaded()) {
         BringToFront();
-        return;
+    } else {
+        owner_ = &owner;
+        ShowOwned(owner);
     }
-    owner_ = &owner;
-    ShowOwned(owner);
     Text1.SetFocus();
     Text1.SelectAll();
 }

@@ -1,6 +1,8 @@
 #include "logedit/logedit.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "logedit/logparser.h"
 #include "platform/dialogs.h"
@@ -17,6 +19,36 @@ std::string LogNotFoundText(const std::string& path) {
     return "ERROR - Could not find log file named '" + path + "'";
 }
 
+namespace {
+
+// While it lives, the editor is busy.
+class Work {
+public:
+    Work(LogEdit& edit, const std::function<void()>& onEnd) : edit_(edit), onEnd_(onEnd) { edit_.busy = true; }
+    ~Work() {
+        edit_.busy = false;
+        if (onEnd_) onEnd_();
+    }
+    Work(const Work&) = delete;
+    Work& operator=(const Work&) = delete;
+
+private:
+    LogEdit& edit_;
+    const std::function<void()>& onEnd_;
+};
+
+// What a file that could not be read leaves.
+void Clear(LogEdit& edit, const RuntimeError& error) {
+    if (error.number == static_cast<int>(ErrorNumber::OutOfMemory)) return;
+    edit.LogLines = std::make_shared<ParsedLog>();
+    if (error.number != static_cast<int>(ErrorNumber::Overflow)) return;
+    edit.include.Clear();
+    edit.exclude.Clear();
+    edit.view.Clear();
+}
+
+}  // namespace
+
 bool ParseLogFile(LogEdit& edit, const std::string& path, const ParseSteps& steps) {
     edit.LogFilterMask = BuildFilterMask(edit.chkFilters);
     if (!FileExists(path)) {
@@ -24,31 +56,24 @@ bool ParseLogFile(LogEdit& edit, const std::string& path, const ParseSteps& step
         ShowMessage(LogNotFoundText(path), kCritical);
         return false;
     }
+    std::optional<Work> work(std::in_place, edit, steps.onEnd);
     Result<std::shared_ptr<const ParsedLog>> log = ReadLog(path, steps.onReading, steps.onProgress);
     if (log.Failed()) {
-        const int number = log.Error().number;
-        if (number != static_cast<int>(ErrorNumber::OutOfMemory)) edit.LogLines = std::make_shared<ParsedLog>();
-        if (number == static_cast<int>(ErrorNumber::Overflow)) {
-            edit.include.Clear();
-            edit.exclude.Clear();
-            edit.view.Clear();
-        }
-        ShowError(log.Error());
-        return false;
+        Clear(edit, log.Error());
+    } else {
+        edit.LogLines = log.Take();
+        edit.exclude.Clear();
+        edit.view.Clear();
+        if (steps.onPlayers) steps.onPlayers(std::max<size_t>(edit.LogLines->Players().size(), 2) - 1);
+        edit.include.Fill(edit.LogLines);
     }
-    edit.LogLines = log.Take();
-    edit.exclude.Clear();
-    edit.view.Clear();
-    if (steps.onPlayers) steps.onPlayers(std::max<size_t>(edit.LogLines->Players().size(), 2) - 1);
-    edit.include.Fill(edit.LogLines);
-    return true;
+    work.reset();
+    if (log.Failed()) ShowError(log.Error());
+    return !log.Failed();
 }
 
-bool ApplyLogFilter(LogEdit& edit) {
-    const Failure failure =
-        edit.view.ApplyLogFilter(edit.LogLines, edit.LogFilterMask, edit.include, edit.exclude, edit.lineNumbers);
-    ShowError(failure);
-    return !failure;
+Failure ApplyLogFilter(LogEdit& edit) {
+    return edit.view.ApplyLogFilter(edit.LogLines, edit.LogFilterMask, edit.include, edit.exclude, edit.lineNumbers);
 }
 
 }  // namespace quirn

@@ -24,6 +24,7 @@ struct LogEdit {
     LogView view;                  // lstLog
     LogMRUList LogMRU;
     std::string lastSearch;
+    bool busy = false;  // parsing or filtering: what the player does in the meantime is not done
 
     // What the main window's Log menu does before it shows the window: no lines, no search text.
     void Forget();
@@ -38,6 +39,8 @@ struct ParseSteps {
     // The player lists are being filled: "Populating Player List...", the bar from 0 to highest (1 at least); pending
     // events run once.
     std::function<void(size_t highest)> onPlayers;
+    // The work is over; what went wrong is told next.
+    std::function<void()> onEnd;
 };
 
 // Reads and parses a log. True: LogLines holds it, the include list its players, the exclude list and the view are
@@ -49,8 +52,7 @@ bool ParseLogFile(LogEdit& edit, const std::string& path, const ParseSteps& step
 // "ERROR - Could not find log file named '...'"
 std::string LogNotFoundText(const std::string& path);
 
-// Rebuilds the view from LogLines, the mask and the lists. False, after a message, when memory ran out; the view is
-// then as before.
-bool ApplyLogFilter(LogEdit& edit);
+// Rebuilds the view from LogLines, the mask and the lists. When memory runs out the view stays as it was.
+Failure ApplyLogFilter(LogEdit& edit);
 
 }  // namespace quirn

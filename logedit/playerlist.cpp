@@ -1,7 +1,7 @@
 #include "logedit/playerlist.h"
 
 #include <algorithm>
-#include <iterator>
+#include <array>
 
 #include "platform/text.h"
 
@@ -9,19 +9,55 @@ namespace quirn {
 
 namespace {
 
+// The letter that an accented one is sorted with, from 0xC0 on in upper case; itself for what is no letter.
+constexpr char kLetters[] = "AAAAAAACEEEEIIIIDNOOOOO\xD7OUUUUYTS";
+
+// Where a character stands in the alphabet, from 1, as the system's sorted lists have it: whatever is neither letter nor
+// digit, the digits, the letters. Accents count only between names that are the same without them.
+constexpr std::array<uint8_t, 256> MakeAlphabet() {
+    std::array<uint8_t, 256> places{};
+    constexpr int kDigits = 200, kFirstLetter = kDigits + 10;
+    int others = 1;
+    for (int c = 0; c < 256; ++c) {
+        int letter = c;
+        if (c >= 'a' && c <= 'z') letter = c - ('a' - 'A');
+        else if (c >= 0xC0 && c != 0xF7) letter = static_cast<unsigned char>(kLetters[c % 32]);
+        else if (c == 0x8A || c == 0x9A) letter = 'S';
+        else if (c == 0x8C || c == 0x9C) letter = 'O';
+        else if (c == 0x8E || c == 0x9E) letter = 'Z';
+        else if (c == 0x9F) letter = 'Y';
+        int place = 0;
+        if (letter >= 'A' && letter <= 'Z') place = kFirstLetter + letter - 'A';
+        else if (c >= '0' && c <= '9') place = kDigits + c - '0';
+        else place = others++;
+        places[static_cast<size_t>(c)] = static_cast<uint8_t>(place);
+    }
+    return places;
+}
+constexpr std::array<uint8_t, 256> kAlphabet = MakeAlphabet();
+static_assert(kAlphabet[0xF7] < kAlphabet['0']);  // there is room for all the others
+
+uint8_t PlaceOf(char c) {
+    return kAlphabet[static_cast<unsigned char>(c)];
+}
+
+// The places of the first eight characters.
 uint64_t StartOf(std::string_view name) {
     uint64_t start = 0;
-    for (size_t i = 0; i < 8; ++i) {
-        const char c = i < name.size() ? FoldCase(name[i]) : '\0';
-        start = start << 8 | static_cast<unsigned char>(c);
-    }
+    for (size_t i = 0; i < 8; ++i) start = start << 8 | (i < name.size() ? PlaceOf(name[i]) : 0u);
     return start;
 }
 
 }  // namespace
 
 bool PlayerList::Item::operator<(const Item& other) const {
-    return start != other.start ? start < other.start : LessNoCase()(name, other.name);
+    if (start != other.start) return start < other.start;
+    const auto before = [](char a, char b) { return PlaceOf(a) < PlaceOf(b); };
+    const auto less = [&](std::string_view a, std::string_view b) {
+        return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), before);
+    };
+    if (less(name, other.name)) return true;
+    return !less(other.name, name) && LessNoCase()(name, other.name);
 }
 
 void PlayerList::Fill(std::shared_ptr<const ParsedLog> log) {

@@ -33,7 +33,7 @@ private:
     friend void MovePlayers(PlayerList& from, PlayerList& to);
 
     struct Item {
-        uint64_t start;  // the first eight bytes in upper case; decides most comparisons
+        uint64_t start;  // of the name, as it is sorted; decides most comparisons
         std::string_view name;
         uint32_t number;
 

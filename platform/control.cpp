@@ -69,6 +69,12 @@ void Control::Move(const Bounds& place) {
     Changed(Aspect::Place);
 }
 
+void Control::MoveTop(int top) {
+    Bounds place = place_;
+    place.top = top;
+    Move(place);
+}
+
 void Control::SetFont(const Font& font) {
     font_ = font;
     Changed(Aspect::Font);

@@ -124,6 +124,7 @@ public:
     void SetEnabled(bool enabled);
     void SetVisible(bool visible);
     void Move(const Bounds& place);
+    void MoveTop(int top);
     void SetFont(const Font& font);
     void SetForeColor(std::optional<Color> color);
     void SetBackColor(std::optional<Color> color);

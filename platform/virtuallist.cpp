@@ -42,6 +42,13 @@ void VirtualList::Select(size_t item) {
     Changed(Aspect::Selection);
 }
 
+void VirtualList::SelectAll() {
+    ListSelection all;
+    all.Reset(count_);
+    all.SelectAll();
+    SetSelection(all);
+}
+
 void VirtualList::SetCurrent(std::optional<size_t> item) {
     current_ = item;
     Changed(Aspect::Value);

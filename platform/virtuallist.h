@@ -31,6 +31,7 @@ public:
     void SetCount(size_t count, size_t longestText);
     void SetSelection(const ListSelection& selection);  // of Count() items
     void Select(size_t item);                           // beside what is selected
+    void SelectAll();
     void SetCurrent(std::optional<size_t> item);        // scrolls nothing
     void SetTopIndex(size_t item);                      // or as near to the top as the list's end lets it come
 

@@ -4,6 +4,7 @@
 
 #include <cderr.h>  // these need windows.h first
 #include <commdlg.h>
+#include <dlgs.h>
 
 #include <algorithm>
 
@@ -52,6 +53,13 @@ std::optional<std::string> AskFile(const FileDialog& dialog, FileFunction ask) {
     return path.c_str();
 }
 
+// A font has no colour here: the list of colours that comes with underline and strikeout would promise one.
+UINT_PTR CALLBACK HideColors(HWND dialog, UINT message, WPARAM, LPARAM) {
+    if (message == WM_INITDIALOG)
+        for (const int control : {stc4, cmb4}) ShowWindow(GetDlgItem(dialog, control), SW_HIDE);
+    return 0;
+}
+
 }  // namespace
 
 Answer ShowMessage(const std::string& text, unsigned style, const std::string& caption) {
@@ -90,7 +98,8 @@ std::optional<Font> AskFont(const Font& current) {
     record.lStructSize = sizeof(record);
     record.hwndOwner = GetActiveWindow();
     record.lpLogFont = &description;
-    record.Flags = CF_SCREENFONTS | CF_EFFECTS | CF_INITTOLOGFONTSTRUCT | CF_FORCEFONTEXIST;
+    record.Flags = CF_SCREENFONTS | CF_EFFECTS | CF_INITTOLOGFONTSTRUCT | CF_FORCEFONTEXIST | CF_ENABLEHOOK;
+    record.lpfnHook = HideColors;
     if (!ChooseFontA(&record)) return std::nullopt;
     return Font{.face = description.lfFaceName,
                 .points = std::max(record.iPointSize / kTenthsPerPoint, 1),

@@ -1,5 +1,6 @@
 """The log editor in the shipped program: the player's way through a log, and what he finds in the file afterwards."""
 import re
+import unicodedata
 
 from conftest import wait_for
 from player import Player, start
@@ -50,6 +51,13 @@ class LogEditor(Player):
             self.xdo("keyup", key)
 
 
+def alphabetical(name):
+    """Symbols, digits, letters; accents last."""
+    letters = unicodedata.normalize("NFD", name.upper().replace("Ø", "O"))
+    plain = [c for c in letters if not unicodedata.combining(c)]
+    return [(c.isalnum() + c.isalpha(), c) for c in plain], name.upper()
+
+
 def expected_lines(path, types, excluded):
     """Line number and line of what is shown, by the rules of the log format and not by the program's code."""
     lines, players, shown = [], {}, []
@@ -82,7 +90,7 @@ def expected_lines(path, types, excluded):
             kind = "system"
         if kind in types and name.decode("cp1252").upper() not in [n.upper() for n in excluded]:
             shown.append((number, line))
-    return len(lines), shown, sorted(players.values(), key=str.upper)
+    return len(lines), shown, sorted(players.values(), key=alphabetical)
 
 
 ALL = {"public", "private", "team", "freq", "channel 1", "channel 2", "channel 3", "channel 4", "squad", "kill", "system"}
@@ -177,6 +185,15 @@ def test_the_find_dialog_walks_down_the_log_and_says_when_it_cannot(desk):
     editor.command(CLOSE)
     editor.gone()
     wait_for(lambda: not [w for w in editor.quirn.windows() if w["caption"] == "Find"], what="the dialog's end")
+
+
+def test_the_program_can_end_while_a_missing_log_is_told_of(desk):
+    editor = LogEditor(desk)
+    editor.user.ask("drop", editor.handle, r"C:\SubSpace\gone.log")
+    box = editor.quirn.box()
+    assert box.text == r"ERROR - Could not find log file named 'C:\SubSpace\gone.log'"
+    editor.quirn.choose(EXIT)
+    editor.quirn.ended()
 
 
 def test_the_window_has_a_smallest_size_help_and_an_end_with_the_program(desk):

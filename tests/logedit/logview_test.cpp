@@ -91,6 +91,13 @@ TEST_F(LogViewTest, FiltersByTypeAndPlayer) {
     EXPECT_EQ(BuildFilterMask({0, 0, 0, 0, 1, 0, 0, 0, 1, 0, 2}), static_cast<uint32_t>(kChannel1 | kSquad));
 }
 
+TEST_F(LogViewTest, ListsPlayersInAlphabeticalOrder) {
+    Open(
+        "  zed> 1\r\n  \xD8rn> 2\r\n  Oslo> 3\r\n  _x_> 4\r\n  2fast> 5\r\n"
+        "  OSKAR \xE4> 6\r\n  oskar a> 7\r\n  oskar> 8\r\n");
+    EXPECT_EQ(Names(include), "_x_,2fast,\xD8rn,oskar,oskar a,OSKAR \xE4,Oslo,zed,");
+}
+
 TEST_F(LogViewTest, NumbersLinesAndDeletesThem) {
     std::string text;
     for (int i = 1; i <= 999; ++i) text += (i % 2 == 0 ? "  bob> x\r\n" : "T Ann> y\r\n");

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "logedit/logedit.h"
+#include "platform/form.h"
+#include "platform/virtuallist.h"
+
+namespace quirn {
+
+// The two lists of players below the log, and the buttons that move names from one to the other.
+class PlayerPanel {
+public:
+    static constexpr Bounds kInclude{150, 0, 1700, 1900};
+    static constexpr Bounds kButtons{1920, 0, 1150, 345};
+    static constexpr Bounds kExclude{3140, 0, 1700, 1900};
+
+    // edit outlives the panel.
+    PlayerPanel(Form& form, LogEdit& edit);
+
+    std::function<void()> onMove;   // players have changed lists
+    std::function<void()> onPopUp;  // the menu mnuInExPopup is wanted; its commands are for the list that was clicked
+
+    void MoveBottom(int bottom);  // where the lists end, in twips from the form's upper edge
+
+    void Empty();              // before a log is read
+    void Show();               // what the edit's lists hold, nothing selected
+    void UpdateListCounts();
+
+    void KeyPress(char character);  // in a list it leads to the next name that begins with it
+    void SelectAll();               // in the list of the menu
+    void InvertSelection();
+    std::string SelectedText();     // of the list that has the keyboard, CR LF between names; else empty
+
+private:
+    void cmdIn_Click();
+    void cmdOut_Click();
+    void MovePlayers(VirtualList& from, VirtualList& to);
+    PlayerList& PlayersOf(const VirtualList& list);
+
+    LogEdit& edit_;
+    VirtualList* popupList_;  // that mnuInExPopup was opened on
+
+    Label lblInclude;
+    VirtualList lstInclude;
+    Button cmdIn, cmdOut;
+    Label lblExclude;
+    VirtualList lstExclude;
+};
+
+}  // namespace quirn
