@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "platform/version.h"
+#include "platform/win32/metrics.h"
 
 namespace quirn {
 
@@ -83,17 +84,19 @@ std::optional<std::string> AskSaveFile(const FileDialog& dialog) {
 }
 
 std::optional<Font> AskFont(const Font& current) {
+    LOGFONTA description{};
     const HDC screen = GetDC(nullptr);
     const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
+    // The face that is really used, which the list of fonts has, should another one stand in for a missing font.
+    SelectObject(screen, win32::FontFor(current, dpi));
+    GetTextFaceA(screen, LF_FACESIZE, description.lfFaceName);
     ReleaseDC(nullptr, screen);
-    LOGFONTA description{};
     description.lfHeight = -MulDiv(current.points, dpi, kPointsPerInch);
     description.lfWeight = current.bold ? FW_BOLD : FW_NORMAL;
     description.lfItalic = current.italic;
     description.lfUnderline = current.underline;
     description.lfStrikeOut = current.strikeout;
     description.lfCharSet = DEFAULT_CHARSET;
-    current.face.copy(description.lfFaceName, LF_FACESIZE - 1);
     CHOOSEFONTA record{};
     record.lStructSize = sizeof(record);
     record.hwndOwner = GetActiveWindow();
