@@ -1,5 +1,7 @@
 #include "logedit/playerlist.h"
 
+#include <xmmintrin.h>
+
 #include <algorithm>
 #include <array>
 
@@ -50,14 +52,13 @@ uint64_t StartOf(std::string_view name) {
 
 }  // namespace
 
-bool PlayerList::Item::operator<(const Item& other) const {
-    if (start != other.start) return start < other.start;
-    const auto before = [](char a, char b) { return PlaceOf(a) < PlaceOf(b); };
-    const auto less = [&](std::string_view a, std::string_view b) {
-        return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), before);
-    };
-    if (less(name, other.name)) return true;
-    return !less(other.name, name) && LessNoCase()(name, other.name);
+bool PlayerList::Before::operator()(const Item& a, const Item& b) const {
+    if (a.start != b.start) return a.start < b.start;
+    const std::string_view x = names[a.number - 1], y = names[b.number - 1];
+    const auto [left, right] = std::mismatch(x.begin(), x.end(), y.begin(), y.end(),
+                                             [](char c, char d) { return PlaceOf(c) == PlaceOf(d); });
+    if (right == y.end()) return left == x.end() && LessNoCase()(x, y);
+    return left == x.end() || PlaceOf(*left) < PlaceOf(*right);
 }
 
 void PlayerList::Fill(std::shared_ptr<const ParsedLog> log) {
@@ -66,9 +67,13 @@ void PlayerList::Fill(std::shared_ptr<const ParsedLog> log) {
     const std::vector<std::string_view>& players = log_->Players();
     if (players.size() < 2) return;
     items_.reserve(players.size());
-    for (size_t i = 0; i < players.size(); ++i)
-        items_.push_back({StartOf(players[i]), players[i], static_cast<uint32_t>(i + 1)});
-    std::sort(items_.begin(), items_.end());
+    for (size_t i = 0; i < players.size(); ++i) {
+        // The names lie all over the log.
+        constexpr size_t kAhead = 16;
+        if (i + kAhead < players.size()) _mm_prefetch(players[i + kAhead].data(), _MM_HINT_T0);
+        items_.push_back({StartOf(players[i]), static_cast<uint32_t>(i + 1)});
+    }
+    std::sort(items_.begin(), items_.end(), Before{players});
     selection_.Reset(items_.size());
 }
 
@@ -76,7 +81,7 @@ std::string PlayerList::SelectedText() const {
     std::string text;
     selection_.ForEach([&](size_t item) {
         if (!text.empty()) text += "\r\n";
-        text += items_[item].name;
+        text += Name(item);
     });
     return text;
 }
@@ -93,8 +98,9 @@ void MovePlayers(PlayerList& from, PlayerList& to) {
     ListSelection selection;
     selection.Reset(to.items_.size() + moved.size());
     auto next = moved.begin();
+    const PlayerList::Before before{from.log_->Players()};
     for (size_t i = 0; i < to.items_.size(); ++i) {
-        while (next != moved.end() && *next < to.items_[i]) merged.push_back(*next++);
+        while (next != moved.end() && before(*next, to.items_[i])) merged.push_back(*next++);
         selection.Select(merged.size(), to.selection_.IsSelected(i));
         merged.push_back(to.items_[i]);
     }

@@ -20,7 +20,7 @@ public:
     void Clear() { *this = PlayerList(); }
 
     size_t Count() const { return items_.size(); }
-    std::string_view Name(size_t item) const { return items_[item].name; }
+    std::string_view Name(size_t item) const { return log_->Players()[Number(item) - 1]; }
     uint32_t Number(size_t item) const { return items_[item].number; }
 
     ListSelection& Selection() { return selection_; }
@@ -34,10 +34,12 @@ private:
 
     struct Item {
         uint64_t start;  // of the name, as it is sorted; decides most comparisons
-        std::string_view name;
         uint32_t number;
-
-        bool operator<(const Item& other) const;
+    };
+    // The names of a log in their order.
+    struct Before {
+        const std::vector<std::string_view>& names;
+        bool operator()(const Item& a, const Item& b) const;
     };
 
     std::shared_ptr<const ParsedLog> log_;  // which the names are slices of
