@@ -11,10 +11,11 @@
 namespace quirn {
 
 enum class FormBorder {
-    Sizable,  // caption, system menu, minimise and maximise boxes
-    Fixed,    // caption, system menu, minimise box
-    Dialog,   // caption and close box only
-    None,     // a bare panel, as a splash
+    Sizable,        // caption, system menu, minimise and maximise boxes
+    SizableDialog,  // the same without minimise box: a modal window that hides would leave its owner blocked
+    Fixed,          // caption, system menu, minimise box
+    Dialog,         // caption and close box only
+    None,           // a bare panel, as a splash
 };
 
 // Who asks for a form to be closed. The numbers are the classic ones.
