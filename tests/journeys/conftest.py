@@ -173,8 +173,8 @@ class Box:
 
     def __init__(self, user, handle):
         self.user, self.handle = user, handle
-        wait_for(lambda: [c for c in user.ask("controls", handle)["controls"] if c["class"] == "Button" and c["visible"]],
-                 what="the box's buttons")
+        wait_for(lambda: [c for c in user.ask("controls", handle)["controls"]
+                          if c["class"] == "Button" and c["visible"]], what="the box's buttons")
         answer = user.ask("message", handle)
         self.caption, self.text, self.icon, self.buttons = (answer[k] for k in ("caption", "text", "icon", "buttons"))
 

@@ -36,7 +36,8 @@ class Player:
     def find(self, caption, kind=None):
         found = [c for c in self.controls()
                  if c["caption"].replace("&", "") == caption and (kind is None or c["class"] == kind)]
-        assert len(found) == 1, f"{len(found)} controls '{caption}'; there are {[c['caption'] for c in self.controls()]}"
+        captions = [c["caption"] for c in self.controls()]
+        assert len(found) == 1, f"{len(found)} controls '{caption}'; there are {captions}"
         return found[0]
 
     def beside(self, label, kind="Edit", nth=0):
