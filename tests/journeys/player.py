@@ -128,10 +128,11 @@ class Player:
             self.front()
 
     def front(self):
-        """A click on the caption: this window manager does not give the keyboard to a new window by itself."""
-        for _ in range(30):
+        """A click on the caption: this window manager does not give the keyboard to a new window by itself. Two on one
+        spot could be a double click, which makes the window as large as the screen."""
+        for attempt in range(30):
             left, top, right, _ = self.frame()
-            self.point((left + right) / 2, top + 10)
+            self.point((left + right) / 2 + attempt % 3 * 12, top + 10)
             self.xdo("click", 1)
             time.sleep(0.15)
             if self.has_keyboard():
