@@ -13,7 +13,7 @@ import time
 import pytest
 
 import player as at
-from conftest import ROOT, wait_for
+from machine import ROOT, wait_for
 from player import PAGES, Player
 from test_log_editor import LogEditor
 

@@ -3,7 +3,8 @@ import re
 import subprocess
 import time
 
-from conftest import TITLE, wait_for
+from conftest import TITLE
+from machine import wait_for
 
 BM_GETCHECK, TCM_GETCURSEL = 0xF0, 0x130B
 WS_TABSTOP = 0x10000

@@ -2,7 +2,8 @@
 
 import contextlib
 
-from conftest import WM_CLOSE, wait_for
+from conftest import WM_CLOSE
+from machine import wait_for
 from player import Player
 
 CONTENTS, NOTES, QUIRN_SITE, GAME_SITE, ABOUT = 23, 24, 26, 27, 29
