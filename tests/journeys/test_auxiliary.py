@@ -46,11 +46,13 @@ def registered(machine, key, value):
     """The default value of a key of the registered programs, for a while."""
     kind, before = (machine.export_registry(CLASSES + "\\" + key) or {}).get("\\", ("key", ""))
     machine.reg("add", CLASSES + "\\" + key, "/ve", "/d", value, "/f")
-    yield
-    if kind != "key":
-        machine.reg("add", CLASSES + "\\" + key, "/ve", "/d", before, "/f")
-    else:
-        machine.reg("delete", CLASSES + "\\" + key, "/f")
+    try:
+        yield
+    finally:
+        if kind != "key":
+            machine.reg("add", CLASSES + "\\" + key, "/ve", "/d", before, "/f")
+        else:
+            machine.reg("delete", CLASSES + "\\" + key, "/f")
 
 
 def test_the_about_box_and_its_cookies(desk):
@@ -125,6 +127,7 @@ def test_help_and_addresses_go_to_their_programs(desk):
             wait_for(lambda: not desk.user.processes("subspace.exe"), what="the game's end")
             desk.file("started.txt").unlink()
         about = dialog(quirn, ABOUT, "About QUIRN")
+        about.front()
         about.click(label(about, "Click here"))
         assert "www.quirn." in desk.game_report()["CommandLine"]
 
