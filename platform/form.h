@@ -33,9 +33,10 @@ struct Shortcut {
 // A window of the program. The object may live longer than its window: Load makes the window (hidden), Unload destroys
 // it, and either may happen again. A form is destroyed with its window when its object goes.
 //
-// Keyboard: Tab and the arrows move between the controls, access keys and the menu bar work, Ctrl+Tab turns the pages of
-// the form's tab strip. Enter goes to a text box that swallows it, else presses the button that has the focus, else the
-// default button; Esc presses the cancel button. A form without such buttons ignores the two.
+// Keyboard: Tab and the arrows move between the controls, access keys and the menu bar work (where the form takes
+// characters itself, access keys need Alt), Ctrl+Tab turns the pages of the form's tab strip. Enter goes to a text box
+// that swallows it, else presses the button that has the focus, else the default button; Esc presses the cancel button.
+// A form without such buttons ignores the two.
 class Form : public Container {
 public:
     // size is the whole window's, frame included; the place is the centre of the screen until Move says otherwise.
