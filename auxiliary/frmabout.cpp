@@ -27,15 +27,14 @@ constexpr Bounds kInfo{         1380,  690, 4920,   210};
 constexpr Bounds kLink{         1380,  960, 3600,   210};
 constexpr Bounds kCookie{        180, 1350,  960,   960};
 constexpr Bounds kQuote{        1380, 1440, 4920,  1080};
-constexpr Bounds kSecret{        180,  350, 6120,  1500};
 constexpr Bounds kCookieButton{  180, 2640, 4200,   345};
 constexpr Bounds kDisclaimer{    180, 3150, 6120,   840};
 constexpr Bounds kOk{           3300, 4140, 1440,   345};
 constexpr Bounds kSysInfo{      4860, 4140, 1440,   345};
+// With the hidden quote:
+constexpr Bounds kSecretCookie{  180,  100,  960,   960};
+constexpr Bounds kSecret{       1380,  350, 4920,  1500};
 // clang-format on
-
-constexpr int kSecretPictureTop = 100;
-constexpr int kSecretTop = 350;
 
 constexpr int kQuoteInterval = 7000;  // milliseconds
 constexpr size_t kQuoteWithSound = 32;
@@ -129,14 +128,8 @@ void frmAbout::ShowSecret() {
     for (Control* control : std::initializer_list<Control*>{&Image1, &lblVersion, &lblDescription, &lblInfo, &lblQuote})
         control->SetVisible(false);
     URLLink1.SetVisible(false);
-    Bounds picture = pctCookie.Place();
-    picture.top = kSecretPictureTop;
-    pctCookie.Move(picture);
-    Bounds text = kSecret;
-    text.top = kSecretTop;
-    text.left = picture.Right() + 240;
-    text.width = kWidth - text.left - 300;
-    lblSecret.Move(text);
+    pctCookie.Move(kSecretCookie);
+    pctCookie.onClick = nullptr;
     lblSecret.SetVisible(true);
     cmdCookie.SetVisible(true);
 }

@@ -25,7 +25,7 @@ private:
     Label lblDescription;
     Label lblDisclaimer;
     Label lblInfo;
-    URLLink URLLink1;
+    URLLink URLLink1;  // a label, which the keyboard does not reach: the Help menu has the same address
     Picture pctCookie;
     Label lblQuote;
     Label lblSecret;

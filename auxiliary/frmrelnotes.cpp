@@ -24,7 +24,7 @@ constexpr int kButtonStep = 1560;
 }  // namespace
 
 frmRelNotes::frmRelNotes()
-    : Form(FormBorder::Sizable, kSmallestWidth, kSmallestHeight),
+    : Form(FormBorder::SizableDialog, kSmallestWidth, kSmallestHeight),
       txtRelNotes(*this, {kMargin, kMargin, kSmallestWidth - kBesideText, kSmallestHeight - kBelowText}, "",
                   TextStyle::ReadPage),
       Command2(*this, kButton, "readme.txt"),
@@ -59,7 +59,8 @@ void frmRelNotes::Form_Resize() {
 void frmRelNotes::ShowFile(const std::string& path) {
     const Result<std::string> file = ReadWholeFile(path);
     if (file.Failed()) {
-        txtRelNotes.SetText("----\r\nERROR - Could not find " + path + "\r\n----");
+        const char* const what = FileExists(path) ? "read " : "find ";
+        txtRelNotes.SetText(std::string("----\r\nERROR - Could not ") + what + path + "\r\n----");
         return;
     }
     std::string text;

@@ -6,8 +6,8 @@
 namespace quirn {
 
 void OpenDocument(Form& owner, const std::string& target) {
-    if (OpenWithRegisteredProgram(owner, target)) return;
-    ShowMessage("Unable to load '" + target + "' : " + MakeError(ErrorNumber::FileNotFound).description, kExclamation);
+    if (const Failure failure = OpenWithRegisteredProgram(owner, target))
+        ShowMessage("Unable to load '" + target + "' : " + failure->description, kExclamation);
 }
 
 }  // namespace quirn

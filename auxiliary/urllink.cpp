@@ -72,7 +72,7 @@ void URLLink::ShowURLAsToolTip() {
 
 void URLLink::lblURL_MouseDown() {
     if (url_.empty()) return;
-    if (!OpenWithRegisteredProgram(form_, url_)) ShowMessage("Unable to load '" + url_ + "'", kExclamation);
+    if (OpenWithRegisteredProgram(form_, url_)) ShowMessage("Unable to load '" + url_ + "'", kExclamation);
 }
 
 }  // namespace quirn

@@ -50,20 +50,13 @@ VIAddVersionKey "LegalCopyright" ""
         System::Call 'kernel32::OpenMutexA(i 0x100000, i 0, m "Local\QUIRN.SingleInstance") p .r0'
         IntPtrCmp $0 0 ended
         System::Call 'kernel32::CloseHandle(p r0)'
-        MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "QUIRN is running. End it first: File, Exit, or the menu of its icon beside the clock." /SD IDCANCEL IDRETRY again
+        MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION \
+            "QUIRN is running. End it first: File, Exit, or the menu of its icon beside the clock." \
+            /SD IDCANCEL IDRETRY again
         SetErrorLevel 2
         Quit
     ended:
 !macroend
-
-Function .onInit
-    !insertmacro WAIT_FOR_ITS_END
-    ${GetParameters} $R0
-    ClearErrors
-    ${GetOptions} $R0 "/DESKTOP" $R1
-    IfErrors +2
-        SectionSetFlags 1 ${SF_SELECTED}
-FunctionEnd
 
 Function un.onInit
     !insertmacro WAIT_FOR_ITS_END
@@ -89,9 +82,19 @@ Section "QUIRN"
     WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
 SectionEnd
 
-Section /o "Icon on the desktop"
+Section /o "Icon on the desktop" DESKTOP_ICON
     CreateShortcut "$DESKTOP\QUIRN.lnk" "$INSTDIR\QUIRN.exe"
 SectionEnd
+
+; After the sections, whose names it uses.
+Function .onInit
+    !insertmacro WAIT_FOR_ITS_END
+    ${GetParameters} $R0
+    ClearErrors
+    ${GetOptions} $R0 "/DESKTOP" $R1
+    IfErrors +2
+        SectionSetFlags ${DESKTOP_ICON} ${SF_SELECTED}
+FunctionEnd
 
 ; Only what the installer put there. Profiles may lie in the folder, which then stays with them, and the settings under
 ; Software\QUIRN are the player's.

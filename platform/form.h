@@ -11,10 +11,11 @@
 namespace quirn {
 
 enum class FormBorder {
-    Sizable,  // caption, system menu, minimise and maximise boxes
-    Fixed,    // caption, system menu, minimise box
-    Dialog,   // caption and close box only
-    None,     // a bare panel, as a splash
+    Sizable,        // caption, system menu, minimise and maximise boxes
+    SizableDialog,  // the same without minimise box: a modal window that hides would leave its owner blocked
+    Fixed,          // caption, system menu, minimise box
+    Dialog,         // caption and close box only
+    None,           // a bare panel, as a splash
 };
 
 // Who asks for a form to be closed. The numbers are the classic ones.
@@ -32,9 +33,10 @@ struct Shortcut {
 // A window of the program. The object may live longer than its window: Load makes the window (hidden), Unload destroys
 // it, and either may happen again. A form is destroyed with its window when its object goes.
 //
-// Keyboard: Tab and the arrows move between the controls, access keys and the menu bar work, Ctrl+Tab turns the pages of
-// the form's tab strip. Enter goes to a text box that swallows it, else presses the button that has the focus, else the
-// default button; Esc presses the cancel button. A form without such buttons ignores the two.
+// Keyboard: Tab and the arrows move between the controls, access keys and the menu bar work (where the form takes
+// characters itself, access keys need Alt), Ctrl+Tab turns the pages of the form's tab strip. Enter goes to a text box
+// that swallows it, else presses the button that has the focus, else the default button; Esc presses the cancel button.
+// A form without such buttons ignores the two.
 class Form : public Container {
 public:
     // size is the whole window's, frame included; the place is the centre of the screen until Move says otherwise.

@@ -1,6 +1,7 @@
 #pragma once
 
-// The program's name and version, in one place: the code, the version resource and the manifest read it here.
+// The program's name and version, in one place for the code and the version resource. The manifest and the texts that
+// ship name the version again; ./package refuses to pack them when they differ.
 // The resource compiler includes this file too, hence the macros.
 #define QUIRN_TITLE "QUIRN"
 #define QUIRN_FULL_TITLE "The Vellick Subspace Manager"

@@ -40,7 +40,7 @@ build() {
     fi
 }
 
-# display: a virtual display with a window manager, whose tray takes QUIRN's icon. Ended by end_display.
+# A virtual display with a window manager, whose tray takes QUIRN's icon. Ended by end_display.
 start_display() {
     mkdir -p build/display
     rm -f build/display/number

@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/error.h"
 #include "platform/text.h"
 
 // The in-memory back end's world: what a test may set up before and look at after.
@@ -69,7 +70,7 @@ struct World {
 
     std::vector<std::string> openedTargets;  // by their registered programs
     std::vector<std::string> shownHelp;      // help files
-    bool shellFails = false;                 // for both
+    std::optional<ErrorNumber> shellFailure;  // of both
     std::vector<TrayIcon*> trayIcons;
     std::vector<PoppedUpMenu> poppedUpMenus;  // a test chooses with UserChooses afterwards
 

@@ -6,15 +6,16 @@ namespace quirn {
 
 using headless::TheWorld;
 
-bool OpenWithRegisteredProgram(Form&, const std::string& target) {
+Failure OpenWithRegisteredProgram(Form&, const std::string& target) {
     const bool isPath = target.size() > 1 && target[1] == ':';
-    if (TheWorld().shellFails || (isPath && headless::FindFile(target) == nullptr)) return false;
+    if (TheWorld().shellFailure) return MakeError(*TheWorld().shellFailure);
+    if (isPath && headless::FindFile(target) == nullptr) return MakeError(ErrorNumber::FileNotFound);
     TheWorld().openedTargets.push_back(target);
-    return true;
+    return {};
 }
 
 bool ShowHelpContents(Form&, const std::string& helpFile) {
-    if (TheWorld().shellFails || headless::FindFile(helpFile) == nullptr) return false;
+    if (TheWorld().shellFailure || headless::FindFile(helpFile) == nullptr) return false;
     TheWorld().shownHelp.push_back(helpFile);
     return true;
 }

@@ -77,6 +77,8 @@ bool Answered(MSG& message) {
     if (message.message == WM_CHAR) {
         form->UserTypes(static_cast<char>(message.wParam));
         if (!IsWindow(message.hwnd)) return true;
+        // A form that takes characters invites typing: there only Alt makes an access key of one.
+        if (form->onKeyPress && message.wParam > ' ') return false;
     }
     if (message.message == WM_KEYDOWN) {
         switch (AnswerKey(*form, message.wParam)) {

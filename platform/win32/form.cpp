@@ -24,6 +24,7 @@ std::map<const Form*, FormWindow> loadedForms;
 DWORD StyleOf(const Form& form) {
     switch (form.Border()) {
         case FormBorder::Sizable: return WS_OVERLAPPEDWINDOW;
+        case FormBorder::SizableDialog: return WS_OVERLAPPEDWINDOW & ~static_cast<DWORD>(WS_MINIMIZEBOX);
         case FormBorder::Fixed: return WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
         case FormBorder::Dialog: return WS_POPUP | WS_CAPTION | WS_SYSMENU;
         case FormBorder::None: return WS_POPUP | WS_BORDER;

@@ -36,6 +36,9 @@ TEST_F(AuxiliaryTest, TheQuoteChangesByItselfAndAClickStartsTheTimeAnew) {
     const std::string last = quote.Text();
     WaitForEvents(20000);
     EXPECT_EQ(quote.Text(), last);
+    Click(ControlOf<Picture>(form, ControlKind::Picture, "", 1));
+    WaitForEvents(20000);
+    EXPECT_EQ(quote.Text(), last);
 }
 
 TEST_F(AuxiliaryTest, TheSoundComesWithOneQuoteOnly) {
@@ -66,8 +69,8 @@ TEST_F(AuxiliaryTest, TheSystemInformationIsFoundInTwoPlaces) {
     TheWorld().machineTexts["SOFTWARE\\Microsoft\\Shared Tools\\MSINFO\\PATH"] = "C:\\Windows\\info.exe";
     Click(button);
     EXPECT_EQ(TheWorld().openedTargets, (std::vector<std::string>{"C:\\Tools\\MSINFO32.EXE", "C:\\Windows\\info.exe"}));
-    TheWorld().shellFails = true;
-    ExpectMessage("Unable to load 'C:\\Windows\\info.exe' : File not found", kExclamation);
+    TheWorld().shellFailure = ErrorNumber::PermissionDenied;
+    ExpectMessage("Unable to load 'C:\\Windows\\info.exe' : Permission denied", kExclamation);
     Click(button);
 }
 
@@ -83,6 +86,9 @@ TEST_F(AuxiliaryTest, TheNotesShowTheFileLineByLine) {
     EXPECT_EQ(text.Text(), "");
     Click(ButtonOf(form, "readme.txt"));
     EXPECT_EQ(text.Text().substr(0, 3), "One");
+    const HeldFile held("C:\\Program\\revision.txt");
+    Click(ButtonOf(form, "revision.txt"));
+    EXPECT_EQ(text.Text(), "----\r\nERROR - Could not read C:\\Program\\revision.txt\r\n----");
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include "auxiliary/frmabout.h"
+#include "auxiliary/frmsplash.h"
 #include "auxiliary/quotes.h"
 #include "tests/auxiliary/controlsof.h"
 #include "tests/testing/userinput.h"
@@ -41,7 +42,7 @@ TEST_F(AboutTest, ClicksOnQuoteAndPictureGoThroughAllQuotesAndRound) {
 }
 
 TEST_F(AboutTest, TheWordShowsTheSecretAndItsButtonCloses) {
-    Type(form, "zante");
+    Type(form, "sszante");  // on a button, and one of them has the access key S
     EXPECT_FALSE(SecretShows());
     Type(form, "xZANzantEK");
     EXPECT_TRUE(SecretShows());
@@ -50,6 +51,9 @@ TEST_F(AboutTest, TheWordShowsTheSecretAndItsButtonCloses) {
     EXPECT_EQ(LabelOf(form, "secret cookie").Place().top, 350);
     EXPECT_TRUE(LabelOf(form, "secret cookie").Text().starts_with("Hey! You found the secret cookie!"));
     Click(ButtonOf(form, "horrible excuse"));
+    EXPECT_FALSE(form.IsLoaded());
+    form.Show();
+    Click(ButtonOf(form, "OK"));
     EXPECT_FALSE(form.IsLoaded());
 }
 
@@ -60,6 +64,13 @@ TEST_F(AboutTest, OnlyTheLastSixCharactersCountHoweverManyCameBefore) {
     EXPECT_TRUE(SecretShows());
     Press(form, kKeyEscape);
     EXPECT_FALSE(form.IsLoaded());
+}
+
+TEST_F(AboutTest, AKeyClosesTheSplash) {
+    frmSplash splash;
+    splash.Show();
+    Type(splash, "x");
+    EXPECT_FALSE(splash.IsLoaded());
 }
 
 }  // namespace

@@ -4,8 +4,8 @@ is compared with this list, not with the program's own."""
 SZ, DWORD = "REG_SZ", "REG_DWORD"
 
 DIALOG = "PlayerName PlayerPassword ServerName ServerPort ServerArena ProxyIP PlayerShipType".split()
-MESSAGES = """ShiftF1 ShiftF2 ShiftF3 ShiftF4 ShiftF5 ShiftF6 ShiftF7 ShiftF8 RShiftF1 RShiftF2 RShiftF3 RShiftF4 RShiftF5
-    RShiftF6 RShiftF7 RShiftF8 ChatName""".split()
+MESSAGES = """ShiftF1 ShiftF2 ShiftF3 ShiftF4 ShiftF5 ShiftF6 ShiftF7 ShiftF8 RShiftF1 RShiftF2 RShiftF3 RShiftF4
+    RShiftF5 RShiftF6 RShiftF7 RShiftF8 ChatName""".split()
 OPTIONS = """PlayerReceiveWaveMessages ShowStars OpaqueMessages GammaCorrect BlockObscene ShadedBoxes Emulator
     StripMessages ResolutionX ResolutionY Joystick TickerOn MessageHistorySize TargetBounty SoundState RadarState
     FontState EnergyBarState StatusState WeaponsState ShowBackground ShowShipExplosions Alarm Clock MultiFireOn

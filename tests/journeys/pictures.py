@@ -1,65 +1,46 @@
-"""Takes the pictures of every window, for the help page and for looking at them:
+"""Takes the pictures of the windows.
 
-    python3 -m pytest tests/journeys/pictures.py                    into resources/ship/pictures
-    QUIRN_DPI=144 python3 -m pytest tests/journeys/pictures.py      into build/pictures-144
+    python3 -m pytest tests/journeys/pictures.py
+        those that the help page shows, into resources/ship/pictures
+    QUIRN_PICTURES=FOLDER python3 -m pytest tests/journeys/pictures.py
+        those of all windows at 96 and at 144 dpi, into FOLDER/96 and FOLDER/144, to look at
 """
 import os
-import re
+import pathlib
 import subprocess
 import time
 
 import pytest
 
 import player as at
-from conftest import ROOT, wait_for
+from machine import ROOT, wait_for
 from player import PAGES, Player
+from test_log_editor import LogEditor
 
-DPI = int(os.environ.get("QUIRN_DPI", "96"))
-FOLDER = ROOT / ("resources/ship/pictures" if DPI == 96 else f"build/pictures-{DPI}")
+SHIP = ROOT / "resources/ship"
+LOOK = os.environ.get("QUIRN_PICTURES")
 DESKTOP = r"HKEY_CURRENT_USER\Control Panel\Desktop"
 (NOTES, ABOUT) = (24, 29)
+MENU = "#32768"
 
 
-@pytest.fixture
-def camera(desk, monkeypatch):
-    desk.machine.reg("add", DESKTOP, "/v", "LogPixels", "/t", "REG_DWORD", "/d", str(DPI), "/f")
-    FOLDER.mkdir(parents=True, exist_ok=True)
-
-    def edges(window):
-        """With the frame that the window manager draws round it, in the display's own measures."""
-        say = lambda *words: subprocess.run(words, env=desk.screen.environment, stdout=subprocess.PIPE,
-                                            stderr=subprocess.DEVNULL, check=False).stdout.decode("utf-8", "replace")
-        name = "^" + re.escape(window["caption"]) + "$"
-        ids = window["caption"] and say("xdotool", "search", "--onlyvisible", "--name", name).split()
-        if not ids:
-            return window["rect"]
-        info = say("xwininfo", "-id", ids[-1])
-        left, top, width, height = (int(re.search(key + r":\s+(-?\d+)", info)[1])
-                                    for key in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
-        around = re.search(r"= (\d+), (\d+), (\d+), (\d+)", say("xprop", "-id", ids[-1], "_NET_FRAME_EXTENTS"))
-        l, r, t, b = map(int, around.groups()) if around else (0, 0, 0, 0)
-        return [left - l, top - t, left + width + r, top + height + b]
-
-    def front(self):
-        def clicked():
-            left, top, right, _ = edges(self.window())
-            self.point((left + right) / 2, top + 10)
-            self.xdo("click", 1)
-            time.sleep(0.2)
-            return self.has_keyboard()
-
-        wait_for(clicked, what=f"the keyboard for '{self.title()}'")
-
-    # Wine and the window manager do not agree on how high a caption is at a higher DPI.
-    monkeypatch.setattr(Player, "front", front)
+@pytest.fixture(params=(96, 144) if LOOK else (96,))
+def camera(desk, request):
+    folder = pathlib.Path(LOOK).resolve() / str(request.param) if LOOK else SHIP / "pictures"
+    folder.mkdir(parents=True, exist_ok=True)
+    help_page = (SHIP / "help.html").read_text(encoding="utf-8")
+    desk.machine.reg("add", DESKTOP, "/v", "LogPixels", "/t", "REG_DWORD", "/d", str(request.param), "/f")
 
     def shoot(windows, name):
-        """What lies around all of these windows on the screen."""
+        """What lies around all of these windows on the screen; a window without a caption has no frame."""
+        if not LOOK and f"pictures/{name}.png" not in help_page:
+            return
         time.sleep(0.4)
-        lefts, tops, rights, bottoms = zip(*map(edges, windows))
+        edges = [Player(desk.started[-1], w["handle"]).frame() if w["caption"] else w["rect"] for w in windows]
+        lefts, tops, rights, bottoms = zip(*edges)
         l, t, r, b = min(lefts), min(tops), max(rights), max(bottoms)
         subprocess.run(["/usr/bin/import", "-window", "root", "-crop", f"{r - l}x{b - t}+{l}+{t}", "+repage", "-strip",
-                        "-dither", "None", "-colors", "128", f"PNG8:{FOLDER / name}.png"],
+                        "-dither", "None", "-colors", "128", f"PNG8:{folder / name}.png"],
                        env=desk.screen.environment, check=True)
 
     yield shoot
@@ -78,9 +59,13 @@ def leave(dialog):
     dialog.gone()
 
 
+def menu_of(desk):
+    return wait_for(lambda: [w for w in desk.user.ask("windows")["windows"] if w["class"] == MENU], what="the menu")
+
+
 def test_pages_and_dialogs(desk, camera):
     for name in ("readme.txt", "revision.txt"):
-        (desk.machine.path("C:\\QUIRN") / name).write_bytes((ROOT / "resources/ship" / name).read_bytes())
+        (desk.machine.path("C:\\QUIRN") / name).write_bytes((SHIP / name).read_bytes())
     main = at.start(desk)
     quirn = main.quirn
     main.open(r"C:\SubSpace\Profiles\DUEL.QRN")
@@ -92,14 +77,16 @@ def test_pages_and_dialogs(desk, camera):
     main.turn_to("Identity")
     for heading, name in (("f", "menu-file"), ("h", "menu-help")):
         main.keys(f"alt+{heading}", "Down")
-        menu = wait_for(lambda: [w for w in desk.user.ask("windows")["windows"] if w["class"] == "#32768"],
-                        what="the menu")
-        camera([main.window(), *menu], name)
+        camera([main.window(), *menu_of(desk)], name)
         main.keys("Escape", "Escape")
     main.turn_to("Macros Shift")
     main.click(main.of_class("Edit")[7])
     main.keys("percent")
     camera([main.window()], "macro-variables")
+    main.keys("Escape")
+    main.click(main.of_class("Edit")[0])
+    main.type("w" * 150 + "%")
+    camera([main.window()], "macro-variables-right")
     main.keys("Escape")
 
     quirn.choose(at.SET_OPTIONS)
@@ -118,6 +105,26 @@ def test_pages_and_dialogs(desk, camera):
     main.turn_to("Advanced")
     main.click(main.beside("Config Code:", "Button"))
     leave(dialog_of(quirn, camera, "Advanced Settings Code", "config-code"))
+    main.point_at_tray_icon()
+    main.xdo("click", 3)
+    menu = menu_of(desk)
+    main.point(640, 400)  # away from the icon, whose tool tip would lie over the menu
+    camera(menu, "tray-menu")
+
+
+def test_log_editor(desk, camera):
+    editor = LogEditor(desk)
+    editor.open(r"C:\SubSpace\monday.log")
+    editor.front()
+    camera([editor.window()], "log-editor")
+    editor.keys("ctrl+f")
+    find = dialog_of(editor.quirn, camera, "Find", "log-find-empty")
+    find.type("gg")
+    camera([find.window()], "log-find")
+    leave(find)
+    for size, name in (((100, 100), "log-editor-smallest"), ((1270, 960), "log-editor-large")):
+        desk.user.ask("place", editor.handle, 4, 24, *size)
+        camera([editor.window()], name)
 
 
 def test_splash_and_run_box(desk, camera):

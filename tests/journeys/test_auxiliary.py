@@ -2,13 +2,15 @@
 
 import contextlib
 
-from conftest import WM_CLOSE, wait_for
+from conftest import WM_CLOSE
+from machine import wait_for
 from player import Player
 
 CONTENTS, NOTES, QUIRN_SITE, GAME_SITE, ABOUT = 23, 24, 26, 27, 29
 CLASSES = r"HKEY_LOCAL_MACHINE\Software\Classes"
 MSINFO = r"HKEY_LOCAL_MACHINE\SOFTWARE\Microsoft\Shared Tools\MSINFO"
 HERE = r"C:\QUIRN"
+WS_MINIMIZEBOX = 0x20000
 
 
 def start(desk):
@@ -44,11 +46,13 @@ def registered(machine, key, value):
     """The default value of a key of the registered programs, for a while."""
     kind, before = (machine.export_registry(CLASSES + "\\" + key) or {}).get("\\", ("key", ""))
     machine.reg("add", CLASSES + "\\" + key, "/ve", "/d", value, "/f")
-    yield
-    if kind != "key":
-        machine.reg("add", CLASSES + "\\" + key, "/ve", "/d", before, "/f")
-    else:
-        machine.reg("delete", CLASSES + "\\" + key, "/f")
+    try:
+        yield
+    finally:
+        if kind != "key":
+            machine.reg("add", CLASSES + "\\" + key, "/ve", "/d", before, "/f")
+        else:
+            machine.reg("delete", CLASSES + "\\" + key, "/f")
 
 
 def test_the_about_box_and_its_cookies(desk):
@@ -60,10 +64,12 @@ def test_the_about_box_and_its_cookies(desk):
     about.click(first)
     second = wait_for(lambda: about.text(first) != first["caption"] and about.text(first), what="the second quote")
     wait_for(lambda: about.text(first) != second, seconds=10, what="the third quote, by itself")
-    type_into(about, about.find("OK"), "xxZanTEk")
+    about.keys("s", "x", "Z", "a", "n", "T", "E", "k")  # "s" is the access key of a button, but only with Alt
     secret = wait_for(lambda: label(about, "Hey! You found the secret cookie!"), what="the secret")
     desk.screenshot("secret")
     assert secret and not label(about, "Version")
+    about.click(about.of_class("Static")[0])
+    assert not [w for w in quirn.windows() if w["class"] == "#32770"]
     press(about, "Press me to leave this horrible excuse for a cookie...")
     about.gone()
     quirn.close()
@@ -93,8 +99,11 @@ def test_the_notes(desk):
     desk.screenshot("notes")
     type_into(notes, box, "nothing can be typed")
     assert notes.text(box) == lines + "\r\n"
-    left, top, right, bottom = notes.window()["rect"]
-    assert (right - left, bottom - top) == (721, 506)
+    for size in ((), (300, 200)):  # as it opens, and made smaller
+        desk.user.ask("place", notes.handle, 100, 100, *size)
+        left, top, right, bottom = notes.window()["rect"]
+        assert (right - left, bottom - top) == (721, 506)
+    assert not notes.window()["style"] & WS_MINIMIZEBOX
     shut(notes)
 
 
@@ -102,13 +111,15 @@ def test_help_and_addresses_go_to_their_programs(desk):
     """The stand-in game serves as the program for both: it reports how it was called."""
     game = r'C:\SubSpace\subspace.exe "%1"'
     with contextlib.ExitStack() as stack:
-        for key, value in ((r"http\shell\open\command", game), (r"QuirnTestPage\shell\open\command", game),
-                           (".html", "QuirnTestPage")):
-            stack.enter_context(registered(desk.machine, key, value))
+        stack.enter_context(registered(desk.machine, ".html", "QuirnTestPage"))
         quirn = start(desk)
         quirn.choose(CONTENTS)
         quirn.expect(rf"Unable to load '{HERE}\help.html' : File not found", "exclamation")
         (desk.machine.path(HERE) / "help.html").write_text("<p>Help</p>")
+        quirn.choose(CONTENTS)
+        quirn.expect(rf"Unable to load '{HERE}\help.html' : No program is registered for it", "exclamation")
+        for key in ("http", "QuirnTestPage"):
+            stack.enter_context(registered(desk.machine, key + r"\shell\open\command", game))
         for command, word in ((CONTENTS, "help.html"), (QUIRN_SITE, "www.quirn."), (GAME_SITE, "www.subspace.")):
             quirn.choose(command)
             assert word in desk.game_report()["CommandLine"]
@@ -116,6 +127,7 @@ def test_help_and_addresses_go_to_their_programs(desk):
             wait_for(lambda: not desk.user.processes("subspace.exe"), what="the game's end")
             desk.file("started.txt").unlink()
         about = dialog(quirn, ABOUT, "About QUIRN")
+        about.front()
         about.click(label(about, "Click here"))
         assert "www.quirn." in desk.game_report()["CommandLine"]
 

@@ -303,7 +303,8 @@ def test_settings_are_written_on_exit(desk, change):
     player.quirn.choose(EXIT)
     assert player.quirn.ended() == 0
     printed = desk.machine.reg("query", OWN_KEY, "/s").stdout.decode("cp437")
-    values = dict(line.split("    REG_SZ    ") for line in printed.replace("\r", "").split("\n") if "    REG_SZ    " in line)
+    kind = "    REG_SZ    "
+    values = dict(line.split(kind) for line in printed.replace("\r", "").split("\n") if kind in line)
     values = {key.strip(): value for key, value in values.items()}
     assert values["MRU0"] == (DUEL if change else "") and values["SubSpace"] == r"C:\SubSpace"
     assert values["Fav1Name"] == "<click to add Favourite 1>" and values["Fav5Path"] == ""

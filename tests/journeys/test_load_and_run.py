@@ -106,7 +106,8 @@ def test_values_of_other_types_stay_as_they_are(desk):
 "Value"=dword:00000007
 """)
     foreign = {k: v for k, v in desk.registry().items()
-               if k in (r"Options\3dSound", r"Options\Clock", r"Options\OfSomebodyElse", r"Dialog\Extra", r"Other\Value")}
+               if k in (r"Options\3dSound", r"Options\Clock", r"Options\OfSomebodyElse", r"Dialog\Extra",
+                        r"Other\Value")}
     assert len(foreign) == 5 and foreign[r"Options\3dSound"][0] == "hex"
     assert desk.start("/LR:LEAGUE.QRN").ended(15) == 0
     assert {k: v for k, v in desk.registry().items() if k in foreign} == foreign

@@ -73,7 +73,8 @@ def expected_lines(path, types, excluded):
                                 b"C ": "channel"}.get(line[:2], "unknown")
         speaker, found, message = rest.partition(b"> ")
         if kind == "channel":
-            digit = rest.strip(b" ")[:1] if rest.strip(b" ")[1:2] == b":" else message[:1] if message[1:2] == b";" else b""
+            sent = rest.strip(b" ")
+            digit = sent[:1] if sent[1:2] == b":" else message[:1] if message[1:2] == b";" else b""
             kind = "channel " + (digit.decode("latin-1") if digit in (b"2", b"3", b"4") and digit else "1")
         if b") killed by: " in rest:
             kind = "kill"
@@ -93,7 +94,8 @@ def expected_lines(path, types, excluded):
     return len(lines), shown, sorted(players.values(), key=alphabetical)
 
 
-ALL = {"public", "private", "team", "freq", "channel 1", "channel 2", "channel 3", "channel 4", "squad", "kill", "system"}
+ALL = {"public", "private", "team", "freq", "channel 1", "channel 2", "channel 3", "channel 4", "squad", "kill",
+       "system"}
 
 
 def test_a_log_is_filtered_trimmed_saved_and_opened_again(desk):

@@ -10,10 +10,12 @@ import zipfile
 import pytest
 
 from catalogue import SZ
-from conftest import EXE, EXIT, GAME_KEY, OWN_KEY, ROOT, TITLE, WM_COMMAND, Machine, Screen, User, is_32_bit, wait_for
+from conftest import EXE, EXIT, GAME_KEY, OWN_KEY, TITLE, WM_COMMAND
+from machine import ROOT, Machine, Screen, User, is_32_bit, wait_for
 
 PACKAGE = pathlib.Path(os.environ.get("QUIRN_PACKAGE", ROOT / "build/package")).resolve()
-pytestmark = pytest.mark.skipif("QUIRN_PACKAGE" not in os.environ or not is_32_bit(EXE), reason="run by ./package check")
+pytestmark = pytest.mark.skipif("QUIRN_PACKAGE" not in os.environ or not is_32_bit(EXE),
+                                reason="run by ./package check")
 UNINSTALL_KEY = r"HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Uninstall\QUIRN"
 SHIPPED = {"QUIRN.exe", "help.html", "readme.txt", "revision.txt"}
 NOTES = 24

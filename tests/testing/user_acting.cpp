@@ -1,0 +1,111 @@
+#include "tests/testing/user.h"
+
+#include <cstring>
+
+// Acting on windows.
+namespace user {
+
+namespace {
+
+// press WINDOW NAME: the button with that caption (access key marks left out) or that id.
+std::string Press(const Words& words) {
+    for (HWND child : Children(Window(words))) {
+        std::string caption = TextOf(child);
+        std::erase(caption, '&');
+        if (ClassOf(child) == "Button" &&
+            (caption == Word(words, 2) || std::to_string(GetDlgCtrlID(child)) == Word(words, 2))) {
+            PostMessageA(child, BM_CLICK, 0, 0);
+            return Done();
+        }
+    }
+    return Error("no such button");
+}
+
+std::string Type(const Words& words) {
+    for (const char c : Word(words, 2)) PostMessageA(Window(words), WM_CHAR, static_cast<unsigned char>(c), 1);
+    return Done();
+}
+
+std::string Post(const Words& words) {
+    const BOOL posted = PostMessageA(Window(words), static_cast<UINT>(Number(words, 2)),
+                                     static_cast<WPARAM>(Number(words, 3)), static_cast<LPARAM>(Number(words, 4)));
+    return posted ? Done() : Error("not posted");
+}
+
+std::string Send(const Words& words) {
+    DWORD_PTR result = 0;
+    if (!SendMessageTimeoutA(Window(words), static_cast<UINT>(Number(words, 2)), static_cast<WPARAM>(Number(words, 3)),
+                             static_cast<LPARAM>(Number(words, 4)), SMTO_ABORTIFHUNG, 5000, &result))
+        return Error("no answer");
+    return Done(Member("result", static_cast<long long>(result)));
+}
+
+// drop WINDOW FILE: what the shell sends when a file is dropped on the window. The list of files must lie in the
+// memory of the window's process.
+std::string Drop(const Words& words) {
+    struct Header {  // of such a list: where the names begin, the point, and two flags
+        DWORD names;
+        POINT at;
+        BOOL outside, wide;
+    };
+    const HANDLE process = OpenProcess(PROCESS_ALL_ACCESS, FALSE, ProcessOf(Window(words)));
+    const std::string names = Word(words, 2) + std::string(2, '\0');
+    const Header header{sizeof(Header), {}, FALSE, FALSE};
+    void* list =
+        VirtualAllocEx(process, nullptr, sizeof header + names.size(), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+    const bool written =
+        list && WriteProcessMemory(process, list, &header, sizeof header, nullptr) &&
+        WriteProcessMemory(process, static_cast<char*>(list) + sizeof header, names.data(), names.size(), nullptr);
+    CloseHandle(process);
+    if (!written) return Error("could not write there");
+    PostMessageA(Window(words), WM_DROPFILES, reinterpret_cast<WPARAM>(list), 0);
+    return Done();
+}
+
+// place WINDOW LEFT TOP [WIDTH HEIGHT]: moves it to a point of the screen and gives it that size.
+std::string Place(const Words& words) {
+    SetWindowPos(Window(words), nullptr, static_cast<int>(Number(words, 2)), static_cast<int>(Number(words, 3)),
+                 static_cast<int>(Number(words, 4)), static_cast<int>(Number(words, 5)),
+                 static_cast<UINT>(Word(words, 4).empty() ? SWP_NOSIZE : 0) | SWP_NOZORDER | SWP_NOACTIVATE);
+    return Done();
+}
+
+// clipboard TEXT: its text before, and puts that one there.
+std::string Clipboard(const Words& words) {
+    if (!OpenClipboard(nullptr)) return Error("another program has it");
+    const auto held = static_cast<HGLOBAL>(GetClipboardData(CF_TEXT));
+    const char* text = held ? static_cast<const char*>(GlobalLock(held)) : nullptr;
+    const std::string before = text ? text : "";
+    if (text) GlobalUnlock(held);
+    const std::string after = Word(words, 1);
+    EmptyClipboard();
+    if (const HGLOBAL copy = GlobalAlloc(GMEM_MOVEABLE, after.size() + 1)) {
+        std::memcpy(GlobalLock(copy), after.c_str(), after.size() + 1);
+        GlobalUnlock(copy);
+        SetClipboardData(CF_TEXT, copy);
+    }
+    CloseClipboard();
+    return Done(Member("text", Quoted(before)));
+}
+
+std::string Minimise(const Words& words) {
+    ShowWindowAsync(Window(words), SW_MINIMIZE);
+    return Done();
+}
+
+}  // namespace
+
+Commands ActingCommands() {
+    return {
+        {"press", Press},          // WINDOW BUTTON
+        {"type", Type},            // WINDOW TEXT
+        {"post", Post},            // WINDOW MESSAGE WPARAM LPARAM
+        {"send", Send},            // the same, waiting for the result
+        {"minimise", Minimise},    // WINDOW
+        {"drop", Drop},            // WINDOW FILE
+        {"place", Place},          // WINDOW LEFT TOP [WIDTH HEIGHT]
+        {"clipboard", Clipboard},  // TEXT
+    };
+}
+
+}  // namespace user
