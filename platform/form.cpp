@@ -73,8 +73,11 @@ void Form::Load() {
     if (loaded_) return;
     loaded_ = true;
     visible_ = false;
+    loading_ = true;
     native::CreateForm(*this);
     if (onLoad) CallHandler(onLoad);
+    loading_ = false;
+    if (loaded_) native::FormReady(*this);
 }
 
 void Form::Show() {
@@ -94,7 +97,7 @@ void Form::ShowModal(Form& owner) {
 }
 
 bool Form::IsBlocked() const {
-    return loaded_ && native::IsBlocked(*this);
+    return loaded_ && (loading_ || native::IsBlocked(*this));
 }
 
 void Form::ShowOwned(Form& owner) {

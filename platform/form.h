@@ -67,14 +67,17 @@ public:
     Button* DefaultButton() const { return defaultButton_; }
     Button* CancelButton() const { return cancelButton_; }
 
-    // Makes the window, hidden, and calls onLoad. Does nothing when it is loaded.
+    // Makes the window, hidden, and calls onLoad. Does nothing when it is loaded. Until onLoad has returned, which may
+    // take long when it asks the player something, the window can be neither seen nor used: nothing in it is right yet.
     void Load();
     void Show();               // loads it first when need be; does not wait
     void ShowModal(Form& owner);  // waits until it is unloaded or hidden; the owner is disabled meanwhile
     void ShowOwned(Form& owner);  // in front of the owner, which stays usable; must be unloaded before the owner
     void Hide();
 
-    // A modal form, a message box or a file dialog of this program waits for its answer before the form.
+    bool IsLoading() const { return loading_; }
+    // A modal form, a message box or a file dialog of this program waits for its answer before the form, or the form is
+    // still being loaded.
     bool IsBlocked() const;
     void BringToFront();  // restores it when it is minimised
     void SetAlwaysOnTop();  // above the windows of other programs too; once it is loaded
@@ -132,6 +135,7 @@ private:
     Control* active_ = nullptr;
     Form* modal_ = nullptr;  // the modal form that waits before this one
     bool loaded_ = false;
+    bool loading_ = false;  // onLoad has not returned
     bool visible_ = false;
     bool minimized_ = false;
 };

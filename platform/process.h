@@ -26,6 +26,6 @@ WindowHandle FirstTopLevelWindow();
 WindowHandle NextTopLevelWindow(WindowHandle window);
 std::string WindowCaption(WindowHandle window);  // at most 255 bytes
 void ShowNormal(WindowHandle window);
-void BringToFront(WindowHandle window);
+void BringToFront(WindowHandle window);  // or the dialog that the window waits for
 
 }  // namespace quirn

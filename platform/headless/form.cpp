@@ -137,6 +137,8 @@ void CreateForm(Form& form) {
     form.window = &form;
 }
 
+void FormReady(Form&) {}
+
 void DestroyForm(Form& form) {
     --loadedForms;
     form.window = nullptr;
