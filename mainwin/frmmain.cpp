@@ -14,6 +14,7 @@
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/shell.h"
+#include "platform/text.h"
 #include "platform/version.h"
 #include "profile/profilefile.h"
 
@@ -268,7 +269,8 @@ void frmMain::mnuPUTrayIcon_Fav_Click(size_t slot) {
 
 void frmMain::BuildFavouritesMenu() {
     for (size_t i = 0; i < program_.favourites.size(); ++i)
-        mnuPUTrayIcon.SetCaption(mnuPUTrayIcon_Fav + static_cast<int>(i), program_.favourites[i].name);
+        mnuPUTrayIcon.SetCaption(mnuPUTrayIcon_Fav + static_cast<int>(i),
+                                 WithoutAccessKeys(program_.favourites[i].name));
 }
 
 void frmMain::ShowMainWindow() {
