@@ -75,7 +75,7 @@ void Form::Load() {
     visible_ = false;
     loading_ = true;
     native::CreateForm(*this);
-    if (onLoad) CallHandler(onLoad);
+    CallHandler(onLoad);
     loading_ = false;
     if (loaded_) native::FormReady(*this);
 }
@@ -214,7 +214,7 @@ bool Form::UserTurnsPage(int steps) {
 }
 
 void Form::WindowResized() {
-    if (loaded_ && onResize) CallHandler(onResize);
+    if (loaded_) CallHandler(onResize);
 }
 
 // The controls of a page come before their strip.
@@ -255,10 +255,11 @@ void Timer::SetEnabled(bool enabled) {
 }
 
 void Timer::Fire() {
-    if (enabled_ && onTimer) CallHandler(onTimer);
+    if (enabled_) CallHandler(onTimer);
 }
 
 void CallHandler(const std::function<void()>& handler) {
+    if (!handler) return;
     try {
         handler();
     } catch (const std::bad_alloc&) {

@@ -32,9 +32,9 @@ struct Shortcut {
 // A window of the program. The object may live longer than its window: Load makes the window (hidden), Unload destroys
 // it, and either may happen again. A form is destroyed with its window when its object goes.
 //
-// Keyboard: Tab and the arrows move between the controls, access keys and the menu bar work, Ctrl+Tab turns the pages of
-// the form's tab strip. Enter goes to a text box that swallows it, else presses the button that has the focus, else the
-// default button; Esc presses the cancel button. A form without such buttons ignores the two.
+// Keyboard: Tab and the arrows move between the controls, access keys and the menu bar work, Ctrl+Tab turns the pages
+// of the form's tab strip. Enter goes to a text box that swallows it, else presses the button that has the focus, else
+// the default button; Esc presses the cancel button. A form without such buttons ignores the two.
 class Form : public Container {
 public:
     // size is the whole window's, frame included; the place is the centre of the screen until Move says otherwise.
@@ -62,10 +62,8 @@ public:
     void SetBackColor(Color color) { backColor_ = color; }  // before Load
     void SetMenu(Menu& menu, std::vector<Shortcut> shortcuts);  // before Load; the menu must live as long as the form
     Menu* MenuBar() const { return menu_; }
-    const std::vector<Shortcut>& Shortcuts() const { return shortcuts_; }
     void SetButtons(Button* defaultButton, Button* cancelButton);
     Button* DefaultButton() const { return defaultButton_; }
-    Button* CancelButton() const { return cancelButton_; }
 
     // Makes the window, hidden, and calls onLoad. Does nothing when it is loaded. Until onLoad has returned, which may
     // take long when it asks the player something, the window can be neither seen nor used: nothing in it is right yet.
@@ -176,7 +174,7 @@ void WaitForEvents(int milliseconds);
 // Runs events until no form is loaded.
 void RunEventLoop();
 
-// Calls a handler and shows what it throws (memory ran out) as a run-time error: the program goes on.
+// Calls a handler, if there is one, and shows what it throws (memory ran out) as a run-time error: the program goes on.
 void CallHandler(const std::function<void()>& handler);
 
 }  // namespace quirn

@@ -24,6 +24,17 @@ void Repaint(Form& form);
 void SetOwner(Form& form, Form& owner);
 void KeepOnTop(Form& form);
 
+// The controls of a form and those of its pages.
+template <class Visit>
+void ForEachControl(const Form& form, Visit visit) {
+    for (Control* control : form.Controls()) {
+        visit(*control);
+        if (control->Kind() != ControlKind::TabStrip) continue;
+        for (TabPage* page : static_cast<TabStrip*>(control)->Pages())
+            for (Control* inPage : page->Controls()) visit(*inPage);
+    }
+}
+
 struct Size {
     int width;
     int height;

@@ -88,7 +88,7 @@ void Resize(Form& form) {
 void ChangeDpi(Form& form, const RECT& place) {
     SetWindowPos(WindowOf(form), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
-    ForEachControl(form, [](Control& control) {
+    native::ForEachControl(form, [](Control& control) {
         if (control.window != nullptr) PlaceControl(control);
     });
     Resize(form);
@@ -249,7 +249,8 @@ void CreateForm(Form& form) {
     const HMENU menu = form.MenuBar() == nullptr ? nullptr : MakeMenuBar(*form.MenuBar());
     const HWND window =
         CreateWindowExA(extendedStyle, kFormClass, form.Caption().c_str(), StyleOf(form) | WS_DISABLED, place.left,
-                        place.top, place.right - place.left, place.bottom - place.top, nullptr, menu, Instance(), nullptr);
+                        place.top, place.right - place.left, place.bottom - place.top, nullptr, menu, Instance(),
+                        nullptr);
     form.window = window;
     // The monitor, and with it the DPI, is known only now.
     if (DpiOf(window) != DpiOf(nullptr)) FormChanged(form, Aspect::Place);

@@ -45,8 +45,7 @@ size_t Fill(HMENU menu, const Items& items, size_t at, int level) {
         info.cbSize = sizeof(info);
         info.fMask = MIIM_ID | MIIM_FTYPE | MIIM_STATE | MIIM_SUBMENU;
         info.wID = static_cast<UINT>(item.row.command);
-        info.fState = static_cast<UINT>((item.enabled ? MFS_ENABLED : MFS_DISABLED) |
-                                        (item.checked ? MFS_CHECKED : MFS_UNCHECKED));
+        info.fState = item.checked ? MFS_CHECKED : MFS_UNCHECKED;
         info.hSubMenu = submenu;
         if (std::string_view(item.row.caption) == "-") {
             info.fType = MFT_SEPARATOR;
