@@ -21,7 +21,7 @@ constexpr Bounds kLabel2Place{  120, 1320, kInner,  315};
 constexpr Bounds kLabel4Place{  120, 1800, kInner,  420};
 
 // The colours of the moving labels, one step a tick.
-constexpr Color kColors[] = {kSpaceGold,          Rgb(255, 150, 70), Rgb(245, 90, 110),
+constexpr Color kColors[] = {kSpaceGold,         Rgb(255, 150, 70), Rgb(245, 90, 110),
                              Rgb(190, 110, 245), Rgb(90, 150, 255), Rgb(100, 225, 190)};
 constexpr int kColorInterval = 180;  // milliseconds
 

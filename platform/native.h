@@ -13,7 +13,7 @@ namespace quirn::native {
 // Makes a hidden, disabled window from the form's state; sets form.window. The windows of its controls come with the
 // first ShowForm, those of a page when it is first in front, that of a hidden control when it is first made visible.
 void CreateForm(Form& form);
-void FormReady(Form& form);  // enables it
+void FormReady(Form& form);    // enables it
 void DestroyForm(Form& form);  // also resets the window pointers of its controls and pages
 void FormChanged(Form& form, Aspect aspect);
 void ShowForm(Form& form, bool visible);

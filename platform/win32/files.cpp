@@ -11,8 +11,8 @@ namespace quirn {
 namespace {
 
 using win32::ErrorFrom;
-using win32::kLongestPath;
 using win32::KernelHandle;
+using win32::kLongestPath;
 using win32::LastError;
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;

@@ -247,10 +247,9 @@ void CreateForm(Form& form) {
     if (form.Border() == FormBorder::None) extendedStyle |= WS_EX_TOOLWINDOW;
     if (form.onDropFile) extendedStyle |= WS_EX_ACCEPTFILES;
     const HMENU menu = form.MenuBar() == nullptr ? nullptr : MakeMenuBar(*form.MenuBar());
-    const HWND window =
-        CreateWindowExA(extendedStyle, kFormClass, form.Caption().c_str(), StyleOf(form) | WS_DISABLED, place.left,
-                        place.top, place.right - place.left, place.bottom - place.top, nullptr, menu, Instance(),
-                        nullptr);
+    const HWND window = CreateWindowExA(extendedStyle, kFormClass, form.Caption().c_str(), StyleOf(form) | WS_DISABLED,
+                                        place.left, place.top, place.right - place.left, place.bottom - place.top,
+                                        nullptr, menu, Instance(), nullptr);
     form.window = window;
     // The monitor, and with it the DPI, is known only now.
     if (DpiOf(window) != DpiOf(nullptr)) FormChanged(form, Aspect::Place);
