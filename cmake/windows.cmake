@@ -19,8 +19,8 @@ target_link_options(quirn_options INTERFACE -static -Wl,--gc-sections
                                             -Wl,--no-insert-timestamp $<$<CONFIG:Release>:-s>)
 
 file(GLOB backend_sources CONFIGURE_DEPENDS platform/win32/*.cpp)
-set(entry_sources ${CMAKE_SOURCE_DIR}/platform/win32/entry.cpp ${CMAKE_SOURCE_DIR}/platform/win32/dialogs.cpp)
-list(REMOVE_ITEM backend_sources ${entry_sources})
+set(dialogs_source ${CMAKE_SOURCE_DIR}/platform/win32/dialogs.cpp)  # tests have scripted ones instead
+list(REMOVE_ITEM backend_sources ${dialogs_source})
 add_library(quirn_backend OBJECT ${backend_sources})
 target_link_libraries(quirn_backend PUBLIC quirn_options user32 gdi32 comctl32 comdlg32 advapi32 shell32 ole32)
 
@@ -53,7 +53,7 @@ set_source_files_properties(${resource_script} PROPERTIES OBJECT_DEPENDS
     "${icons};${CMAKE_SOURCE_DIR}/resources/quirn.manifest;${CMAKE_SOURCE_DIR}/platform/version.h")
 set_property(SOURCE ${resource_script} PROPERTY INCLUDE_DIRECTORIES ${CMAKE_SOURCE_DIR} ${CMAKE_BINARY_DIR})
 
-add_executable(QUIRN WIN32 ${entry_sources} ${resource_script})
+add_executable(QUIRN WIN32 startup/entry_win32.cpp ${dialogs_source} ${resource_script})
 target_link_libraries(QUIRN PRIVATE quirn_logic quirn_backend)
 set_target_properties(QUIRN PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
 

@@ -1,5 +1,7 @@
 #include "game/frmrunbox.h"
 
+#include <iterator>
+
 #include "platform/version.h"
 #include "resources/look.h"
 
@@ -19,12 +21,9 @@ constexpr Bounds kLabel2Place{  120, 1320, kInner,  315};
 constexpr Bounds kLabel4Place{  120, 1800, kInner,  420};
 
 // The colours of the moving labels, one step a tick.
-constexpr Color kColors[] = {kSpaceGold,          Rgb(255, 150, 70), Rgb(245, 90, 110),
+constexpr Color kColors[] = {kSpaceGold,         Rgb(255, 150, 70), Rgb(245, 90, 110),
                              Rgb(190, 110, 245), Rgb(90, 150, 255), Rgb(100, 225, 190)};
-constexpr int kColorCount = 6;
 constexpr int kColorInterval = 180;  // milliseconds
-
-constexpr char kEscape = 27;
 
 }  // namespace
 
@@ -48,7 +47,7 @@ frmRunBox::frmRunBox()
     onLoad = [this] { Form_Load(); };
     onUnload = [this] { return runDone_ = true; };
     onKeyPress = [this](char key) {
-        if (key == kEscape) Unload(UnloadMode::CloseBox);
+        if (key == kKeyEscape) Unload(UnloadMode::CloseBox);
     };
 }
 
@@ -70,7 +69,7 @@ void frmRunBox::Timer1_Timer() {
 }
 
 void frmRunBox::Timer2_Timer() {
-    colorCounter_ = colorCounter_ % kColorCount + 1;
+    colorCounter_ = colorCounter_ % static_cast<int>(std::size(kColors)) + 1;
     Label5.SetForeColor(kColors[colorCounter_ - 1]);
     Label3.SetForeColor(kColors[colorCounter_ - 1]);
 }

@@ -58,7 +58,7 @@ Failure ReadIgnoreFile(Profile& profile, const std::string& gameFolder) {
     }
     for (std::string_view line : SplitLines(text.Value())) {
         line = Trim(line);
-        if (!line.starts_with('#')) profile.IgnoreList.emplace_back(line);
+        if (!line.starts_with('#')) profile.IgnoreList.emplace_back(line);  // from element 0: no slot is left empty
     }
     return {};
 }

@@ -25,9 +25,8 @@ int AsNumber(const SettingValue& value) {
 
 }  // namespace
 
-SettingValue QueryValue(const std::string& keyPath, const std::string& name) {
+SettingValue QueryValue(const RegistryKey& key, const std::string& name) {
     SettingValue value;
-    const RegistryKey key(keyPath);
     if (key.IsOpen()) QueryValueEx(key, name, value);
     return value;
 }
@@ -54,8 +53,7 @@ long QueryValueEx(const RegistryKey& key, const std::string& name, SettingValue&
     return kUnsupportedType;
 }
 
-long SetKeyValue(const std::string& keyPath, const std::string& name, const SettingValue& value, RegistryType type) {
-    const RegistryKey key(keyPath);
+long SetKeyValue(const RegistryKey& key, const std::string& name, const SettingValue& value, RegistryType type) {
     if (!key.IsOpen()) return kRegistryNotFound;
     RegistryType stored{};
     uint32_t size = 0;
@@ -77,9 +75,9 @@ long SetValueEx(const RegistryKey& key, const std::string& name, RegistryType ty
 
 void ReadProfileFromGame(Profile& profile, const std::string& gameFolder) {
     for (Section* section : profile.Sections()) {
-        const std::string keyPath = KeyPath(*section);
+        const RegistryKey key(KeyPath(*section));
         for (int i = 1; i <= section->Count(); ++i) {
-            std::string text = AsText(QueryValue(keyPath, section->Name(i)));
+            std::string text = AsText(QueryValue(key, section->Name(i)));
             // The NUL that ends a stored text is counted in it. A few programs store texts without one.
             if (text.ends_with('\0')) text.pop_back();
             section->Value(i) = std::move(text);
@@ -91,12 +89,12 @@ void ReadProfileFromGame(Profile& profile, const std::string& gameFolder) {
 void WriteProfileToGame(const Profile& profile, const std::string& gameFolder) {
     bool overflow = false;
     for (const Section* section : profile.Sections()) {
-        const std::string keyPath = KeyPath(*section);
+        const RegistryKey key(KeyPath(*section));
         for (int i = 1; i <= section->Count(); ++i) {
             if (!section->IsNumber(i)) {
-                SetKeyValue(keyPath, section->Name(i), section->Value(i), RegistryType::Text);
+                SetKeyValue(key, section->Name(i), section->Value(i), RegistryType::Text);
             } else if (const auto number = ToInteger(section->Value(i))) {
-                SetKeyValue(keyPath, section->Name(i), *number, RegistryType::Number);
+                SetKeyValue(key, section->Name(i), *number, RegistryType::Number);
             } else {
                 overflow = true;
             }

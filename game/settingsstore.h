@@ -7,8 +7,8 @@
 #include "profile/profile.h"
 
 // The game's settings in the current user's registry: one key per section below "Software\Virgin\SubSpace". Keys are
-// opened, never made: this program configures an installed game, it does not install one. A failure of the registry
-// produces no message.
+// opened, never made: this program configures an installed game, it does not install one. A key that is missing has no
+// values and takes none. A failure of the registry produces no message.
 namespace quirn {
 
 // A text (REG_SZ, with the NUL that the registry keeps), a number (REG_DWORD), or nothing when the value is missing
@@ -17,17 +17,17 @@ using SettingValue = std::variant<std::monostate, std::string, int>;
 
 inline constexpr long kUnsupportedType = -1;
 
-// One value by key path and name; nothing when the key is missing.
-SettingValue QueryValue(const std::string& keyPath, const std::string& name);
+// One value of a section's key, which is opened once for all: on Wine each opening is a call to another process.
+SettingValue QueryValue(const RegistryKey& key, const std::string& name);
 
-// The same from an open key. The status is the registry's, or kUnsupportedType; the value is then as it was.
+// The same from a key that is open. The status is the registry's, or kUnsupportedType; the value is then as it was.
 long QueryValueEx(const RegistryKey& key, const std::string& name, SettingValue& value);
 
 // Writes one value as text or number. A value that the game keeps in another type (binary, say) is left alone.
 // The status is the registry's, or kUnsupportedType for such a value.
-long SetKeyValue(const std::string& keyPath, const std::string& name, const SettingValue& value, RegistryType type);
+long SetKeyValue(const RegistryKey& key, const std::string& name, const SettingValue& value, RegistryType type);
 
-// The same into an open key; nothing is written for another type, and the status is then 0.
+// The same into a key that is open; nothing is written for another type, and the status is then 0.
 long SetValueEx(const RegistryKey& key, const std::string& name, RegistryType type, const SettingValue& value);
 
 // Reads all settings, the ignore list and the wave files into the profile. What is missing becomes an empty text.

@@ -1,7 +1,5 @@
 #include "logedit/logmenuhelp.h"
 
-#include <span>
-
 #include "logedit/logmenurows.h"
 
 namespace quirn {
@@ -10,15 +8,10 @@ using namespace logmenu;
 
 namespace {
 
-struct HelpRow {
-    int command;
-    const char* text;
-};
-
 constexpr char kFontHelp[] = "Change the font for the log edit window";
 
 // clang-format off
-constexpr HelpRow kMenuHelp[] = {
+constexpr MenuHelpRow kMenuHelp[] = {
     {mnuFile_Open,             "Opens an existing log file"},
     {mnuFile_SaveAs,           "Save the current log file with a new name"},
     {mnuFile_Close,            "Close the LogEdit window"},
@@ -33,31 +26,16 @@ constexpr HelpRow kMenuHelp[] = {
     {mnuInExPopup_All,            "Select (highlight) all items in this list"},
     {mnuInExPopup_Invert,         "Invert all selected (highlighted) items in this list"},
 };
-
-constexpr HelpRow kSystemMenuHelp[] = {
-    {61440, "Size the window using the keyboard"},
-    {61456, "Move the window using the keyboard"},
-    {61472, "Minimize the window"},
-    {61488, "Maximize the window"},
-    {61536, "Close this window"},
-    {61728, "Restore window to normal position and size"},
-};
 // clang-format on
-
-std::string Find(std::span<const HelpRow> rows, int command) {
-    for (const HelpRow& row : rows)
-        if (row.command == command) return row.text;
-    return {};
-}
 
 }  // namespace
 
 std::string LogMenuHelpText(int command) {
-    return Find(kMenuHelp, command);
+    return FindMenuHelp(kMenuHelp, command);
 }
 
 std::string LogSystemMenuHelpText(int command) {
-    return Find(kSystemMenuHelp, command);
+    return SystemMenuHelp(command, "Close this window");
 }
 
 }  // namespace quirn

@@ -102,7 +102,7 @@ void AddToLogMRU(LogMRUList& list, const std::string& path) {
 
 std::optional<std::string> LogMRUCaption(const LogMRUList& list, size_t index) {
     if (Trim(list[index]).empty()) return std::nullopt;
-    return "&" + std::to_string(index + 1) + " " + list[index];
+    return "&" + std::to_string(index + 1) + " " + WithoutAccessKeys(list[index]);
 }
 
 }  // namespace quirn

@@ -9,18 +9,11 @@ namespace quirn {
 
 namespace {
 
-constexpr char kSettings[] = "Settings";
-constexpr char kRecentList[] = "MRUList";
-
 // The system's colours of a list are stored by the numbers that stand for them, which are negative.
 constexpr int kSystemForeColor = static_cast<int>(0x80000008);
 constexpr int kSystemBackColor = static_cast<int>(0x80000005);
 constexpr int kLastColor = 0xFFFFFF;
 constexpr int kMostPoints = 500;
-
-int ReadNumber(const char* key, int defaultValue) {
-    return ToInteger(GetSetting(kSettings, key, std::to_string(defaultValue))).value_or(defaultValue);
-}
 
 // Stored as -1 and 0; the word is understood as well.
 bool ReadFlag(const char* key, bool defaultValue) {
@@ -29,7 +22,7 @@ bool ReadFlag(const char* key, bool defaultValue) {
 }
 
 std::optional<Color> ReadColor(const char* key, std::optional<Color> defaultValue) {
-    const int stored = ReadNumber(key, defaultValue ? static_cast<int>(*defaultValue) : -1);
+    const int stored = GetNumberSetting(kSettings, key, defaultValue ? static_cast<int>(*defaultValue) : -1);
     if (stored < 0 || stored > kLastColor) return std::nullopt;
     return static_cast<Color>(stored);
 }
@@ -49,12 +42,12 @@ std::string RecentKey(size_t i) {
 }  // namespace
 
 LogLook ReadLogLook(LogLook look) {
-    look.place.left = ReadNumber("LogEditLeft", look.place.left);
-    look.place.top = ReadNumber("LogEditTop", look.place.top);
-    look.place.height = ReadNumber("LogEditHeight", look.place.height);
-    look.place.width = ReadNumber("LogEditWidth", look.place.width);
+    look.place.left = GetNumberSetting(kSettings, "LogEditLeft", look.place.left);
+    look.place.top = GetNumberSetting(kSettings, "LogEditTop", look.place.top);
+    look.place.height = GetNumberSetting(kSettings, "LogEditHeight", look.place.height);
+    look.place.width = GetNumberSetting(kSettings, "LogEditWidth", look.place.width);
     look.font.face = GetSetting(kSettings, "LogEditFontName", look.font.face);
-    const int points = ReadNumber("LogEditFontSize", look.font.points);
+    const int points = GetNumberSetting(kSettings, "LogEditFontSize", look.font.points);
     if (points > 0 && points <= kMostPoints) look.font.points = points;
     look.font.bold = ReadFlag("LogEditFontBold", look.font.bold);
     look.font.italic = ReadFlag("LogEditFontItalic", look.font.italic);

@@ -3,6 +3,7 @@
 #include "mainwin/bindingtables.h"
 #include "mainwin/frmconfig.h"
 #include "platform/form.h"
+#include "platform/text.h"
 
 namespace quirn {
 
@@ -82,14 +83,12 @@ void AdvancedPage::chkAdvanced_MouseUp() { cmdConfigCode.SetText(EncodeConfigCod
 void AdvancedPage::cmdConfigCode_Click() {
     const std::optional<std::string> text = AskConfigCode(Owner());
     if (!text) return;
-    AdvancedStates states = States();
+    const AdvancedStates before = States();
+    AdvancedStates states = before;
     DecodeConfigCode(*text, states);
     for (size_t i = 0; i < states.size(); ++i) chkAdvanced[i].SetValue(states[i]);
-    // Any character may be typed; a "&" would become the button's access key.
-    std::string caption = AcceptedConfigCode(*text);
-    for (size_t at = caption.find('&'); at != std::string::npos; at = caption.find('&', at + 2)) caption.insert(at, "&");
-    cmdConfigCode.SetText(caption);
-    edited_();
+    cmdConfigCode.SetText(WithoutAccessKeys(AcceptedConfigCode(*text)));  // any character may be typed
+    if (states != before) edited_();
 }
 
 }  // namespace quirn

@@ -2,23 +2,16 @@
 
 #include "platform/files.h"
 #include "platform/settings.h"
-#include "platform/text.h"
 
 namespace quirn {
 
 namespace {
 
-constexpr char kSettings[] = "Settings";
 constexpr char kFileLocations[] = "File Locations";
-constexpr char kRecentList[] = "MRUList";
 constexpr char kFavourites[] = "Favourites";
 
 std::string RecentKey(size_t i) { return "MRU" + std::to_string(i); }
 std::string FavouriteKey(size_t i, const char* part) { return "Fav" + std::to_string(i + 1) + part; }
-
-int ReadNumber(const char* key, int defaultValue) {
-    return ToInteger(GetSetting(kSettings, key, std::to_string(defaultValue))).value_or(defaultValue);
-}
 
 }  // namespace
 
@@ -38,8 +31,8 @@ void ReadLists(Program& program) {
 
 Bounds ReadMainPlace(Bounds place) {
     constexpr int kFirstPlace = 1000;
-    place.left = ReadNumber("MainLeft", kFirstPlace);
-    place.top = ReadNumber("MainTop", kFirstPlace);
+    place.left = GetNumberSetting(kSettings, "MainLeft", kFirstPlace);
+    place.top = GetNumberSetting(kSettings, "MainTop", kFirstPlace);
     return place;
 }
 

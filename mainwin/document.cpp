@@ -28,7 +28,7 @@ bool Document::AskSaveChanges() {
     switch (ShowMessage("Save changes to " + program_.CurrentFile, kYesNoCancel + kQuestion, "Save Changes?")) {
         case Answer::Yes:
             // Always by Save As, on purpose, also when the profile has a file.
-            if (!SaveAs()) return false;
+            if (!mnuFile_SaveAs_Click()) return false;
             break;
         case Answer::No: break;
         default: return false;
@@ -38,7 +38,7 @@ bool Document::AskSaveChanges() {
 }
 
 // With a clean profile nothing happens at all, on purpose.
-void Document::New() {
+void Document::mnuFile_New_Click() {
     if (!program_.dirty || !AskSaveChanges()) return;
     program_.CurrentFile = kUntitled;
     ShowTitle(kUntitled);
@@ -46,24 +46,19 @@ void Document::New() {
     view_.ShowProfile();
 }
 
-void Document::Open() {
-    if (MayDiscard()) OpenProfile();
-}
-
-void Document::OpenDropped(const std::string& path) {
-    if (MayDiscard()) OpenProfile(path);
-}
-
-bool Document::OpenProfile() {
+void Document::mnuFile_Open_Click() {
+    if (!MayDiscard()) return;
     const auto path = AskOpenFile({.title = "Open",
                                    .filter = kProfileFilter,
                                    .filterIndex = kSecondFilter,
                                    .folder = program_.qrnFolder,
                                    .fileName = "",
                                    .flags = kFileMustExist | kHideReadOnly});
-    if (!path) return false;
-    OpenProfile(*path);
-    return true;
+    if (path) OpenProfile(*path);
+}
+
+void Document::OpenDropped(const std::string& path) {
+    if (MayDiscard()) OpenProfile(path);
 }
 
 void Document::OpenProfile(const std::string& path) {
@@ -80,9 +75,10 @@ void Document::OpenProfile(const std::string& path) {
     program_.dirty = false;
 }
 
-void Document::Save() {
+// This and Save As show their own error, on purpose: the player must know before the next command runs.
+void Document::mnuFile_Save_Click() {
     if (IsUntitled(program_.CurrentFile)) {
-        SaveAs();
+        mnuFile_SaveAs_Click();
         return;
     }
     view_.CollectProfile();
@@ -94,7 +90,7 @@ void Document::Save() {
     program_.dirty = false;
 }
 
-bool Document::SaveAs() {
+bool Document::mnuFile_SaveAs_Click() {
     const auto path = AskSaveFile({.title = "Save As",
                                    .filter = kProfileFilter,
                                    .filterIndex = kSecondFilter,
@@ -117,7 +113,7 @@ bool Document::SaveAs() {
 
 // Without a question, and current file and dirty flag stay, all on purpose: a Save that follows writes to the file that
 // was current before.
-void Document::OpenRecent(size_t index) {
+void Document::mnuFileMRU_Click(size_t index) {
     const std::string path = program_.recentFiles[index];
     if (!LoadProfile(program_.profile, path)) {
         view_.SetStatus(kLoadFailed);
@@ -129,7 +125,7 @@ void Document::OpenRecent(size_t index) {
     AddToRecentFiles(path);
 }
 
-void Document::Import() {
+void Document::mnuFile_Import_Click() {
     const auto path = AskOpenFile({.title = "Import Subspace Macro File",
                                    .filter = kMacroFilter,
                                    .filterIndex = kSecondFilter,
@@ -167,7 +163,7 @@ void RefreshRecentMenu(Menu& menu, const RecentFiles& files) {
     for (size_t i = 0; i < files.size(); ++i) {
         if (Trim(files[i]).empty()) continue;
         const int command = mnuFileMRU + static_cast<int>(i);
-        menu.SetCaption(command, RecentFileCaption(i, files[i]));
+        menu.SetCaption(command, RecentFileCaption(i, WithoutAccessKeys(files[i])));
         menu.SetVisible(command, true);
         menu.SetVisible(mnuFileBarMRU, true);
     }

@@ -28,17 +28,16 @@ public:
     // "Save changes to ...?" True: go on (saved, or the player does not want to); false: stop.
     bool AskSaveChanges();
 
-    void New();
-    void Open();
+    void mnuFile_New_Click();
+    void mnuFile_Open_Click();
     void OpenDropped(const std::string& path);  // as Open does, with this file
-    void Save();
-    bool SaveAs();  // true when a file has been chosen and saved
-    void OpenRecent(size_t index);
-    void Import();
+    void mnuFile_Save_Click();
+    bool mnuFile_SaveAs_Click();  // true when a file has been chosen and saved
+    void mnuFileMRU_Click(size_t index);
+    void mnuFile_Import_Click();
 
 private:
     bool MayDiscard() { return !program_.dirty || AskSaveChanges(); }
-    bool OpenProfile();
     void OpenProfile(const std::string& path);
     void AddToRecentFiles(const std::string& path);
     void ShowTitle(const std::string& file);

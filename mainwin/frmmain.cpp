@@ -14,6 +14,7 @@
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/shell.h"
+#include "platform/text.h"
 #include "platform/version.h"
 #include "profile/profilefile.h"
 
@@ -32,8 +33,6 @@ constexpr Bounds kRun{          2550, 4785, 3400, kButtonHeight};  // window's i
 constexpr Bounds kCopyMacros{   2520, 3660, 1800, kButtonHeight};
 constexpr Bounds kDistinguish{  4560, 3720, 2400, kCheckHeight};
 // clang-format on
-
-constexpr int kStatusBarHeight = 330;
 
 constexpr int kMacrosShiftPage = 4;
 constexpr char kHelpPage[] = "\\help.html";
@@ -84,7 +83,7 @@ frmMain::frmMain(Program& program)
     Command4.onClick = [this] { Command4_Click(); };
     for (MacroPage* page : {&shiftPage_, &rShiftPage_}) {
         page->onPercent = [this](TextBox& target) { picker_.Open(target); };
-        page->onImport = [this] { document_.Import(); };
+        page->onImport = [this] { document_.mnuFile_Import_Click(); };
     }
 
     SetMenu(menuBar_, {kMainShortcuts.begin(), kMainShortcuts.end()});
@@ -135,7 +134,7 @@ void frmMain::CenterControls() {
     };
     SSTab1.Move(inTheMiddle(kTabs));
     Bounds run = inTheMiddle(kRun);
-    run.top = kTabs.Bottom() + (InnerHeight() - kStatusBarHeight - kTabs.Bottom() - run.height) / 2;
+    run.top = kTabs.Bottom() + (InnerHeight() - StatusBar::kHeight - kTabs.Bottom() - run.height) / 2;
     Command3.Move(run);
 }
 
@@ -189,14 +188,14 @@ void frmMain::ShowMacros() {
 
 void frmMain::MenuCommand(int command) {
     switch (command) {
-        case mnuFile_New: document_.New(); break;
-        case mnuFile_Open: document_.Open(); break;
-        case mnuFile_Save: document_.Save(); break;
-        case mnuFile_SaveAs: document_.SaveAs(); break;
-        case mnuFile_Import: document_.Import(); break;
+        case mnuFile_New: document_.mnuFile_New_Click(); break;
+        case mnuFile_Open: document_.mnuFile_Open_Click(); break;
+        case mnuFile_Save: document_.mnuFile_Save_Click(); break;
+        case mnuFile_SaveAs: document_.mnuFile_SaveAs_Click(); break;
+        case mnuFile_Import: document_.mnuFile_Import_Click(); break;
         case mnuFile_Print: mnuFile_Print_Click(); break;
-        case mnuFile_Close: Hide(); break;
-        case mnuFile_Exit: Unload(); break;
+        case mnuFile_Close: mnuFile_Close_Click(); break;
+        case mnuFile_Exit: mnuFile_Exit_Click(); break;
         case mnuOptions_Set: mnuOptions_Set_Click(); break;
         case mnuLog: mnuLog_Click(); break;
         case mnuHelp_Contents: mnuHelp_Contents_Click(); break;
@@ -206,7 +205,7 @@ void frmMain::MenuCommand(int command) {
         case mnuHelp_About: frmAbout().ShowModal(*this); break;
         default:
             if (command >= mnuFileMRU && command < mnuFileBarMRU)
-                document_.OpenRecent(static_cast<size_t>(command - mnuFileMRU));
+                document_.mnuFileMRU_Click(static_cast<size_t>(command - mnuFileMRU));
             break;
     }
 }
@@ -219,7 +218,8 @@ void frmMain::mnuOptions_Set_Click() { ShowOptions(false); }
 // Also while the window is open: its lists then show what a filter would no longer find. Kept on purpose.
 void frmMain::mnuLog_Click() {
     logEdit_.Forget();
-    if (!logEditor_ || !logEditor_->IsLoaded()) logEditor_ = std::make_unique<frmLogEdit>(program_.gameFolder, logEdit_);
+    if (!logEditor_ || !logEditor_->IsLoaded())
+        logEditor_ = std::make_unique<frmLogEdit>(program_.gameFolder, logEdit_);
     logEditor_->Show();
     logEditor_->BringToFront();
 }
@@ -268,7 +268,8 @@ void frmMain::mnuPUTrayIcon_Fav_Click(size_t slot) {
 
 void frmMain::BuildFavouritesMenu() {
     for (size_t i = 0; i < program_.favourites.size(); ++i)
-        mnuPUTrayIcon.SetCaption(mnuPUTrayIcon_Fav + static_cast<int>(i), program_.favourites[i].name);
+        mnuPUTrayIcon.SetCaption(mnuPUTrayIcon_Fav + static_cast<int>(i),
+                                 WithoutAccessKeys(program_.favourites[i].name));
 }
 
 void frmMain::ShowMainWindow() {

@@ -34,6 +34,8 @@ private:
 
     void MenuCommand(int command);
     void mnuFile_Print_Click();
+    void mnuFile_Close_Click() { Hide(); }
+    void mnuFile_Exit_Click() { Unload(); }
     void mnuOptions_Set_Click();
     void mnuLog_Click();
     void mnuHelp_Contents_Click();

@@ -18,9 +18,11 @@ bool IsOn(const std::string& value) {
     return ToInteger(value).value_or(0) != 0;
 }
 
-// A number other than 0 and 1 is shown as checked and stays as it is until the player clicks.
+// A number other than 0 and 1 is shown as checked, also the 2 of a greyed box, and stays that number until the player
+// clicks; a text that is none is 0. One that is too large stays, and is reported when the game's settings are written.
 void CollectBox(const CheckBox& box, std::string& value) {
-    if (IsOn(value) != (box.Value() != 0) || value.empty()) value = std::to_string(box.Value());
+    if (IsOn(value) != (box.Value() != 0)) value = std::to_string(box.Value());
+    else if (const auto number = ToInteger(value)) value = std::to_string(*number);
 }
 
 }  // namespace

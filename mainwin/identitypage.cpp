@@ -3,6 +3,7 @@
 #include "mainwin/bindingtables.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
+#include "platform/form.h"
 #include "platform/sound.h"
 #include "profile/splitpath.h"
 
@@ -181,6 +182,8 @@ void IdentityPage::Collect() {
         for (size_t i = 0; i < parts.size(); ++i) parts[i] = mskProxyAddress[i].Text();
         proxy = JoinProxyAddress(parts, proxy);
     }
+    // Ctrl+S and the menus leave the keyboard where it is: a name that is still being typed is completed here.
+    if (Owner().ActiveControl() == &txtChatName) txtChatName_LostFocus();
     profile.Messages.Value(kChatName) = txtChatName.Text();
 }
 

@@ -52,7 +52,7 @@ void IgnorePage::Command1_Click() {
     if (name.empty()) return;
     lstIgnoreList.AddItem(name);
     txtIgnoreAdd.SetText("");
-    edited_();
+    edited_();  // the list counts, not the box: what is typed there and not added is in no profile
 }
 
 void IgnorePage::Command2_Click() {

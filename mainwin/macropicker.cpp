@@ -29,6 +29,7 @@ void MacroPicker::Open(TextBox& target) {
     Bounds inStrip = target.Place();
     inStrip.left += page.left - strip_.Place().left;
     inStrip.top += page.top - strip_.Place().top;
+    // By the inner size, so that no part of the list lies under the window's frame.
     PopupList.Move(PlacePickList({strip_.Place().top, inStrip, caret, form_.InnerWidth(), form_.InnerHeight()},
                                  kListPlace.width, kListPlace.height));
     PopupList.SetVisible(true);

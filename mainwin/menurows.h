@@ -39,6 +39,7 @@ enum MainCommand : int {
     mnuHelp_About,
 };
 
+// Other numbers than the bar's, so that none of them has a help text.
 enum TrayCommand : int {
     mnuPUTrayIcon_Open = 101,
     mnuPUTrayIconBarFav,

@@ -9,7 +9,8 @@
 // order, which is the tab order; its layout is a table at the top of its .cpp, in twips inside the page.
 namespace quirn {
 
-// Called when the player has changed something that belongs to the profile.
+// Called when the player has changed something that belongs to the profile, by whatever control: an edit that nobody
+// marks would be lost without a question.
 using Edited = std::function<void()>;
 
 // Several controls of one kind, addressed by index from 0. They never move once created.

@@ -112,8 +112,7 @@ void Control::UserFocuses(bool focused) {
     if (focused == (before == this)) return;
     if (focused && before != nullptr) before->UserFocuses(false);
     form.FocusMoved(focused ? this : nullptr);
-    const auto& handler = focused ? onGotFocus : onLostFocus;
-    if (handler) CallHandler(handler);
+    CallHandler(focused ? onGotFocus : onLostFocus);
 }
 
 }  // namespace quirn

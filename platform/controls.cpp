@@ -12,10 +12,6 @@ namespace quirn {
 
 namespace {
 
-void Call(const std::function<void()>& handler) {
-    if (handler) CallHandler(handler);
-}
-
 // Asks a handler whether it takes a character or key for itself.
 template <class Key>
 bool Ask(const std::function<bool(Key)>& handler, Key key) {
@@ -40,11 +36,11 @@ Picture::Picture(Parent parent, const Bounds& place, int resource)
     : Control(parent, ControlKind::Picture, place, {}), resource_(resource) {}
 
 void Label::UserClicks() {
-    if (onClick) CallHandler(onClick);
+    CallHandler(onClick);
 }
 
 void Picture::UserClicks() {
-    if (onClick) CallHandler(onClick);
+    CallHandler(onClick);
 }
 
 Frame::Frame(Parent parent, const Bounds& place, const std::string& caption, FrameStyle style)
@@ -58,7 +54,7 @@ Button::Button(Parent parent, const Bounds& place, const std::string& caption)
     : Control(parent, ControlKind::Button, place, caption) {}
 
 void Button::UserClicks() {
-    if (Enabled()) Call(onClick);
+    if (Enabled()) CallHandler(onClick);
 }
 
 CheckBox::CheckBox(Parent parent, const Bounds& place, const std::string& caption)
@@ -72,8 +68,8 @@ void CheckBox::SetValue(int value) {
 void CheckBox::UserClicks() {
     if (!Enabled()) return;
     SetValue(1 - value_);
-    Call(onClick);
-    Call(onMouseUp);
+    CallHandler(onClick);
+    CallHandler(onMouseUp);
 }
 
 OptionButton::OptionButton(Parent parent, OptionGroup& group, const Bounds& place, const std::string& caption)
@@ -86,7 +82,7 @@ OptionButton::OptionButton(Parent parent, OptionGroup& group, const Bounds& plac
 void OptionButton::UserClicks() {
     if (!Enabled() || group_->Selected() == index_) return;
     group_->Select(index_);
-    Call(group_->onClick);
+    CallHandler(group_->onClick);
 }
 
 void OptionGroup::Select(int index) {
@@ -118,7 +114,7 @@ void TextBox::UserEdits(const std::string& text) {
     if (text == text_) return;
     text_ = text;
     Changed(Aspect::Text);
-    Call(onChange);
+    CallHandler(onChange);
 }
 
 bool TextBox::UserTypes(char character) {
@@ -145,7 +141,7 @@ std::string ComboBox::SelectedText() const {
 void ComboBox::UserSelects(int index) {
     if (IndexIn(items_, index) < 0 || index == listIndex_) return;
     SetListIndex(index);
-    Call(onClick);
+    CallHandler(onClick);
 }
 
 void ComboBox::UserHighlights(int index) {
@@ -218,11 +214,11 @@ void ListBox::UserSelects(const std::vector<int>& indexes) {
     if (selected == selected_) return;
     selected_ = std::move(selected);
     Changed(Aspect::Selection);
-    Call(onClick);
+    CallHandler(onClick);
 }
 
 void ListBox::UserReleasesMouse() {
-    Call(onMouseUp);
+    CallHandler(onMouseUp);
 }
 
 bool ListBox::UserPressesKey(int virtualKey) {
@@ -274,7 +270,7 @@ void TabStrip::SetTab(int index) {
 void TabStrip::UserTurnsTo(int index) {
     const int before = tab_;
     SetTab(index);
-    if (tab_ != before) Call(onClick);
+    if (tab_ != before) CallHandler(onClick);
 }
 
 void TabStrip::UserTurns(int steps) {

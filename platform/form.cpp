@@ -73,8 +73,11 @@ void Form::Load() {
     if (loaded_) return;
     loaded_ = true;
     visible_ = false;
+    loading_ = true;
     native::CreateForm(*this);
-    if (onLoad) CallHandler(onLoad);
+    CallHandler(onLoad);
+    loading_ = false;
+    if (loaded_) native::FormReady(*this);
 }
 
 void Form::Show() {
@@ -94,7 +97,7 @@ void Form::ShowModal(Form& owner) {
 }
 
 bool Form::IsBlocked() const {
-    return loaded_ && native::IsBlocked(*this);
+    return loaded_ && (loading_ || native::IsBlocked(*this));
 }
 
 void Form::ShowOwned(Form& owner) {
@@ -211,7 +214,7 @@ bool Form::UserTurnsPage(int steps) {
 }
 
 void Form::WindowResized() {
-    if (loaded_ && onResize) CallHandler(onResize);
+    if (loaded_) CallHandler(onResize);
 }
 
 // The controls of a page come before their strip.
@@ -252,10 +255,11 @@ void Timer::SetEnabled(bool enabled) {
 }
 
 void Timer::Fire() {
-    if (enabled_ && onTimer) CallHandler(onTimer);
+    if (enabled_) CallHandler(onTimer);
 }
 
 void CallHandler(const std::function<void()>& handler) {
+    if (!handler) return;
     try {
         handler();
     } catch (const std::bad_alloc&) {

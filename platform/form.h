@@ -64,19 +64,20 @@ public:
     void SetBackColor(Color color) { backColor_ = color; }  // before Load
     void SetMenu(Menu& menu, std::vector<Shortcut> shortcuts);  // before Load; the menu must live as long as the form
     Menu* MenuBar() const { return menu_; }
-    const std::vector<Shortcut>& Shortcuts() const { return shortcuts_; }
     void SetButtons(Button* defaultButton, Button* cancelButton);
     Button* DefaultButton() const { return defaultButton_; }
-    Button* CancelButton() const { return cancelButton_; }
 
-    // Makes the window, hidden, and calls onLoad. Does nothing when it is loaded.
+    // Makes the window, hidden, and calls onLoad. Does nothing when it is loaded. Until onLoad has returned, which may
+    // take long when it asks the player something, the window can be neither seen nor used: nothing in it is right yet.
     void Load();
     void Show();               // loads it first when need be; does not wait
     void ShowModal(Form& owner);  // waits until it is unloaded or hidden; the owner is disabled meanwhile
     void ShowOwned(Form& owner);  // in front of the owner, which stays usable; must be unloaded before the owner
     void Hide();
 
-    // A modal form, a message box or a file dialog of this program waits for its answer before the form.
+    bool IsLoading() const { return loading_; }
+    // A modal form, a message box or a file dialog of this program waits for its answer before the form, or the form is
+    // still being loaded.
     bool IsBlocked() const;
     void BringToFront();  // restores it when it is minimised
     void SetAlwaysOnTop();  // above the windows of other programs too; once it is loaded
@@ -134,6 +135,7 @@ private:
     Control* active_ = nullptr;
     Form* modal_ = nullptr;  // the modal form that waits before this one
     bool loaded_ = false;
+    bool loading_ = false;  // onLoad has not returned
     bool visible_ = false;
     bool minimized_ = false;
 };
@@ -174,7 +176,7 @@ void WaitForEvents(int milliseconds);
 // Runs events until no form is loaded.
 void RunEventLoop();
 
-// Calls a handler and shows what it throws (memory ran out) as a run-time error: the program goes on.
+// Calls a handler, if there is one, and shows what it throws (memory ran out) as a run-time error: the program goes on.
 void CallHandler(const std::function<void()>& handler);
 
 }  // namespace quirn

@@ -109,7 +109,7 @@ size_t MaskedBox::UserTypes(char character, size_t caret, size_t selectionEnd) {
     }
     if (changed) {
         Changed(Aspect::Text);
-        if (onChange) CallHandler(onChange);
+        CallHandler(onChange);
     }
     return caret;
 }
@@ -132,7 +132,7 @@ size_t MaskedBox::UserPastes(std::string_view text, size_t caret) {
     }
     if (changed) {
         Changed(Aspect::Text);
-        if (onChange) CallHandler(onChange);
+        CallHandler(onChange);
     }
     return caret;
 }
@@ -140,7 +140,7 @@ size_t MaskedBox::UserPastes(std::string_view text, size_t caret) {
 size_t MaskedBox::UserClears(size_t from, size_t to) {
     if (Empty(from, to)) {
         Changed(Aspect::Text);
-        if (onChange) CallHandler(onChange);
+        CallHandler(onChange);
     }
     return from;
 }
@@ -149,7 +149,7 @@ void MaskedBox::UserEdits(const std::string& text) {
     if (text == text_) return;
     text_ = text;
     Changed(Aspect::Text);
-    if (onChange) CallHandler(onChange);
+    CallHandler(onChange);
 }
 
 }  // namespace quirn

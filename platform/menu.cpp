@@ -7,6 +7,30 @@
 
 namespace quirn {
 
+namespace {
+
+constexpr int kSystemClose = 61536;
+
+constexpr MenuHelpRow kSystemMenuHelp[] = {
+    {61440, "Size the window using the keyboard"},
+    {61456, "Move the window using the keyboard"},
+    {61472, "Minimize the window"},
+    {61488, "Maximize the window"},
+    {61728, "Restore window to normal position and size"},
+};
+
+}  // namespace
+
+std::string FindMenuHelp(std::span<const MenuHelpRow> rows, int command) {
+    for (const MenuHelpRow& row : rows)
+        if (row.command == command) return row.text;
+    return {};
+}
+
+std::string SystemMenuHelp(int command, const char* closeText) {
+    return command == kSystemClose ? closeText : FindMenuHelp(kSystemMenuHelp, command);
+}
+
 Menu::Menu(std::span<const MenuRow> rows) {
     for (const MenuRow& row : rows) items_.push_back({row, row.caption});
 }
@@ -45,7 +69,7 @@ void Menu::SetChecked(int command, bool checked) {
 
 void Menu::UserChooses(int command) {
     const bool choosable = std::any_of(items_.begin(), items_.end(), [&](const Item& item) {
-        return item.row.command == command && item.visible && item.enabled && std::string_view(item.row.caption) != "-";
+        return item.row.command == command && item.visible && std::string_view(item.row.caption) != "-";
     });
     if (choosable && onCommand) CallHandler([&] { onCommand(command); });
 }

@@ -15,6 +15,19 @@ struct MenuRow {
     const char* shortcut = "";  // what is shown right of the caption, as "Ctrl+N"; "" none
 };
 
+// What a status bar says while the player moves over a command.
+struct MenuHelpRow {
+    int command;
+    const char* text;
+};
+
+// Empty when no row has the command.
+std::string FindMenuHelp(std::span<const MenuHelpRow> rows, int command);
+
+// The same for a window's system menu, by the system's numbers (0xF000 and the like). Closing means something else in
+// every window.
+std::string SystemMenuHelp(int command, const char* closeText);
+
 // The menu bar of a form or a pop-up menu: rows and what has been changed of them since.
 class Menu {
 public:
@@ -24,7 +37,6 @@ public:
         MenuRow row;
         std::string caption;
         bool visible = true;
-        bool enabled = true;
         bool checked = false;
     };
 

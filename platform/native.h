@@ -10,9 +10,10 @@
 // these. A form is loaded when they are called.
 namespace quirn::native {
 
-// Makes a hidden window from the form's state; sets form.window. The windows of its controls come with the first
-// ShowForm, those of a page when it is first in front, that of a hidden control when it is first made visible.
+// Makes a hidden, disabled window from the form's state; sets form.window. The windows of its controls come with the
+// first ShowForm, those of a page when it is first in front, that of a hidden control when it is first made visible.
 void CreateForm(Form& form);
+void FormReady(Form& form);    // enables it
 void DestroyForm(Form& form);  // also resets the window pointers of its controls and pages
 void FormChanged(Form& form, Aspect aspect);
 void ShowForm(Form& form, bool visible);
@@ -22,6 +23,17 @@ void BringToFront(Form& form);  // or the window that blocks it
 void Repaint(Form& form);
 void SetOwner(Form& form, Form& owner);
 void KeepOnTop(Form& form);
+
+// The controls of a form and those of its pages.
+template <class Visit>
+void ForEachControl(const Form& form, Visit visit) {
+    for (Control* control : form.Controls()) {
+        visit(*control);
+        if (control->Kind() != ControlKind::TabStrip) continue;
+        for (TabPage* page : static_cast<TabStrip*>(control)->Pages())
+            for (Control* inPage : page->Controls()) visit(*inPage);
+    }
+}
 
 struct Size {
     int width;

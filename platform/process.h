@@ -15,7 +15,7 @@ std::string CommandLineTail();
 bool ClaimSingleInstance();
 
 // Starts a program with no arguments, in a folder, inheriting handles and environment. False when it cannot be
-// started. The new process's handles are closed again.
+// started. The new process's handles are closed at once, on purpose: nobody waits on them.
 bool StartProgram(const std::string& program, const std::string& folder);
 
 // A top-level window of any program.
@@ -26,6 +26,6 @@ WindowHandle FirstTopLevelWindow();
 WindowHandle NextTopLevelWindow(WindowHandle window);
 std::string WindowCaption(WindowHandle window);  // at most 255 bytes
 void ShowNormal(WindowHandle window);
-void BringToFront(WindowHandle window);
+void BringToFront(WindowHandle window);  // or the dialog that the window waits for
 
 }  // namespace quirn

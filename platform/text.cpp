@@ -53,6 +53,12 @@ std::string_view Trim(std::string_view text) {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
+std::string WithoutAccessKeys(std::string_view text) {
+    std::string shown;
+    for (const char c : text) shown.append(c == '&' ? 2 : 1, c);
+    return shown;
+}
+
 double Val(std::string_view text) {
     size_t at = text.find_first_not_of(" \t");
     if (at == std::string_view::npos) return 0;

@@ -24,6 +24,9 @@ struct LessNoCase {
 // Without the blanks (0x20 only) at both ends.
 std::string_view Trim(std::string_view text);
 
+// A text as a menu or a button is given it to show it letter for letter: a lone "&" would name an access key.
+std::string WithoutAccessKeys(std::string_view text);
+
 // The decimal number at the start of a text, after blanks and tabs: sign, digits, point, digits, exponent.
 // 0 when there is none. The point is "." whatever the system's language.
 double Val(std::string_view text);

@@ -16,7 +16,6 @@ public:
 
     void Add();     // the form must be loaded; the icon comes back by itself when the shell restarts
     void Remove();
-    bool IsThere() const { return there_; }
     Form& Owner() const { return *form_; }
 
     std::function<void(unsigned)> onMouse;  // a mouse message (WM_...) on the icon
@@ -28,6 +27,6 @@ private:
     bool there_ = false;
 };
 
-inline constexpr unsigned kMouseLeftDown = 513, kMouseLeftDoubleClick = 515, kMouseRightDown = 516;
+inline constexpr unsigned kMouseLeftDoubleClick = 515, kMouseRightDown = 516;
 
 }  // namespace quirn

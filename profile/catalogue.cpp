@@ -63,4 +63,10 @@ void InitCatalogue(Profile& profile) {
     profile.HiddenOptions = MakeSection("HiddenOptions", kNumber, {"Force60", "ShowFrameRate", "FlickSystemMemory"});
 }
 
+void ResetProfile(Profile& profile) {
+    for (std::string& text : profile.Messages.values) text.clear();
+    for (const int index : {kPlayerName, kPlayerPassword, kProxyIP}) profile.Dialog.Value(index).clear();
+    profile.WaveFiles.fill(kNotSet);
+}
+
 }  // namespace quirn

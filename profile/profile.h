@@ -54,4 +54,8 @@ struct Profile {
 // Fills the names and types of all five sections and leaves the values empty.
 void InitCatalogue(Profile& profile);
 
+// What New clears: macros, chat name, player, proxy and wave files. All other settings and the ignore list stay, so a
+// new profile starts from the game's current settings.
+void ResetProfile(Profile& profile);
+
 }  // namespace quirn

@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "profile/document.h"
+#include "profile/documentnames.h"
 #include "profile/profile.h"
 
 namespace quirn {

@@ -57,16 +57,6 @@ constexpr int kFrame = 90;
 constexpr int kCaption = 285;
 constexpr int kMenu = 285;
 
-template <class Visit>
-void ForEachControl(Form& form, Visit visit) {
-    for (Control* control : form.Controls()) {
-        visit(*control);
-        if (control->Kind() != ControlKind::TabStrip) continue;
-        for (TabPage* page : static_cast<TabStrip*>(control)->Pages())
-            for (Control* inPage : page->Controls()) visit(*inPage);
-    }
-}
-
 std::map<const VirtualList*, size_t> topIndexes;  // of lists that have been scrolled
 
 // The last items fill the list: it scrolls no further.
@@ -136,6 +126,8 @@ void CreateForm(Form& form) {
     ++loadedForms;
     form.window = &form;
 }
+
+void FormReady(Form&) {}
 
 void DestroyForm(Form& form) {
     --loadedForms;

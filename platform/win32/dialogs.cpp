@@ -9,13 +9,15 @@
 #include <algorithm>
 
 #include "platform/version.h"
+#include "platform/win32/handle.h"
 #include "platform/win32/metrics.h"
 
 namespace quirn {
 
 namespace {
 
-constexpr DWORD kLongestPath = 32768;
+using win32::kLongestPath;
+
 constexpr int kPointsPerInch = 72;
 constexpr int kTenthsPerPoint = 10;
 

@@ -27,10 +27,6 @@ Selection SelectionIn(HWND window) {
     return selection;
 }
 
-bool Pressed(int key) {
-    return GetKeyState(key) < 0;
-}
-
 std::string ClipboardText(HWND window) {
     std::string text;
     if (!OpenClipboard(window)) return text;

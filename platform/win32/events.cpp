@@ -10,10 +10,6 @@ namespace win32 {
 
 namespace {
 
-bool Pressed(int key) {
-    return GetKeyState(key) < 0;
-}
-
 enum class Key { Done, ForControl, ForDialogManager };
 
 // Enter and Esc never reach the dialog manager: it would send the form the commands 1 and 2, which are menu items.

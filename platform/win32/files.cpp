@@ -12,10 +12,10 @@ namespace {
 
 using win32::ErrorFrom;
 using win32::KernelHandle;
+using win32::kLongestPath;
 using win32::LastError;
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-constexpr DWORD kLongestPath = 32768;
 
 std::string UnfinishedPath(const std::string& path) {
     return path + kUnfinishedSuffix;

@@ -89,7 +89,7 @@ void Resize(Form& form) {
 void ChangeDpi(Form& form, const RECT& place) {
     SetWindowPos(WindowOf(form), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
-    ForEachControl(form, [](Control& control) {
+    native::ForEachControl(form, [](Control& control) {
         if (control.window != nullptr) PlaceControl(control);
     });
     Resize(form);
@@ -107,6 +107,15 @@ void RestoreFocus(const Form& form) {
     const Control* active = form.ActiveControl();
     if (active != nullptr && active->window != nullptr && IsWindowVisible(WindowOf(*active)))
         SetFocus(WindowOf(*active));
+}
+
+// A form that waits for a dialog gives the keyboard to that one. False when nothing of the kind is in sight.
+bool PassOnActivation(const Form& form) {
+    if (!form.IsBlocked()) return false;
+    const HWND dialog = GetLastActivePopup(WindowOf(form));
+    if (dialog == WindowOf(form) || !IsWindowVisible(dialog) || !IsWindowEnabled(dialog)) return false;
+    SetActiveWindow(dialog);
+    return true;
 }
 
 // False when they are there.
@@ -143,10 +152,17 @@ LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
         case WM_MENUSELECT: MenuHighlighted(*form, wParam, lParam); break;
         case WM_DROPFILES: DropFile(*form, reinterpret_cast<HDROP>(wParam)); return 0;
         case WM_SETFOCUS: RestoreFocus(*form); return 0;
+        case WM_ACTIVATE:
+            if (LOWORD(wParam) != WA_INACTIVE && PassOnActivation(*form)) return 0;
+            break;
+        // Another program may show a window that never was: a second copy does. One that is being loaded stays hidden.
+        case WM_WINDOWPOSCHANGING:
+            if (form->IsLoading()) reinterpret_cast<WINDOWPOS*>(lParam)->flags &= ~static_cast<UINT>(SWP_SHOWWINDOW);
+            break;
         case WM_SHOWWINDOW:
+            if (form->IsLoading()) break;
             // An owner that is minimised takes its windows with it, which is no hiding of theirs.
             if (lParam == 0) form->WindowShown(wParam != FALSE);
-            // Another program may show a window that never was: a second copy does.
             if (wParam != FALSE && MakeControls(*form)) form->FocusNext(nullptr);
             break;
         case WM_SIZE:
@@ -232,14 +248,18 @@ void CreateForm(Form& form) {
     if (form.Border() == FormBorder::None) extendedStyle |= WS_EX_TOOLWINDOW;
     if (form.onDropFile) extendedStyle |= WS_EX_ACCEPTFILES;
     const HMENU menu = form.MenuBar() == nullptr ? nullptr : MakeMenuBar(*form.MenuBar());
-    const HWND window =
-        CreateWindowExA(extendedStyle, kFormClass, form.Caption().c_str(), StyleOf(form), place.left, place.top,
-                        place.right - place.left, place.bottom - place.top, nullptr, menu, Instance(), nullptr);
+    const HWND window = CreateWindowExA(extendedStyle, kFormClass, form.Caption().c_str(), StyleOf(form) | WS_DISABLED,
+                                        place.left, place.top, place.right - place.left, place.bottom - place.top,
+                                        nullptr, menu, Instance(), nullptr);
     form.window = window;
     // The monitor, and with it the DPI, is known only now.
     if (DpiOf(window) != DpiOf(nullptr)) FormChanged(form, Aspect::Place);
     SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&form));
     TellPlace(form);
+}
+
+void FormReady(Form& form) {
+    EnableWindow(WindowOf(form), TRUE);
 }
 
 void DestroyForm(Form& form) {

@@ -6,6 +6,8 @@
 
 namespace quirn::win32 {
 
+inline constexpr DWORD kLongestPath = 32768;  // that any function of the system takes or gives, with its NUL
+
 // Owns one handle of the system and gives it back at the end of its life. Functions that make handles report failure
 // by null or by INVALID_HANDLE_VALUE; neither is ever owned.
 template <class Handle, auto Close>

@@ -2,6 +2,9 @@
 
 #include <windows.h>
 
+#include <algorithm>
+#include <string_view>
+
 #include "platform/native.h"
 #include "platform/win32/window.h"
 
@@ -36,15 +39,15 @@ size_t Fill(HMENU menu, const Items& items, size_t at, int level) {
             continue;
         }
         std::string text = item.caption;
+        std::replace(text.begin(), text.end(), '\t', ' ');  // what follows a tab would be shown as the shortcut
         if (*item.row.shortcut != '\0') text += std::string("\t") + item.row.shortcut;
         MENUITEMINFOA info{};
         info.cbSize = sizeof(info);
         info.fMask = MIIM_ID | MIIM_FTYPE | MIIM_STATE | MIIM_SUBMENU;
         info.wID = static_cast<UINT>(item.row.command);
-        info.fState = static_cast<UINT>((item.enabled ? MFS_ENABLED : MFS_DISABLED) |
-                                        (item.checked ? MFS_CHECKED : MFS_UNCHECKED));
+        info.fState = item.checked ? MFS_CHECKED : MFS_UNCHECKED;
         info.hSubMenu = submenu;
-        if (text == "-") {
+        if (std::string_view(item.row.caption) == "-") {
             info.fType = MFT_SEPARATOR;
         } else {
             info.fMask |= MIIM_STRING;

@@ -17,6 +17,26 @@ WindowHandle FromWindow(HWND window) {
     return reinterpret_cast<WindowHandle>(window);
 }
 
+bool CanAnswer(HWND window) {
+    return IsWindowVisible(window) && IsWindowEnabled(window);
+}
+
+BOOL CALLBACK FindAnswerable(HWND window, LPARAM found) {
+    if (!CanAnswer(window)) return TRUE;
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
+}
+
+// The box or dialog that a disabled window waits for. A box that is nobody's, because it came before its program had a
+// window to show, is the foremost that the player can use; null when there is none.
+HWND WaitedFor(HWND window) {
+    const HWND dialog = GetLastActivePopup(window);
+    if (CanAnswer(dialog)) return dialog;
+    HWND found = nullptr;
+    EnumThreadWindows(GetWindowThreadProcessId(window, nullptr), FindAnswerable, reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
 }  // namespace
 
 std::string CommandLineTail() {
@@ -74,7 +94,8 @@ void ShowNormal(WindowHandle window) {
 }
 
 void BringToFront(WindowHandle window) {
-    SetForegroundWindow(ToWindow(window));
+    const HWND waitedFor = IsWindowEnabled(ToWindow(window)) ? nullptr : WaitedFor(ToWindow(window));
+    SetForegroundWindow(waitedFor != nullptr ? waitedFor : ToWindow(window));
 }
 
 }  // namespace quirn

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "platform/win32/handle.h"
+
 namespace quirn {
 
 namespace {
@@ -35,13 +37,13 @@ long RegistryKey::Set(const std::string& name, RegistryType type, const void* da
 }
 
 std::string ReadMachineText(const std::string& path, const std::string& name) {
-    HKEY key = nullptr;
-    if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, path.c_str(), 0, KEY_QUERY_VALUE, &key) != ERROR_SUCCESS) return {};
+    HKEY opened = nullptr;
+    if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, path.c_str(), 0, KEY_QUERY_VALUE, &opened) != ERROR_SUCCESS) return {};
+    const win32::RegistryHandle key(opened);
     char text[MAX_PATH * 2] = {};
     DWORD size = sizeof(text) - 1;
     DWORD type = 0;
-    const long status = RegQueryValueExA(key, name.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(text), &size);
-    RegCloseKey(key);
+    const long status = RegQueryValueExA(key.Get(), name.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(text), &size);
     if (status != ERROR_SUCCESS || (type != REG_SZ && type != REG_EXPAND_SZ)) return {};
     if (type == REG_SZ) return text;
     char expanded[MAX_PATH * 2] = {};

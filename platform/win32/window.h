@@ -39,19 +39,13 @@ inline Control* ControlOf(HWND window) {
 // The form of a window; null when the window belongs to no form.
 Form* FormOf(HWND window);
 
+inline bool Pressed(int key) {
+    return GetKeyState(key) < 0;
+}
+
 // A place in a container's inner area.
 RECT ToPixels(const Bounds& place, int dpi);
 int DpiOf(const Control& control);
-
-template <class Visit>
-void ForEachControl(const Form& form, Visit visit) {
-    for (Control* control : form.Controls()) {
-        visit(*control);
-        if (control->Kind() != ControlKind::TabStrip) continue;
-        for (TabPage* page : static_cast<TabStrip*>(control)->Pages())
-            for (Control* inPage : page->Controls()) visit(*inPage);
-    }
-}
 
 // controls.cpp: windows from the state of controls.
 void CreateControls(Container& container);  // those that are visible

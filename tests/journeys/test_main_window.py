@@ -300,6 +300,19 @@ def test_the_config_code_dialog(desk):
     assert player.checked(player.find("Fonts")) and player.checked(player.find("Full Map"))
 
 
+def test_a_config_code_that_says_what_is_shown_is_no_edit(desk):
+    player = start(desk)
+    player.turn_to("Advanced")
+    code = code_button(player)["caption"]
+    player.click(code_button(player))
+    dialog = player.dialog("Advanced Settings Code")
+    dialog.type(code.replace("-", ""))
+    dialog.keys("Return")
+    dialog.gone()
+    assert code_button(player)["caption"] == code
+    player.quirn.close()
+
+
 def test_the_keyboard_reaches_everything(desk):
     player = start(desk)
     reached = {}

@@ -5,6 +5,9 @@ import pytest
 
 from catalogue import SZ
 from conftest import TITLE, wait_for
+from player import SET_OPTIONS, Player, start
+from test_load_and_run import queried
+from test_messages import NO_ZONES
 
 
 def test_the_main_window_shows_and_ends_the_program(desk):
@@ -66,12 +69,62 @@ def test_a_second_copy_brings_the_first_forward_and_ends(desk):
     assert not desk.file("started.txt").exists(), "the second copy has handled its command line"
 
 
+def hidden_window(quirn):
+    return wait_for(lambda: [w for w in quirn.desk.user.ask("windows", "all")["windows"]
+                             if w["pid"] == quirn.pid and TITLE in w["caption"]], what="the hidden main window")[0]
+
+
 def test_a_hidden_first_copy_is_shown_by_a_second(desk):
     first = desk.start("/Q")
-    wait_for(lambda: [w for w in desk.user.ask("windows", "all")["windows"]
-                      if w["pid"] == first.pid and TITLE in w["caption"]], what="the hidden main window")
+    hidden_window(first)
     assert desk.start().ended() == 0
     first.main_window()
+
+
+@pytest.mark.parametrize("arguments", [(), ("/Q",)])
+def test_a_window_that_is_still_being_loaded_cannot_be_used(desk, arguments):
+    zones = desk.file("favorite.lst").read_bytes()
+    desk.file("favorite.lst").unlink()
+    before = queried(desk)
+    first = desk.start(*arguments)
+    main = Player(first, hidden_window(first)["handle"])
+
+    def a_second_copy_shows(waiting):
+        assert desk.start().ended() == 0
+        wait_for(lambda: desk.user.ask("foreground")["handle"] == waiting, what="what waits, in front")
+        desk.screenshot("still being loaded")
+        assert not main.visible()
+
+    box = first.box()
+    assert box.text == NO_ZONES
+    a_second_copy_shows(box.handle)
+    box.press()
+    options = Player(first, first.window("Options")["handle"])
+    a_second_copy_shows(options.handle)
+    desk.file("favorite.lst").write_bytes(zones)
+    options.keys("Escape")
+    options.gone()
+
+    if arguments:
+        wait_for(main.tray_icons, what="the icon")
+        assert desk.start().ended() == 0
+    wait_for(main.visible, what="the window")
+    main.front()
+    wait_for(main.focus, what="the focus")
+    assert main.text(main.beside("Pilot Name :")) == before["Dialog", "PlayerName"][1]
+    main.click(main.find("Transfer Profile And Run Subspace"))
+    desk.game_report()
+    assert queried(desk) == before
+
+
+def test_a_second_copy_gives_the_keyboard_to_an_open_dialog(desk):
+    player = start(desk)
+    player.quirn.choose(SET_OPTIONS)
+    dialog = player.dialog("Options")
+    assert desk.start().ended() == 0
+    wait_for(lambda: desk.user.ask("foreground")["handle"] == dialog.handle, what="the dialog in front")
+    dialog.xdo("key", "Escape")
+    dialog.gone()
 
 
 def test_a_second_copy_while_the_first_has_no_window_yet(desk):

@@ -243,10 +243,10 @@ TEST(LogMRU, KeepsTheLastFive) {
     EXPECT_EQ(list, (LogMRUList{"f", "C", "a", "b", "d"}));
     AddToLogMRU(list, "F");
     EXPECT_EQ(list[0], "f");  // nothing moves, so the spelling stays
-    list = {"x", "y", "z", "y", " "};
+    list = {"R&D", "y", "z", "y", " "};
     AddToLogMRU(list, "y");  // the last one that is equal counts
-    EXPECT_EQ(list, (LogMRUList{"y", "x", "y", "z", " "}));
-    EXPECT_EQ(LogMRUCaption(list, 1), "&2 x");
+    EXPECT_EQ(list, (LogMRUList{"y", "R&D", "y", "z", " "}));
+    EXPECT_EQ(LogMRUCaption(list, 1), "&2 R&&D");
     EXPECT_EQ(LogMRUCaption(list, 4), std::nullopt);
 }
 

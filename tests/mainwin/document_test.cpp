@@ -63,19 +63,19 @@ protected:
 };
 
 TEST_F(DocumentCommandsTest, NewDoesNothingToACleanProfile) {
-    document_.New();
+    document_.mnuFile_New_Click();
     EXPECT_EQ(program_.CurrentFile, "<current SS settings>");
     EXPECT_EQ(title_, "as before");
     EXPECT_EQ(pilot_, "D1");
 
     program_.dirty = true;
     ExpectQuestion(Answer::Cancel);
-    document_.New();
+    document_.mnuFile_New_Click();
     EXPECT_TRUE(program_.dirty);
     EXPECT_EQ(pilot_, "D1");
 
     ExpectQuestion(Answer::No);
-    document_.New();
+    document_.mnuFile_New_Click();
     EXPECT_EQ(program_.CurrentFile, "<untitled.qrn>");
     EXPECT_EQ(title_, "QUIRN v1.61 - <untitled.qrn>");
     EXPECT_EQ(pilot_, "");
@@ -86,11 +86,11 @@ TEST_F(DocumentCommandsTest, NewDoesNothingToACleanProfile) {
 TEST_F(DocumentCommandsTest, OpenAsksFirstAndKeepsANameThatFailed) {
     program_.dirty = true;
     ExpectQuestion(Answer::Cancel);
-    document_.Open();
+    document_.mnuFile_Open_Click();
 
     program_.dirty = false;
     ExpectOpenFile("Open", std::nullopt);
-    document_.Open();
+    document_.mnuFile_Open_Click();
     EXPECT_EQ(headless::LastFileDialog().filter, kFilter);
     EXPECT_EQ(headless::LastFileDialog().filterIndex, 2);
     EXPECT_EQ(headless::LastFileDialog().folder, Scratch());
@@ -100,7 +100,7 @@ TEST_F(DocumentCommandsTest, OpenAsksFirstAndKeepsANameThatFailed) {
     EXPECT_EQ(status_, "");
 
     ExpectOpenFile("Open", old_);
-    document_.Open();
+    document_.mnuFile_Open_Click();
     EXPECT_EQ(program_.CurrentFile, old_);
     EXPECT_EQ(title_, "QUIRN v1.61 - old.qrn");
     EXPECT_EQ(status_, "File has been loaded");
@@ -109,7 +109,7 @@ TEST_F(DocumentCommandsTest, OpenAsksFirstAndKeepsANameThatFailed) {
 
     ExpectOpenFile("Open", new_);
     ExpectMessage("ERROR - Could not find profile named '" + new_ + "'", kCritical);
-    document_.Open();
+    document_.mnuFile_Open_Click();
     EXPECT_EQ(program_.CurrentFile, new_);
     EXPECT_EQ(title_, "QUIRN v1.61 - old.qrn");
     EXPECT_EQ(status_, "ERROR loading file");
@@ -124,7 +124,7 @@ TEST_F(DocumentCommandsTest, OpenAsksFirstAndKeepsANameThatFailed) {
 
 TEST_F(DocumentCommandsTest, SaveAsTakesNameTitleAndPlaceInTheList) {
     ExpectSaveFile("Save As", std::nullopt);
-    document_.Save();  // untitled
+    document_.mnuFile_Save_Click();  // untitled
     EXPECT_EQ(headless::LastFileDialog().filter, kFilter);
     EXPECT_EQ(headless::LastFileDialog().filterIndex, 2);
     EXPECT_EQ(headless::LastFileDialog().folder, Scratch());
@@ -135,7 +135,7 @@ TEST_F(DocumentCommandsTest, SaveAsTakesNameTitleAndPlaceInTheList) {
     program_.dirty = true;
     pilot_ = "Typed";
     ExpectSaveFile("Save As", new_);
-    EXPECT_TRUE(document_.SaveAs());
+    EXPECT_TRUE(document_.mnuFile_SaveAs_Click());
     EXPECT_EQ(program_.CurrentFile, new_);
     EXPECT_EQ(title_, "QUIRN v1.61 - my.best.qrn");
     EXPECT_EQ(status_, "File has been saved");
@@ -161,7 +161,7 @@ TEST_F(DocumentCommandsTest, SaveWritesTheCurrentFileAndNothingElse) {
     program_.CurrentFile = old_;
     program_.dirty = true;
     pilot_ = "Typed";
-    document_.Save();
+    document_.mnuFile_Save_Click();
     EXPECT_EQ(PilotIn(old_), "Typed");
     EXPECT_EQ(status_, "File has been saved");
     EXPECT_FALSE(program_.dirty);
@@ -174,10 +174,10 @@ TEST_F(DocumentCommandsTest, ASaveThatFailsIsShownAndLeavesTheChangesUnsaved) {
     program_.dirty = true;
     SetReadOnly(old_);
     ExpectError(75, "Path/File access error");
-    document_.Save();
+    document_.mnuFile_Save_Click();
     ExpectSaveFile("Save As", old_);
     ExpectError(75, "Path/File access error");
-    EXPECT_FALSE(document_.SaveAs());
+    EXPECT_FALSE(document_.mnuFile_SaveAs_Click());
     EXPECT_TRUE(program_.dirty);
     EXPECT_EQ(status_, "");
     EXPECT_EQ(program_.recentFiles[0], "");
@@ -191,7 +191,7 @@ TEST_F(DocumentCommandsTest, ARecentFileLoadsWithoutAskingAndKeepsTheCurrentName
     program_.recentFiles = {new_, old_, "", "", ""};
     program_.CurrentFile = new_;
     program_.dirty = true;
-    document_.OpenRecent(1);
+    document_.mnuFileMRU_Click(1);
     EXPECT_EQ(pilot_, "Old");
     EXPECT_EQ(title_, "QUIRN v1.61 - old.qrn");
     EXPECT_EQ(status_, "File has been loaded");
@@ -200,7 +200,7 @@ TEST_F(DocumentCommandsTest, ARecentFileLoadsWithoutAskingAndKeepsTheCurrentName
     EXPECT_TRUE(program_.dirty);
 
     ExpectMessage("ERROR - Could not find profile named '" + new_ + "'", kCritical);
-    document_.OpenRecent(1);
+    document_.mnuFileMRU_Click(1);
     EXPECT_EQ(status_, "ERROR loading file");
     EXPECT_EQ(program_.recentFiles[1], new_);
     EXPECT_EQ(title_, "QUIRN v1.61 - old.qrn");
@@ -211,7 +211,7 @@ TEST_F(DocumentCommandsTest, ImportKeepsWhatWasTypedInOtherMacros) {
     PutFile(macros, "one\r\ntwo\r\n");
     macro_ = "typed";
     ExpectOpenFile("Import Subspace Macro File", macros);
-    document_.Import();
+    document_.mnuFile_Import_Click();
     EXPECT_EQ(headless::LastFileDialog().filter,
               "All Files (*.*)|*.*|Subspace Macro Files (*.ssm)|*.ssm|Text Files (*.txt)|*.txt");
     EXPECT_EQ(headless::LastFileDialog().filterIndex, 2);
@@ -226,17 +226,17 @@ TEST_F(DocumentCommandsTest, ImportKeepsWhatWasTypedInOtherMacros) {
     program_.dirty = false;
     status_.clear();
     ExpectOpenFile("Import Subspace Macro File", macros);
-    document_.Import();  // the same again
+    document_.mnuFile_Import_Click();  // the same again
     EXPECT_FALSE(program_.dirty);
     EXPECT_EQ(status_, "Macro file has been imported");
 
     status_.clear();
     ExpectOpenFile("Import Subspace Macro File", Scratch() + "\\gone.ssm");
     ExpectError(53, "File not found");
-    document_.Import();
+    document_.mnuFile_Import_Click();
     EXPECT_EQ(status_, "");
     ExpectOpenFile("Import Subspace Macro File", std::nullopt);
-    document_.Import();
+    document_.mnuFile_Import_Click();
     EXPECT_EQ(status_, "");
 }
 

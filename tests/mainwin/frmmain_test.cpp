@@ -5,7 +5,9 @@
 #include "mainwin/bindingtables.h"
 #include "platform/settings.h"
 #include "profile/profilefile.h"
+#include "tests/auxiliary/controlsof.h"
 #include "tests/testing/profiles.h"
+#include "tests/testing/userinput.h"
 
 namespace quirn {
 namespace {
@@ -113,15 +115,34 @@ TEST_F(FrmMainTest, WhatControlsCannotShowBecomesWhatTheySay) {
     profile.Options.Value(kResolutionY) = "480";
     const int clock = OptionsSetting(profile, "Clock", SettingMode::Index);
     profile.Options.Value(clock) = "5";
+    profile.HiddenOptions.values = {"", "abc", "0.5", "2"};
     const Profile collected = ShownAndCollected(window, profile);
     EXPECT_EQ(collected.Dialog.Value(kServerArena), "Beta Drift");
     EXPECT_EQ(collected.Dialog.Value(kServerName), "b.example");
     EXPECT_EQ(collected.Dialog.Value(kProxyIP), "");
     EXPECT_EQ(collected.Options.Value(kResolutionY), "600");
     EXPECT_EQ(collected.Options.Value(clock), "1");
+    EXPECT_EQ(collected.HiddenOptions.values, (std::vector<std::string>{"", "0", "0", "2"}));
     profile.Options.Value(kResolutionX) = "1920";
     EXPECT_EQ(ShownAndCollected(window, profile).Options.Value(kResolutionX), "640");
     window.Unload();
+}
+
+TEST_F(FrmMainTest, AChatNameIsSavedCompleteWhileTheCursorIsInIt) {
+    frmMain window(program_);
+    window.Load();
+    window.Show();
+    program_.CurrentFile = Scratch() + "\\a.qrn";
+    program_.profile.Messages.Value(kChatName) = "night";
+    window.ShowProfile();
+    for (Control* control : ControlOf<TabStrip>(window, ControlKind::TabStrip, "").Pages()[0]->Controls())
+        if (control->Text() == "night") control->SetFocus();
+    Press(window, 'S', true);
+    EXPECT_FALSE(program_.dirty);
+    Profile saved = EmptyProfile();
+    ASSERT_TRUE(LoadProfile(saved, program_.CurrentFile));
+    EXPECT_EQ(saved.Messages.Value(kChatName), "?chat=night");
+    EXPECT_TRUE(window.Unload());
 }
 
 TEST_F(FrmMainTest, ClosesToTheTrayAndEndsByExitAlone) {

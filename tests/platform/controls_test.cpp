@@ -61,6 +61,13 @@ struct TestForm : Form {
 
 class ControlsTest : public WorldTest {};
 
+TEST_F(ControlsTest, AFormIsBlockedUntilItIsLoaded) {
+    TestForm form;
+    form.onLoad = [&] { EXPECT_TRUE(form.IsBlocked()); };
+    form.Load();
+    EXPECT_FALSE(form.IsBlocked());
+}
+
 TEST_F(ControlsTest, SettersTellNobodyAndEditsTellOnce) {
     TestForm form;
     for (const bool shown : {false, true}) {

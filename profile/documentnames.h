@@ -3,9 +3,7 @@
 #include <array>
 #include <string>
 
-#include "profile/profile.h"
-
-// The profile as a document: its name, and the list of the files used last.
+// How profiles are named as documents, and the list of the files used last.
 namespace quirn {
 
 // Names of profiles that have no file yet. Any name that begins with "<" counts as such.
@@ -30,9 +28,5 @@ void AddRecentFile(RecentFiles& files, std::string path);
 
 // The menu caption of an entry, index from 0: "&1 C:\profiles\ace.qrn".
 std::string RecentFileCaption(size_t index, const std::string& path);
-
-// What New clears: macros, chat name, player, proxy and wave files. All other settings and the ignore list stay, so a
-// new profile starts from the game's current settings.
-void ResetProfile(Profile& profile);
 
 }  // namespace quirn

@@ -1,4 +1,4 @@
-#include "profile/document.h"
+#include "profile/documentnames.h"
 
 #include <algorithm>
 
@@ -26,12 +26,6 @@ void AddRecentFile(RecentFiles& files, std::string path) {
 
 std::string RecentFileCaption(size_t index, const std::string& path) {
     return "&" + std::to_string(index + 1) + " " + path;
-}
-
-void ResetProfile(Profile& profile) {
-    for (std::string& text : profile.Messages.values) text.clear();
-    for (const int index : {kPlayerName, kPlayerPassword, kProxyIP}) profile.Dialog.Value(index).clear();
-    profile.WaveFiles.fill(kNotSet);
 }
 
 }  // namespace quirn

@@ -1,4 +1,4 @@
-#include "profile/document.h"
+#include "profile/documentnames.h"
 
 #include "profile/macroimport.h"
 #include "tests/testing/profiles.h"

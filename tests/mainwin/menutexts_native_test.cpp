@@ -1,0 +1,31 @@
+#include "mainwin/frmmain.h"
+#include "mainwin/menurows.h"
+#include "platform/headless/headless.h"
+#include "platform/settings.h"
+#include "tests/testing/profiles.h"
+
+namespace quirn {
+namespace {
+
+using namespace test;
+using headless::TheWorld;
+
+class MenuTextsTest : public WorldTest {};
+
+TEST_F(MenuTextsTest, NamesShowTheirAmpersands) {
+    PutFile(Scratch() + "\\favorite.lst", "Alpha Reach,a.example,5000\r\n-First\r\n");
+    SaveSetting("MRUList", "MRU0", "C:\\R&D.QRN");
+    SaveSetting("Favourites", "Fav1Name", "Tom & Jerry");
+    Program program;
+    program.gameFolder = Scratch();
+    InitCatalogue(program.profile);
+    frmMain window(program);
+    window.Load();
+    EXPECT_EQ(window.MenuBar()->At(mnuFileMRU).caption, "&1 C:\\R&&D.QRN");
+    TheWorld().trayIcons.back()->UserPoints(kMouseRightDown);
+    EXPECT_EQ(TheWorld().poppedUpMenus.back().menu->At(mnuPUTrayIcon_Fav).caption, "Tom && Jerry");
+    window.Unload();
+}
+
+}  // namespace
+}  // namespace quirn
