@@ -14,11 +14,13 @@ constexpr int kHeight = 2700;
 constexpr int kInner = 4200;  // the width of the rows, less the frame
 
 //                             left   top  width  height
+// clang-format off
 constexpr Bounds kLabel3Place{  120,  120, kInner,  225};
 constexpr Bounds kLabel1Place{  120,  390, kInner,  315};
 constexpr Bounds kLabel5Place{  120,  720, kInner,  585};
 constexpr Bounds kLabel2Place{  120, 1320, kInner,  315};
 constexpr Bounds kLabel4Place{  120, 1800, kInner,  420};
+// clang-format on
 
 // The colours of the moving labels, one step a tick.
 constexpr Color kColors[] = {kSpaceGold,         Rgb(255, 150, 70), Rgb(245, 90, 110),

@@ -9,8 +9,8 @@ namespace quirn {
 namespace {
 
 constexpr char kGameWindowClass[] = "SubSpaceClass";
-constexpr int kGraceTime = 1000;   // milliseconds that the run box stays when the game's window is there
-constexpr int kSearchPause = 50;   // milliseconds between two looks for the game's window
+constexpr int kGraceTime = 1000;  // milliseconds that the run box stays when the game's window is there
+constexpr int kSearchPause = 50;  // milliseconds between two looks for the game's window
 
 }  // namespace
 

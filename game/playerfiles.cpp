@@ -8,7 +8,9 @@ namespace quirn {
 
 namespace {
 
-std::string IgnorePath(const std::string& gameFolder) { return gameFolder + "\\ignore.txt"; }
+std::string IgnorePath(const std::string& gameFolder) {
+    return gameFolder + "\\ignore.txt";
+}
 
 std::string WavePath(const std::string& gameFolder, size_t slot) {
     return gameFolder + "\\record" + std::to_string(slot) + ".wav";

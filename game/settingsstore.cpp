@@ -8,9 +8,13 @@ namespace quirn {
 
 namespace {
 
-std::string KeyPath(const Section& section) { return "Software\\Virgin\\SubSpace\\" + section.name; }
+std::string KeyPath(const Section& section) {
+    return "Software\\Virgin\\SubSpace\\" + section.name;
+}
 
-bool IsSupported(RegistryType type) { return type == RegistryType::Text || type == RegistryType::Number; }
+bool IsSupported(RegistryType type) {
+    return type == RegistryType::Text || type == RegistryType::Number;
+}
 
 std::string AsText(const SettingValue& value) {
     if (const auto* text = std::get_if<std::string>(&value)) return *text;

@@ -26,7 +26,7 @@ constexpr int kSmallestHeight = 540 * 15;
 
 // How the controls follow the window's size, from its inner area's edges.
 constexpr int kBesideLog = 300;
-constexpr int kBelowLog = 1500;  // and the height of the lists of players
+constexpr int kBelowLog = 1500;   // and the height of the lists of players
 constexpr int kBelowBlock = 800;  // down to the status bar
 constexpr int kBlockHeight = PlayerPanel::kInclude.height;
 
@@ -337,8 +337,7 @@ void frmLogEdit::FindInLog(const std::string& text) {
 }
 
 void frmLogEdit::CopySelected() {
-    const std::string text =
-        lstLog.HasFocus() ? edit_.view.SelectedText(lstLog.Selection()) : players_.SelectedText();
+    const std::string text = lstLog.HasFocus() ? edit_.view.SelectedText(lstLog.Selection()) : players_.SelectedText();
     if (!text.empty()) SetClipboardText(text);
 }
 

@@ -137,9 +137,9 @@ bool LogParser::ParseWindow(size_t end) {
         i += size_t{1} + hasMark;
         bool unusual = false;
         while (text[lineFeed] != '\n') [[unlikely]] {
-            unusual |= (text[first] == ')') | (text[lineFeed] == ')');
-            lineFeed = places[i++];
-        }
+                unusual |= (text[first] == ')') | (text[lineFeed] == ')');
+                lineFeed = places[i++];
+            }
 
         const size_t next = lineFeed + 1;
         const bool withReturn = (text[static_cast<ptrdiff_t>(lineFeed) - 1] == '\r') & (lineFeed > begin);

@@ -44,10 +44,8 @@ inline uint16_t* Append(uint16_t* out, Mask bits, size_t base) {
     *out = static_cast<uint16_t>(base + static_cast<size_t>(std::countr_zero(bits)));
     out += bits != 0;
     bits &= bits - 1;
-    while (bits != 0) [[unlikely]] {
+    for (; bits != 0; bits &= bits - 1)
         *out++ = static_cast<uint16_t>(base + static_cast<size_t>(std::countr_zero(bits)));
-        bits &= bits - 1;
-    }
     return out;
 }
 

@@ -9,8 +9,8 @@
 namespace quirn {
 
 struct LogLook {
-    Bounds place;  // of the window, twips
-    Font font;     // of lstLog; whether it is underlined or struck out is not kept
+    Bounds place;                               // of the window, twips
+    Font font;                                  // of lstLog; whether it is underlined or struck out is not kept
     std::optional<Color> foreColor, backColor;  // of lstLog; nothing is the system's
 };
 

@@ -24,14 +24,14 @@ public:
 
     void MoveBottom(int bottom);  // where the lists end, in twips from the form's upper edge
 
-    void Empty();              // before a log is read
-    void Show();               // what the edit's lists hold, nothing selected
+    void Empty();  // before a log is read
+    void Show();   // what the edit's lists hold, nothing selected
     void UpdateListCounts();
 
     void KeyPress(char character);  // in a list it leads to the next name that begins with it
     void SelectAll();               // in the list of the menu
     void InvertSelection();
-    std::string SelectedText();     // of the list that has the keyboard, CR LF between names; else empty
+    std::string SelectedText();  // of the list that has the keyboard, CR LF between names; else empty
 
 private:
     void cmdIn_Click();

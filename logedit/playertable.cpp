@@ -13,9 +13,9 @@ namespace quirn {
 namespace {
 
 constexpr size_t kFirstBuckets = 256;
-constexpr size_t kAtOnce = 256;   // speakers, whose keys stay in the cache
+constexpr size_t kAtOnce = 256;    // speakers, whose keys stay in the cache
 constexpr size_t kFetchAhead = 8;  // names
-constexpr char kFiller = 'a';  // in no upper-case text, so keys of different lengths differ
+constexpr char kFiller = 'a';      // in no upper-case text, so keys of different lengths differ
 
 // Read from the right place, a mask of the first n bytes, and the filler for all others.
 struct alignas(16) MaskSource {

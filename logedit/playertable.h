@@ -43,7 +43,6 @@ private:
         __m128i low, high;
     };
 
-
     // A name as it is looked up: its first bytes in upper case, filled up with a byte that no upper-case text holds,
     // and a hash of all of them.
     struct LookUp {

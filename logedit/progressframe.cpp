@@ -10,9 +10,7 @@ constexpr Bounds kBar{150, 450, 4500, 270};
 }  // namespace
 
 ProgressFrame::ProgressFrame(Form& form, const VirtualList& over)
-    : over_(over),
-      famProgFrame(form, kFrame, "Reading log file...", FrameStyle::Panel),
-      ProgBar(famProgFrame, kBar) {
+    : over_(over), famProgFrame(form, kFrame, "Reading log file...", FrameStyle::Panel), ProgBar(famProgFrame, kBar) {
     Hide();
 }
 

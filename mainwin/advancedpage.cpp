@@ -41,11 +41,10 @@ AdvancedPage::AdvancedPage(TabStrip& strip, Program& program, Edited edited)
       Frame2(*this, kFrame, "Force Into System Memory") {
     for (size_t i = 0; i < kAdvancedSwitches.size(); ++i) {
         const int position = static_cast<int>(i);
-        CheckBox& box = chkAdvanced.emplace_back(
-            Frame2,
-            Bounds{kBox.left + position / kRows * kStepX, kBox.top + position % kRows * kStepY, kBox.width,
-                   kBox.height},
-            kAdvancedSwitches[i].caption);
+        CheckBox& box = chkAdvanced.emplace_back(Frame2,
+                                                 Bounds{kBox.left + position / kRows * kStepX,
+                                                        kBox.top + position % kRows * kStepY, kBox.width, kBox.height},
+                                                 kAdvancedSwitches[i].caption);
         box.Tag = kAdvancedSwitches[i].Tag();
         box.onClick = edited_;
         box.onMouseUp = [this] { chkAdvanced_MouseUp(); };
@@ -78,7 +77,9 @@ AdvancedStates AdvancedPage::States() const {
     return states;
 }
 
-void AdvancedPage::chkAdvanced_MouseUp() { cmdConfigCode.SetText(EncodeConfigCode(States())); }
+void AdvancedPage::chkAdvanced_MouseUp() {
+    cmdConfigCode.SetText(EncodeConfigCode(States()));
+}
 
 void AdvancedPage::cmdConfigCode_Click() {
     const std::optional<std::string> text = AskConfigCode(Owner());

@@ -10,8 +10,12 @@ namespace {
 constexpr char kFileLocations[] = "File Locations";
 constexpr char kFavourites[] = "Favourites";
 
-std::string RecentKey(size_t i) { return "MRU" + std::to_string(i); }
-std::string FavouriteKey(size_t i, const char* part) { return "Fav" + std::to_string(i + 1) + part; }
+std::string RecentKey(size_t i) {
+    return "MRU" + std::to_string(i);
+}
+std::string FavouriteKey(size_t i, const char* part) {
+    return "Fav" + std::to_string(i + 1) + part;
+}
 
 }  // namespace
 

@@ -211,9 +211,13 @@ void frmMain::MenuCommand(int command) {
 }
 
 // Printing is not offered, on purpose.
-void frmMain::mnuFile_Print_Click() { ShowMessage("Function unavailable in this version.", kInformation); }
+void frmMain::mnuFile_Print_Click() {
+    ShowMessage("Function unavailable in this version.", kInformation);
+}
 
-void frmMain::mnuOptions_Set_Click() { ShowOptions(false); }
+void frmMain::mnuOptions_Set_Click() {
+    ShowOptions(false);
+}
 
 // Also while the window is open: its lists then show what a filter would no longer find. Kept on purpose.
 void frmMain::mnuLog_Click() {

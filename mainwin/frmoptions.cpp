@@ -146,8 +146,7 @@ void frmOptions::ClearRow(int row) {
 void frmOptions::Commit() {
     if (subLocChanged_) program_.gameFolder = txtSubLoc.Text();
     if (qrnLocChanged_) program_.qrnFolder = txtQRNLoc.Text();
-    for (size_t i = 0; i < paths_.size(); ++i)
-        program_.favourites[i] = {lstFavourites.Items()[i], paths_[i]};
+    for (size_t i = 0; i < paths_.size(); ++i) program_.favourites[i] = {lstFavourites.Items()[i], paths_[i]};
     applied_();
 }
 

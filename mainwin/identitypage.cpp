@@ -220,7 +220,9 @@ void IdentityPage::txtChatName_LostFocus() {
     edited_();
 }
 
-void IdentityPage::Check1_Click() { txtPassword.SetMasked(Check1.Value() == 0); }
+void IdentityPage::Check1_Click() {
+    txtPassword.SetMasked(Check1.Value() == 0);
+}
 
 void IdentityPage::cmdWaveBrowse_Click(size_t index) {
     FileDialog dialog;
@@ -236,6 +238,8 @@ void IdentityPage::cmdWaveBrowse_Click(size_t index) {
     edited_();
 }
 
-void IdentityPage::cmdWavePlay_Click(size_t index) { PlaySoundFile(lblWaveFileName[index].Text()); }
+void IdentityPage::cmdWavePlay_Click(size_t index) {
+    PlaySoundFile(lblWaveFileName[index].Text());
+}
 
 }  // namespace quirn

@@ -37,9 +37,13 @@ IgnorePage::IgnorePage(TabStrip& strip, Program& program, Edited edited)
     };
 }
 
-void IgnorePage::Show() { lstIgnoreList.SetItems(program_.profile.IgnoreList); }
+void IgnorePage::Show() {
+    lstIgnoreList.SetItems(program_.profile.IgnoreList);
+}
 
-void IgnorePage::Collect() { program_.profile.IgnoreList = lstIgnoreList.Items(); }
+void IgnorePage::Collect() {
+    program_.profile.IgnoreList = lstIgnoreList.Items();
+}
 
 bool IgnorePage::txtIgnoreAdd_KeyPress(char key) {
     if (key != kKeyEnter) return false;

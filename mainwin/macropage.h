@@ -11,7 +11,8 @@ namespace quirn {
 
 inline constexpr int kMacrosPerSet = 8;
 
-// One of the two pages with eight chat macros each. txtShift(0..7) on "Macros Shift", txtRShift(0..7) on "Macros R-Shift".
+// One of the two pages with eight chat macros each. txtShift(0..7) on "Macros Shift", txtRShift(0..7) on "Macros
+// R-Shift".
 class MacroPage : public TabPage {
 public:
     // firstMacro: the index in Messages of the page's first macro, 1 or 9. keyName stands before "F1 -" in the labels.

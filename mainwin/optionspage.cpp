@@ -52,10 +52,10 @@ OptionsPage::OptionsPage(TabStrip& strip, Program& program, Edited edited)
     for (size_t i = 0; i < kOptionGroups.size(); ++i) {
         const int column = static_cast<int>(i) % 3;
         const int row = static_cast<int>(i) / 3;
-        Frame& frame = Frame1.emplace_back(*this,
-                                           Bounds{kGroup.left + column * kGroupStepX, kGroup.top + row * kGroupStepY,
-                                                  kGroup.width, kGroup.height},
-                                           kOptionGroups[i].caption);
+        Frame& frame = Frame1.emplace_back(
+            *this,
+            Bounds{kGroup.left + column * kGroupStepX, kGroup.top + row * kGroupStepY, kGroup.width, kGroup.height},
+            kOptionGroups[i].caption);
         Bounds place = kGroupButton;
         for (const char* caption : kOptionGroups[i].buttons) {
             buttons_.emplace_back(frame, *groups_[i], place, caption);

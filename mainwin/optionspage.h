@@ -17,7 +17,6 @@ public:
     ControlArray<CheckBox>& Boxes() { return chkSettings; }
 
 private:
-
     Program& program_;
     ControlArray<Frame> Frame1;  // (0..5) the option groups, (6) Miscellaneous
     OptionGroup optWeapon, optStatus, optEnergy, optRadar, optFont, optSound;

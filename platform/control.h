@@ -30,7 +30,9 @@ struct Bounds {
 // 0xBBGGRR, as the system's COLORREF.
 using Color = uint32_t;
 
-constexpr Color Rgb(unsigned red, unsigned green, unsigned blue) { return red | green << 8 | blue << 16; }
+constexpr Color Rgb(unsigned red, unsigned green, unsigned blue) {
+    return red | green << 8 | blue << 16;
+}
 
 // A font by face and size; an empty face is the system's message font, 0 points its size in this program (8).
 struct Font {
@@ -130,8 +132,8 @@ public:
     void SetBackColor(std::optional<Color> color);
     void SetToolTip(const std::string& text);
     void Repaint();  // paints it now, without waiting for events
-    // Does nothing while it cannot have the focus. Calls onLostFocus of the old one, then onGotFocus. Before its form is
-    // shown it says where the focus will be, and calls nobody.
+    // Does nothing while it cannot have the focus. Calls onLostFocus of the old one, then onGotFocus. Before its form
+    // is shown it says where the focus will be, and calls nobody.
     void SetFocus();
 
     std::string Tag;  // free for the form's use

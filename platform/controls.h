@@ -129,8 +129,8 @@ public:
     // The caret's distance from the left edge of the box, in twips; 0 without a window.
     int CaretLeft() const;
 
-    std::function<void()> onChange;          // the text has been edited
-    std::function<bool(char)> onKeyPress;    // a character typed; true swallows it
+    std::function<void()> onChange;        // the text has been edited
+    std::function<bool(char)> onKeyPress;  // a character typed; true swallows it
 
     void UserEdits(const std::string& text);
     bool UserTypes(char character);  // false: the window's own handling goes on
@@ -183,8 +183,8 @@ public:
     void SetListIndex(int index);  // an index outside the list selects nothing
     std::string SelectedText() const;
 
-    std::function<void()> onClick;             // the player has selected another item
-    std::function<void(int)> onHighlight;      // the player moves through the open list, over this item
+    std::function<void()> onClick;         // the player has selected another item
+    std::function<void(int)> onHighlight;  // the player moves through the open list, over this item
 
     void UserSelects(int index);
     void UserHighlights(int index);
@@ -213,10 +213,10 @@ public:
     int ListIndex() const;         // style Single: the selected item
     void SetListIndex(int index);  // style Single: selects it and scrolls to it
 
-    std::function<void()> onClick;          // the selection has changed
+    std::function<void()> onClick;  // the selection has changed
     std::function<void()> onMouseUp;
-    std::function<bool(int)> onKeyDown;     // a key by its virtual code; true swallows it
-    std::function<bool(char)> onKeyPress;   // a character, Enter, Escape, Backspace and blank included
+    std::function<bool(int)> onKeyDown;    // a key by its virtual code; true swallows it
+    std::function<bool(char)> onKeyPress;  // a character, Enter, Escape, Backspace and blank included
 
     void UserSelects(const std::vector<int>& indexes);
     void UserReleasesMouse();
@@ -256,7 +256,7 @@ public:
 
     uint64_t Maximum() const { return maximum_; }
     uint64_t Value() const { return value_; }
-    int Step() const;  // of kSteps: what the picture shows
+    int Step() const;                 // of kSteps: what the picture shows
     void SetRange(uint64_t maximum);  // from 0; 0 counts as 1. The value is 0 then
     void SetValue(uint64_t value);
 

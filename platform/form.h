@@ -61,7 +61,7 @@ public:
     void SetMinimumSize(int width, int height);  // twips, frame included; before Load
     int MinimumWidth() const { return minimumWidth_; }
     int MinimumHeight() const { return minimumHeight_; }
-    void SetBackColor(Color color) { backColor_ = color; }  // before Load
+    void SetBackColor(Color color) { backColor_ = color; }      // before Load
     void SetMenu(Menu& menu, std::vector<Shortcut> shortcuts);  // before Load; the menu must live as long as the form
     Menu* MenuBar() const { return menu_; }
     void SetButtons(Button* defaultButton, Button* cancelButton);
@@ -70,7 +70,7 @@ public:
     // Makes the window, hidden, and calls onLoad. Does nothing when it is loaded. Until onLoad has returned, which may
     // take long when it asks the player something, the window can be neither seen nor used: nothing in it is right yet.
     void Load();
-    void Show();               // loads it first when need be; does not wait
+    void Show();                  // loads it first when need be; does not wait
     void ShowModal(Form& owner);  // waits until it is unloaded or hidden; the owner is disabled meanwhile
     void ShowOwned(Form& owner);  // in front of the owner, which stays usable; must be unloaded before the owner
     void Hide();
@@ -79,9 +79,9 @@ public:
     // A modal form, a message box or a file dialog of this program waits for its answer before the form, or the form is
     // still being loaded.
     bool IsBlocked() const;
-    void BringToFront();  // restores it when it is minimised
+    void BringToFront();    // restores it when it is minimised
     void SetAlwaysOnTop();  // above the windows of other programs too; once it is loaded
-    void Repaint();       // paints the window now, without waiting for events
+    void Repaint();         // paints the window now, without waiting for events
 
     // Asks onQueryUnload and onUnload, and destroys the window unless one of them says no. True when it is gone
     // (or was not there).
@@ -95,11 +95,11 @@ public:
 
     std::function<void()> onLoad;
     std::function<void()> onResize;
-    std::function<bool(UnloadMode)> onQueryUnload;  // false: the form stays
-    std::function<bool()> onUnload;                 // false: the form stays
+    std::function<bool(UnloadMode)> onQueryUnload;         // false: the form stays
+    std::function<bool()> onUnload;                        // false: the form stays
     std::function<bool(int key, bool control)> onKeyDown;  // by its virtual code, before shortcuts; true swallows it
-    std::function<void(char)> onKeyPress;           // a character typed, before the control that has the focus gets it
-    std::function<void(int)> onSystemMenuHighlight; // the player moves over a command of the system menu (0xF000 ...)
+    std::function<void(char)> onKeyPress;            // a character typed, before the control that has the focus gets it
+    std::function<void(int)> onSystemMenuHighlight;  // the player moves over a command of the system menu (0xF000 ...)
     std::function<void(const std::string&)> onDropFile;  // a file dropped on the window; set before Load
 
     // For the back end: what happened to the window.

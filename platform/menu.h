@@ -9,9 +9,9 @@
 namespace quirn {
 
 struct MenuRow {
-    int command;          // unique in its menu bar; headings and separators have one too
-    int level;            // 0 heading in the bar, 1 item, 2 item of a submenu
-    const char* caption;  // with "&"; "-" is a separator
+    int command;                // unique in its menu bar; headings and separators have one too
+    int level;                  // 0 heading in the bar, 1 item, 2 item of a submenu
+    const char* caption;        // with "&"; "-" is a separator
     const char* shortcut = "";  // what is shown right of the caption, as "Ctrl+N"; "" none
 };
 

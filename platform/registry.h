@@ -9,7 +9,7 @@ namespace quirn {
 enum class RegistryType : uint32_t { None = 0, Text = 1, Number = 4 };  // REG_SZ and REG_DWORD; others pass through
 
 inline constexpr long kRegistrySuccess = 0;
-inline constexpr long kRegistryNotFound = 2;   // ERROR_FILE_NOT_FOUND
+inline constexpr long kRegistryNotFound = 2;    // ERROR_FILE_NOT_FOUND
 inline constexpr long kRegistryMoreData = 234;  // ERROR_MORE_DATA: the buffer was too small, nothing was copied
 
 // An open key; closed at the end of its life. Statuses are the registry functions' own, 0 for success.

@@ -24,11 +24,15 @@ constexpr std::array<char, 256> MakeFoldTable() {
 
 constexpr std::array<char, 256> kFold = MakeFoldTable();
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 }  // namespace
 
-char FoldCase(char c) { return kFold[static_cast<unsigned char>(c)]; }
+char FoldCase(char c) {
+    return kFold[static_cast<unsigned char>(c)];
+}
 
 std::string FoldCase(std::string_view text) {
     std::string folded(text);

@@ -14,7 +14,7 @@ public:
     TrayIcon(const TrayIcon&) = delete;
     TrayIcon& operator=(const TrayIcon&) = delete;
 
-    void Add();     // the form must be loaded; the icon comes back by itself when the shell restarts
+    void Add();  // the form must be loaded; the icon comes back by itself when the shell restarts
     void Remove();
     Form& Owner() const { return *form_; }
 

@@ -26,7 +26,9 @@ inline std::string VersionText() {
 }
 
 // "QUIRN v1.61": the start of the main window's caption, by which a second copy finds the first.
-inline std::string VersionTitle() { return std::string(kTitle) + " v" + VersionText(); }
+inline std::string VersionTitle() {
+    return std::string(kTitle) + " v" + VersionText();
+}
 
 }  // namespace quirn
 

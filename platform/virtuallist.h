@@ -32,8 +32,8 @@ public:
     void SetSelection(const ListSelection& selection);  // of Count() items
     void Select(size_t item);                           // beside what is selected
     void SelectAll();
-    void SetCurrent(std::optional<size_t> item);        // scrolls nothing
-    void SetTopIndex(size_t item);                      // or as near to the top as the list's end lets it come
+    void SetCurrent(std::optional<size_t> item);  // scrolls nothing
+    void SetTopIndex(size_t item);                // or as near to the top as the list's end lets it come
 
     // The selected items have gone, and the items behind them have moved up. The place of the list stays.
     void SelectionRemoved(size_t longestText);

@@ -21,6 +21,7 @@ Section MakeSection(const char* name, const char* type, std::initializer_list<co
 
 }  // namespace
 
+// clang-format off
 void InitCatalogue(Profile& profile) {
     profile.Dialog = MakeSection("Dialog", kText,
                                  {"PlayerName", "PlayerPassword", "ServerName", "ServerPort", "ServerArena", "ProxyIP",
@@ -62,6 +63,7 @@ void InitCatalogue(Profile& profile) {
 
     profile.HiddenOptions = MakeSection("HiddenOptions", kNumber, {"Force60", "ShowFrameRate", "FlickSystemMemory"});
 }
+// clang-format on
 
 void ResetProfile(Profile& profile) {
     for (std::string& text : profile.Messages.values) text.clear();

@@ -46,9 +46,7 @@ struct Profile {
 
     // All five in catalogue order.
     std::array<Section*, 5> Sections() { return {&Dialog, &Messages, &Options, &Advanced, &HiddenOptions}; }
-    std::array<const Section*, 5> Sections() const {
-        return {&Dialog, &Messages, &Options, &Advanced, &HiddenOptions};
-    }
+    std::array<const Section*, 5> Sections() const { return {&Dialog, &Messages, &Options, &Advanced, &HiddenOptions}; }
 };
 
 // Fills the names and types of all five sections and leaves the values empty.

@@ -17,7 +17,9 @@ namespace {
 
 constexpr const char* kWaveKeys[] = {"WaveFileF11", "WaveFileF12"};
 
-std::string IgnoreKey(size_t number) { return "Ignore" + std::to_string(number); }
+std::string IgnoreKey(size_t number) {
+    return "Ignore" + std::to_string(number);
+}
 
 void ReadSection(clsIniTFiles& file, Section& section, const char* defaultValue) {
     file.SectionName = section.name;
@@ -56,8 +58,8 @@ public:
     // Checks what has been written since the last check.
     Failure Check() {
         for (const Entry& entry : written_) {
-            const std::string found = ReadIniValue(file_.InitFileName, entry.section, entry.key, "",
-                                                   entry.value.size() + kRoomForQuotes);
+            const std::string found =
+                ReadIniValue(file_.InitFileName, entry.section, entry.key, "", entry.value.size() + kRoomForQuotes);
             if (WithoutBlanks(found) != AsRead(entry.value))
                 return MakeError(DiskIsFull(file_.InitFileName, size_) ? ErrorNumber::DiskFull
                                                                        : ErrorNumber::PathFileAccess);

@@ -35,7 +35,7 @@ size_t TakeMissingFileDialogs();
 void ExpectFont(std::optional<Font> answer);
 void ExpectColor(std::optional<Color> answer);
 size_t TakeMissingChoosers();
-const Font& LastFontAsked();    // what they were preset with
+const Font& LastFontAsked();  // what they were preset with
 Color LastColorAsked();
 
 // What the last file dialog was asked for.

@@ -68,8 +68,8 @@ struct World {
     std::vector<std::string> playedSounds;
     std::string clipboard;
 
-    std::vector<std::string> openedTargets;  // by their registered programs
-    std::vector<std::string> shownHelp;      // help files
+    std::vector<std::string> openedTargets;   // by their registered programs
+    std::vector<std::string> shownHelp;       // help files
     std::optional<ErrorNumber> shellFailure;  // of both
     std::vector<TrayIcon*> trayIcons;
     std::vector<PoppedUpMenu> poppedUpMenus;  // a test chooses with UserChooses afterwards

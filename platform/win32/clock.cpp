@@ -16,8 +16,7 @@ std::string ShortDateAndTime() {
     std::array<char, 128> format{};
     if (GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SSHORTTIME, format.data(), static_cast<int>(format.size())) > 0)
         GetTimeFormatA(LOCALE_USER_DEFAULT, 0, &now, format.data(), time.data(), static_cast<int>(time.size()));
-    else
-        GetTimeFormatA(LOCALE_USER_DEFAULT, TIME_NOSECONDS, &now, nullptr, time.data(), static_cast<int>(time.size()));
+    else GetTimeFormatA(LOCALE_USER_DEFAULT, TIME_NOSECONDS, &now, nullptr, time.data(), static_cast<int>(time.size()));
     return std::string(date.data()) + " " + time.data();
 }
 

@@ -92,8 +92,8 @@ std::optional<LRESULT> TextBoxMessage(TextBox& box, UINT message, WPARAM wParam)
             break;
         // Windows refuses all of these for hidden text itself; Wine does not, and by these keys without a message.
         case WM_KEYDOWN:
-            if (box.IsMasked() && ((wParam == VK_DELETE && Pressed(VK_SHIFT)) ||
-                                   (wParam == VK_INSERT && Pressed(VK_CONTROL))))
+            if (box.IsMasked() &&
+                ((wParam == VK_DELETE && Pressed(VK_SHIFT)) || (wParam == VK_INSERT && Pressed(VK_CONTROL))))
                 return 0;
             break;
         case WM_COPY:

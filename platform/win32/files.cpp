@@ -173,7 +173,8 @@ Failure FinishReplacement(const std::string& path) {
         if (i > 0) Sleep(kPause);
         failure = Flush(unfinished);
         if (failure) continue;
-        if (MoveFileExA(unfinished.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return {};
+        if (MoveFileExA(unfinished.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            return {};
         failure = LastError();
     }
     DeleteUnfinished(path);

@@ -214,8 +214,8 @@ namespace {
 
 Bounds InTwips(const RECT& area) {
     const int dpi = win32::DpiOf(nullptr);
-    return {win32::ToTwips(area.left, dpi), win32::ToTwips(area.top, dpi),
-            win32::ToTwips(area.right - area.left, dpi), win32::ToTwips(area.bottom - area.top, dpi)};
+    return {win32::ToTwips(area.left, dpi), win32::ToTwips(area.top, dpi), win32::ToTwips(area.right - area.left, dpi),
+            win32::ToTwips(area.bottom - area.top, dpi)};
 }
 
 }  // namespace

@@ -91,9 +91,7 @@ void ApplyValue(Control& control) {
             break;
         case ControlKind::OptionButton: ApplyOption(static_cast<OptionButton&>(control)); break;
         case ControlKind::VirtualList: ApplyVirtualCurrent(static_cast<VirtualList&>(control)); break;
-        case ControlKind::ProgressBar:
-            ApplyProgress(static_cast<ProgressBar&>(control));
-            break;
+        case ControlKind::ProgressBar: ApplyProgress(static_cast<ProgressBar&>(control)); break;
         case ControlKind::TextBox: {
             const WPARAM shown = static_cast<TextBox&>(control).IsMasked() ? static_cast<unsigned char>(kBullet) : 0;
             if (static_cast<WPARAM>(SendMessageA(window, EM_GETPASSWORDCHAR, 0, 0)) == shown) break;
@@ -157,9 +155,9 @@ void ApplyVisible(Control& control) {
     ShowWindow(WindowOf(control), control.Visible() ? SW_SHOWNA : SW_HIDE);
     if (control.Kind() == ControlKind::TabStrip) ShowFrontPage(static_cast<TabStrip&>(control));
     // Lists and panels that appear and go lie over whatever is there, and so does what shows progress on them.
-    const bool liesOver = control.Kind() == ControlKind::ListBox || control.Kind() == ControlKind::ProgressBar ||
-                          (control.Kind() == ControlKind::Frame &&
-                           static_cast<const Frame&>(control).Style() == FrameStyle::Panel);
+    const bool liesOver =
+        control.Kind() == ControlKind::ListBox || control.Kind() == ControlKind::ProgressBar ||
+        (control.Kind() == ControlKind::Frame && static_cast<const Frame&>(control).Style() == FrameStyle::Panel);
     if (liesOver && control.Visible())
         SetWindowPos(WindowOf(control), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }

@@ -93,8 +93,7 @@ void ScrollToThumb(const VirtualList& list) {
     SCROLLINFO info{};
     info.cbSize = sizeof(info);
     info.fMask = SIF_TRACKPOS;
-    if (GetScrollInfo(WindowOf(list), SB_VERT, &info))
-        Send(list, LB_SETTOPINDEX, static_cast<WPARAM>(info.nTrackPos));
+    if (GetScrollInfo(WindowOf(list), SB_VERT, &info)) Send(list, LB_SETTOPINDEX, static_cast<WPARAM>(info.nTrackPos));
 }
 
 // Piece by piece, since no drawing function takes a line of any length; only pieces in sight are drawn. Returns where

@@ -164,8 +164,9 @@ TEST_F(LogEditTest, SavesWhatIsShownAndOpensItAgain) {
     EXPECT_EQ(headless::LastFileDialog().flags, 6u);
     EXPECT_EQ(headless::LastFileDialog().fileName, "save.log");
     EXPECT_EQ(ShownText(Status()), "File has been saved");
-    EXPECT_EQ(FileBytes(saved),
-              "[~ Filtered by QUIRN v1.61 ~]\r\n{1}   Bo> one\r\n{2} P Cy> two\r\n{4}   Welcome\r\n{6}   Cy> four BO\r\n");
+    EXPECT_EQ(
+        FileBytes(saved),
+        "[~ Filtered by QUIRN v1.61 ~]\r\n{1}   Bo> one\r\n{2} P Cy> two\r\n{4}   Welcome\r\n{6}   Cy> four BO\r\n");
     EXPECT_EQ(form_->MenuBar()->At(mnuFileMRU).caption, "&1 " + saved);
     EXPECT_EQ(form_->MenuBar()->At(mnuFileMRU + 1).caption, "&2 " + path_);
     Choose(*form_, mnuOptions_LineNums);
@@ -312,8 +313,8 @@ TEST_F(LogEditTest, TheFindDialogSearchesWithEnterAndStaysOnScreen) {
         form_->Move({left, 0, 10950, 8100});
         find.Open(*form_);
         const int right = WorkArea(*form_).Right();
-        EXPECT_EQ(find.Place().left, left == 0 && 10950 + find.Place().width <= right ? 10950
-                                                                                     : right - find.Place().width);
+        EXPECT_EQ(find.Place().left,
+                  left == 0 && 10950 + find.Place().width <= right ? 10950 : right - find.Place().width);
         TextBox& text = Find<TextBox>(find, ControlKind::TextBox, "old");
         Button& next = Find<Button>(find, ControlKind::Button, "&Find Next");
         EXPECT_TRUE(text.HasFocus() && next.Enabled());
