@@ -143,7 +143,7 @@ void frmLogEdit::Form_Resize() {
 }
 
 bool frmLogEdit::Form_Unload() {
-    WriteLogLook({Place(), lstLog.FontUsed(), lstLog.ForeColor(), lstLog.BackColor()});
+    WriteLogLook({NormalPlace(), lstLog.FontUsed(), lstLog.ForeColor(), lstLog.BackColor()});
     WriteLogMRU(edit_.LogMRU);
     find_.Unload();
     return true;

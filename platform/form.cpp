@@ -26,7 +26,8 @@ bool HasAccessKey(const Control& control, char key) {
 
 }  // namespace
 
-Form::Form(FormBorder border, int width, int height) : Container(*this), border_(border), place_{0, 0, width, height} {}
+Form::Form(FormBorder border, int width, int height)
+    : Container(*this), border_(border), place_{0, 0, width, height}, normalPlace_(place_) {}
 
 Form::~Form() {
     if (loaded_) native::DestroyForm(*this);
@@ -38,9 +39,14 @@ void Form::SetCaption(const std::string& caption) {
 }
 
 void Form::Move(const Bounds& place) {
-    place_ = place;
+    place_ = normalPlace_ = place;
     placeIsSet_ = true;
     if (loaded_) native::FormChanged(*this, Aspect::Place);
+}
+
+void Form::WindowMoved(const Bounds& place, bool maximized) {
+    place_ = place;
+    if (!maximized) normalPlace_ = place;
 }
 
 int Form::InnerWidth() const {

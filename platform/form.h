@@ -48,6 +48,8 @@ public:
     FormBorder Border() const { return border_; }
     const std::string& Caption() const { return caption_; }
     const Bounds& Place() const { return place_; }
+    // Where it is, or was before it was maximised.
+    const Bounds& NormalPlace() const { return normalPlace_; }
     bool PlaceIsSet() const { return placeIsSet_; }
     std::optional<Color> BackColor() const { return backColor_; }
     bool IsMinimized() const { return minimized_; }
@@ -111,7 +113,7 @@ public:
     bool UserPressesAccessKey(char key);              // Alt and a letter; false: no control has it
     bool UserTurnsPage(int steps);                    // of the first tab strip; false: there is none
     void FocusNext(const Control* after);             // the first that can have it, in tab order and round the end
-    void WindowMoved(const Bounds& place) { place_ = place; }
+    void WindowMoved(const Bounds& place, bool maximized);
     void WindowResized();
     void WindowShown(bool visible) { visible_ = visible; }
     void WindowMinimized(bool minimized) { minimized_ = minimized; }
@@ -122,7 +124,7 @@ private:
     void Discard();  // unloads it without asking, and the modal form before it too
 
     FormBorder border_;
-    Bounds place_;
+    Bounds place_, normalPlace_;
     bool placeIsSet_ = false;
     int minimumWidth_ = 0;
     int minimumHeight_ = 0;

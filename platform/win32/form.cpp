@@ -65,7 +65,8 @@ void TellPlace(Form& form) {
     if (IsIconic(WindowOf(form)) || !GetWindowRect(WindowOf(form), &rect)) return;
     const int dpi = DpiOf(WindowOf(form));
     form.WindowMoved({ToTwips(rect.left, DpiOf(nullptr)), ToTwips(rect.top, DpiOf(nullptr)),
-                      ToTwips(rect.right - rect.left, dpi), ToTwips(rect.bottom - rect.top, dpi)});
+                      ToTwips(rect.right - rect.left, dpi), ToTwips(rect.bottom - rect.top, dpi)},
+                     IsZoomed(WindowOf(form)) != FALSE);
 }
 
 void LimitSize(const Form& form, MINMAXINFO& limits) {

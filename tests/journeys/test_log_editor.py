@@ -9,6 +9,7 @@ from player import Player, start
 LOG_UTILITY, EXIT = 21, 18
 WM_COMMAND, WM_PAINT, LB_GETCOUNT, LB_GETITEMDATA, LB_SETTOPINDEX, LB_GETTOPINDEX = 273, 15, 395, 409, 407, 398
 WM_MENUSELECT, MF_HILITE = 287, 0x80
+WM_SYSCOMMAND, SC_MAXIMIZE = 274, 0xF030
 FULL_TITLE = "The Vellick Subspace Manager"
 HEADER = b"[~ Filtered by QUIRN v1.61 ~]"
 
@@ -224,6 +225,10 @@ def test_the_window_has_a_smallest_size_help_and_an_end_with_the_program(desk):
     editor.quirn.expect(r"ERROR - Could not find log file named 'C:\SubSpace\nobody.log'", "critical")
     editor.expect_status("ERROR loading log file")
 
+    # What is kept is the size to which a maximised window would come back.
+    editor.user.ask("post", editor.handle, WM_SYSCOMMAND, SC_MAXIMIZE, 0)
+    wait_for(lambda: editor.window()["rect"][2] - editor.window()["rect"][0] > 1000, what="the whole screen")
+    desk.screenshot("whole screen")
     editor.main.quirn.choose(EXIT)
     assert editor.quirn.ended() == 0
     settings = desk.own_settings()
