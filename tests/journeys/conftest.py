@@ -200,16 +200,18 @@ class Profile:
 
 
 @pytest.fixture(scope="session")
-def whole_desk():
+def whole_desk(request):
     build = EXE.parent
     assert EXE.exists(), f"{EXE} has not been built"
     bits = 32 if is_32_bit(EXE) else 64
-    prefix = ROOT / f"build/wine/journeys{bits}"
+    # Sessions side by side (pytest -n) have a prefix and a display each.
+    worker = getattr(request.config, "workerinput", {}).get("workerid", "")
+    prefix = ROOT / f"build/wine/journeys{bits}{worker}"
     prefix.parent.mkdir(parents=True, exist_ok=True)
     # Two sessions in one prefix would end each other's programs.
     with contextlib.ExitStack() as stack, open(f"{prefix}.lock", "w") as lock:
         fcntl.flock(lock, fcntl.LOCK_EX)
-        screen = Screen(ROOT / f"build/journeys/icewm{bits}")
+        screen = Screen(ROOT / f"build/journeys/icewm{bits}{worker}")
         stack.callback(screen.stop)
         machine = Machine(screen, bits, prefix)
         stack.callback(machine.stop)
