@@ -85,8 +85,13 @@ class Window:
             self.send(self.list, message, keys, 2 << 16 | 5)
 
     def delete(self):
-        self.click_at(0)
-        self.click_at(DELETED - 1, MK_SHIFT)
+        def selected():
+            # The pointer itself, should it move while a click is acted, leads the selection elsewhere.
+            self.click_at(0)
+            self.click_at(DELETED - 1, MK_SHIFT)
+            return self.send(self.list, LB_GETSELCOUNT) == DELETED
+
+        conftest.wait_for(selected, what="the selection")
         before = self.count()
         took = self.timed(lambda: self.user.ask("post", self.list, WM_KEYDOWN, VK_DELETE, 0),
                           lambda: self.count() != before)
