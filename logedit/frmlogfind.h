@@ -10,7 +10,8 @@ namespace quirn {
 // Asks for a text to find in the log, again and again until it is closed. Stays above other windows.
 class frmLogFind : public Form {
 public:
-    // find: searches for a text. lastSearch: the text that the dialog begins with.
+    // find: searches for a text. lastSearch: the text that the dialog begins with;
+    // outlives it.
     frmLogFind(std::function<void(const std::string&)> find, const std::string& lastSearch);
 
     // Beside the owner's right edge; brings it to the front when it is open.

@@ -32,7 +32,7 @@ inline constexpr FilterBox kFilterBoxes[kFilterBoxCount] = {
     {"System messages", kSystem},
 };
 
-// LogFilterMask from the values of the check boxes: 1 is ticked, 2 (greyed) does not count.
+// LogFilterMask from the values of the check boxes: only 1, ticked, counts.
 using FilterBoxValues = std::array<int, kFilterBoxCount>;
 uint32_t BuildFilterMask(const FilterBoxValues& values);
 

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "logedit/logscan.h"
+#include "logedit/sse2.h"
 #include "platform/files.h"
 #include "platform/text.h"
 
@@ -43,10 +44,10 @@ inline const char* Select(bool first, const char* a, const char* b) {
 
 // Whether kKilledBy stands here. Looks at 16 bytes.
 inline bool IsKill(const char* at) {
-    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-    const __m128i text = _mm_loadu_si128(reinterpret_cast<const __m128i*>(") killed by: \0\0"));
+    static constexpr char kText[17] = ") killed by: ";
+    static_assert(kKilledBy == kText);
     constexpr int kAll = (1 << kKilledBy.size()) - 1;
-    return (_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, text)) & kAll) == kAll;
+    return (_mm_movemask_epi8(_mm_cmpeq_epi8(sse2::Load(at), sse2::Load(kText))) & kAll) == kAll;
 }
 
 // "1", anything else and no digit at all are channel 1.

@@ -1,25 +1,21 @@
 #include "logedit/logscan.h"
 
-#include <algorithm>
 #include <bit>
 #include <type_traits>
 #include <utility>
+
+#include "logedit/sse2.h"
 
 namespace quirn {
 
 namespace {
 
+using sse2::Is;
+using sse2::Load;
+
 // Bit masks as wide as a register.
 using Mask = std::conditional_t<sizeof(void*) == 8, uint64_t, uint32_t>;
 constexpr size_t kMaskBits = sizeof(Mask) * 8;
-
-__m128i Load(const char* bytes) {
-    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes));
-}
-
-__m128i Is(__m128i bytes, char c) {
-    return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(c));
-}
 
 Mask Bits(__m128i matches, size_t shift) {
     return static_cast<Mask>(static_cast<unsigned>(_mm_movemask_epi8(matches))) << shift;

@@ -4,13 +4,15 @@
 #include <array>
 #include <bit>
 
-#include "logedit/foldsse2.h"
 #include "logedit/parsedlog.h"
+#include "logedit/sse2.h"
 #include "platform/text.h"
 
 namespace quirn {
 
 namespace {
+
+using sse2::Load;
 
 constexpr size_t kFirstBuckets = 256;
 constexpr size_t kAtOnce = 256;    // speakers, whose keys stay in the cache
@@ -29,10 +31,6 @@ struct alignas(16) MaskSource {
     }
 };
 constexpr MaskSource kMaskSource;
-
-__m128i Load(const char* bytes) {
-    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes));
-}
 
 // Sums of products of neighbouring 32-bit words, each with a constant added: few instructions and no weak bits.
 __m128i Products(__m128i words, __m128i constants) {

@@ -3,11 +3,14 @@
 #include <algorithm>
 #include <bit>
 
+#include "logedit/sse2.h"
 #include "platform/text.h"
 
 namespace quirn {
 
 namespace {
+
+using sse2::Load;
 
 // How often a byte stands in a chat log: a place in this list, or rarer than all of them.
 size_t Rarity(char folded) {
@@ -22,10 +25,6 @@ char CaseBits(char folded) {
         if (other != folded && FoldCase(other) == folded) return static_cast<char>(other ^ folded);
     }
     return 0;
-}
-
-__m128i Load(const char* bytes) {
-    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes));
 }
 
 }  // namespace

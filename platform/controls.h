@@ -254,7 +254,6 @@ public:
 
     ProgressBar(Parent parent, const Bounds& place);
 
-    uint64_t Maximum() const { return maximum_; }
     uint64_t Value() const { return value_; }
     int Step() const;                 // of kSteps: what the picture shows
     void SetRange(uint64_t maximum);  // from 0; 0 counts as 1. The value is 0 then

@@ -14,7 +14,6 @@ public:
     // Nothing selected, the anchor on the first item.
     void Reset(size_t itemCount);
 
-    size_t ItemCount() const { return itemCount_; }
     size_t SelectedCount() const { return SelectedBefore(itemCount_); }
     size_t SelectedBefore(size_t item) const;
     bool IsSelected(size_t item) const { return (words_[item / 64] >> item % 64 & 1) != 0; }

@@ -79,11 +79,11 @@ void VirtualList::UserClicksItem(size_t item, bool shift, bool control) {
 }
 
 void VirtualList::UserDoubleClicks() {
-    if (onDoubleClick) CallHandler(onDoubleClick);
+    CallHandler(onDoubleClick);
 }
 
 void VirtualList::UserPressesRightButton() {
-    if (onRightMouseDown) CallHandler(onRightMouseDown);
+    CallHandler(onRightMouseDown);
 }
 
 void VirtualList::WindowChangedSelection(std::optional<size_t> current) {

@@ -2,10 +2,15 @@
 
 #include <emmintrin.h>
 
-// Upper case by code page 1252 for 16 bytes at once; the same as FoldCase of platform/text.h.
+// Work on 16 bytes at once. FoldAny and FoldAscii make upper case by code page 1252, as FoldCase of platform/text.h
+// does.
 namespace quirn {
 
 namespace sse2 {
+
+inline __m128i Load(const char* bytes) {
+    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes));
+}
 
 inline __m128i Is(__m128i bytes, int c) {
     return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(static_cast<char>(c)));
