@@ -5,6 +5,7 @@
 #include "logedit/logfind.h"
 #include "logedit/logmenuhelp.h"
 #include "logedit/logmenurows.h"
+#include "logedit/logsave.h"
 #include "logedit/logsettings.h"
 #include "platform/clipboard.h"
 #include "platform/dialogs.h"
@@ -99,7 +100,6 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
 
     onLoad = [this] { Form_Load(); };
     onResize = [this] { Form_Resize(); };
-    onQueryUnload = [this](UnloadMode) { return !edit_.busy; };
     onUnload = [this] { return Form_Unload(); };
     onKeyDown = [this](int key, bool control) { return Form_KeyDown(key, control); };
     onKeyPress = [this](char character) { players_.KeyPress(character); };
@@ -170,7 +170,6 @@ bool frmLogEdit::Form_KeyDown(int key, bool control) {
 }
 
 void frmLogEdit::MenuCommand(int command) {
-    if (edit_.busy) return;
     switch (command) {
         case mnuFile_Open: mnuFile_Open_Click(); break;
         case mnuFile_SaveAs: mnuFile_SaveAs_Click(); break;
@@ -237,7 +236,6 @@ void frmLogEdit::mnuSearch_Find_Click() {
 }
 
 void frmLogEdit::mnuLogEditPopup_Delete_Click() {
-    if (edit_.busy) return;
     edit_.view.Delete(lstLog.Selection());
     lstLog.SelectionRemoved(edit_.view.LongestText());
     StatusBar1.SetSecondText(edit_.view.CountText());
@@ -273,7 +271,6 @@ void frmLogEdit::chkFilters_Click() {
 }
 
 void frmLogEdit::OpenLog(const std::string& path) {
-    if (edit_.busy) return;
     bool begun = false;
     const ParseSteps steps{
         .onReading =
@@ -287,7 +284,7 @@ void frmLogEdit::OpenLog(const std::string& path) {
         .onPlayers =
             [&](size_t highest) {
                 progress_.Show("Populating Player List...", highest);
-                DoEvents();
+                DoPaintEvents();
                 progress_.SetValue(highest);
             },
         .onEnd = [&] { progress_.Hide(); },
@@ -310,7 +307,6 @@ void frmLogEdit::OpenLog(const std::string& path) {
 }
 
 void frmLogEdit::ApplyLogFilter() {
-    if (edit_.busy) return;
     const size_t highest = edit_.LogLines->LineCount() - 1;
     progress_.Show("Applying Filter...", highest);
     const Failure failure = quirn::ApplyLogFilter(edit_);

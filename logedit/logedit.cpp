@@ -1,8 +1,6 @@
 #include "logedit/logedit.h"
 
 #include <algorithm>
-#include <optional>
-#include <utility>
 
 #include "logedit/logparser.h"
 #include "platform/dialogs.h"
@@ -20,22 +18,6 @@ std::string LogNotFoundText(const std::string& path) {
 }
 
 namespace {
-
-// While it lives, the editor is busy.
-class Work {
-public:
-    Work(LogEdit& edit, const std::function<void()>& onEnd) : edit_(edit), onEnd_(onEnd) { edit_.busy = true; }
-    ~Work() {
-        edit_.busy = false;
-        if (onEnd_) onEnd_();
-    }
-    Work(const Work&) = delete;
-    Work& operator=(const Work&) = delete;
-
-private:
-    LogEdit& edit_;
-    const std::function<void()>& onEnd_;
-};
 
 // What a file that could not be read leaves.
 void Clear(LogEdit& edit, const RuntimeError& error) {
@@ -56,7 +38,6 @@ bool ParseLogFile(LogEdit& edit, const std::string& path, const ParseSteps& step
         ShowMessage(LogNotFoundText(path), kCritical);
         return false;
     }
-    std::optional<Work> work(std::in_place, edit, steps.onEnd);
     Result<std::shared_ptr<const ParsedLog>> log = ReadLog(path, steps.onReading, steps.onProgress);
     if (log.Failed()) {
         Clear(edit, log.Error());
@@ -67,7 +48,7 @@ bool ParseLogFile(LogEdit& edit, const std::string& path, const ParseSteps& step
         if (steps.onPlayers) steps.onPlayers(std::max<size_t>(edit.LogLines->Players().size(), 2) - 1);
         edit.include.Fill(edit.LogLines);
     }
-    work.reset();
+    if (steps.onEnd) steps.onEnd();
     if (log.Failed()) ShowError(log.Error());
     return !log.Failed();
 }

@@ -6,10 +6,10 @@
 #include <string>
 
 #include "logedit/logfilter.h"
-#include "logedit/logsave.h"
 #include "logedit/logview.h"
 #include "logedit/parsedlog.h"
 #include "logedit/playerlist.h"
+#include "profile/documentnames.h"
 
 namespace quirn {
 
@@ -22,9 +22,8 @@ struct LogEdit {
     bool lineNumbers = false;      // mnuOptions_LineNums
     PlayerList include, exclude;   // lstInclude, lstExclude
     LogView view;                  // lstLog
-    LogMRUList LogMRU;
+    RecentFiles LogMRU;
     std::string lastSearch;
-    bool busy = false;  // parsing or filtering: what the player does in the meantime is not done
 
     // What the main window's Log menu does before it shows the window: no lines, no search text.
     void Forget();

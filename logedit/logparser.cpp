@@ -79,6 +79,7 @@ LogParser::LogParser(ParsedLog& log, size_t size)
       table_(log.players_),
       window_(std::make_unique_for_overwrite<ScanWindow>()),
       block_(log.blocks_[0].get()) {
+    static_assert(ParsedLog::kMargin >= kScanReadsOn && ParsedLog::kMargin >= kKeyBytes);
     window_->pendingCount = 0;
 }
 
@@ -137,10 +138,8 @@ bool LogParser::ParseWindow(size_t end) {
         size_t lineFeed = places[i + hasMark];
         i += size_t{1} + hasMark;
         bool unusual = false;
-        while (text[lineFeed] != '\n') [[unlikely]] {
-                unusual |= (text[first] == ')') | (text[lineFeed] == ')');
-                lineFeed = places[i++];
-            }
+        for (; text[lineFeed] != '\n'; lineFeed = places[i++])
+            unusual |= (text[first] == ')') | (text[lineFeed] == ')');
 
         const size_t next = lineFeed + 1;
         const bool withReturn = (text[static_cast<ptrdiff_t>(lineFeed) - 1] == '\r') & (lineFeed > begin);

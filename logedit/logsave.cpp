@@ -1,10 +1,8 @@
 #include "logedit/logsave.h"
 
-#include <algorithm>
 #include <memory>
 
 #include "platform/files.h"
-#include "platform/text.h"
 #include "platform/version.h"
 
 namespace quirn {
@@ -88,21 +86,6 @@ Failure SaveFilteredLog(const LogView& view, const std::string& path) {
     output.Flush();
     if (output.Failed()) return output.Failed();
     return file.Finish();
-}
-
-void AddToLogMRU(LogMRUList& list, const std::string& path) {
-    size_t position = list.size() - 1;
-    for (size_t i = 0; i < list.size(); ++i)
-        if (EqualNoCase(list[i], path)) position = i;  // the last one that is equal
-    if (position == 0) return;
-    std::rotate(list.begin(), list.begin() + static_cast<ptrdiff_t>(position),
-                list.begin() + static_cast<ptrdiff_t>(position) + 1);
-    list[0] = path;
-}
-
-std::optional<std::string> LogMRUCaption(const LogMRUList& list, size_t index) {
-    if (Trim(list[index]).empty()) return std::nullopt;
-    return "&" + std::to_string(index + 1) + " " + WithoutAccessKeys(list[index]);
 }
 
 }  // namespace quirn

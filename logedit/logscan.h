@@ -14,6 +14,7 @@
 namespace quirn {
 
 inline constexpr size_t kWindowBytes = 8192;
+inline constexpr size_t kScanReadsOn = 66;
 inline constexpr std::string_view kKilledBy = ") killed by: ";
 
 struct ScanWindow {
@@ -25,7 +26,7 @@ struct ScanWindow {
     Speaker pending[kWindowBytes / 5 + 8];
     size_t pendingCount = 0;
 
-    // Fills the places from size bytes. A few bytes behind them are read too, and must be readable.
+    // Fills the places from size bytes. Up to kScanReadsOn bytes behind them are read too, and must be readable.
     void Scan(const char* text, size_t size);
 };
 

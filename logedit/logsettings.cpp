@@ -1,6 +1,6 @@
 #include "logedit/logsettings.h"
 
-#include <string>
+#include <algorithm>
 
 #include "platform/settings.h"
 #include "platform/text.h"
@@ -69,12 +69,23 @@ void WriteLogLook(const LogLook& look) {
     Write("LogEditBackColor", Number(look.backColor, kSystemBackColor));
 }
 
-void ReadLogMRU(LogMRUList& list) {
+void ReadLogMRU(RecentFiles& list) {
     for (size_t i = 0; i < list.size(); ++i) list[i] = GetSetting(kRecentList, RecentKey(i), "");
 }
 
-void WriteLogMRU(const LogMRUList& list) {
+void WriteLogMRU(const RecentFiles& list) {
     for (size_t i = 0; i < list.size(); ++i) SaveSetting(kRecentList, RecentKey(i), list[i]);
+}
+
+void AddToLogMRU(RecentFiles& list, const std::string& path) {
+    const auto isPath = [&](const std::string& entry) { return EqualNoCase(entry, path); };
+    if (isPath(list[0]) && std::none_of(list.begin() + 1, list.end(), isPath)) return;
+    AddRecentFile(list, path);
+}
+
+std::optional<std::string> LogMRUCaption(const RecentFiles& list, size_t index) {
+    if (Trim(list[index]).empty()) return std::nullopt;
+    return RecentFileCaption(index, WithoutAccessKeys(list[index]));
 }
 
 }  // namespace quirn

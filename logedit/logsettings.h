@@ -1,9 +1,10 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
-#include "logedit/logsave.h"
 #include "platform/control.h"
+#include "profile/documentnames.h"
 
 // What the log editor keeps from one run to the next.
 namespace quirn {
@@ -18,7 +19,14 @@ struct LogLook {
 LogLook ReadLogLook(LogLook look);
 void WriteLogLook(const LogLook& look);
 
-void ReadLogMRU(LogMRUList& list);
-void WriteLogMRU(const LogMRUList& list);
+void ReadLogMRU(RecentFiles& list);
+void WriteLogMRU(const RecentFiles& list);
+
+// Puts a path on top of the logs used last, a blank text being a free slot: as AddRecentFile, but a path that is on top
+// already stays as it is spelled. Both are kept on purpose.
+void AddToLogMRU(RecentFiles& list, const std::string& path);
+
+// "&1 C:\Game\monday.log": the caption of mnuFileMRU(index), 0 to 4; nothing when the item is hidden.
+std::optional<std::string> LogMRUCaption(const RecentFiles& list, size_t index);
 
 }  // namespace quirn

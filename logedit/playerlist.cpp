@@ -23,11 +23,11 @@ constexpr std::array<uint8_t, 256> MakeAlphabet() {
     for (int c = 0; c < 256; ++c) {
         int letter = c;
         if (c >= 'a' && c <= 'z') letter = c - ('a' - 'A');
+        else if (c == 0x9F || c == 0xFF) letter = 'Y';
         else if (c >= 0xC0 && c != 0xF7) letter = static_cast<unsigned char>(kLetters[c % 32]);
         else if (c == 0x8A || c == 0x9A) letter = 'S';
         else if (c == 0x8C || c == 0x9C) letter = 'O';
         else if (c == 0x8E || c == 0x9E) letter = 'Z';
-        else if (c == 0x9F) letter = 'Y';
         int place = 0;
         if (letter >= 'A' && letter <= 'Z') place = kFirstLetter + letter - 'A';
         else if (c >= '0' && c <= '9') place = kDigits + c - '0';

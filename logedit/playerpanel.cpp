@@ -115,7 +115,6 @@ void PlayerPanel::cmdOut_Click() {
 }
 
 void PlayerPanel::MovePlayers(VirtualList& from, VirtualList& to) {
-    if (edit_.busy) return;
     PlayerList& fromPlayers = PlayersOf(from);
     PlayerList& toPlayers = PlayersOf(to);
     fromPlayers.Selection() = from.Selection();

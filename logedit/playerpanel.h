@@ -26,7 +26,6 @@ public:
 
     void Empty();  // before a log is read
     void Show();   // what the edit's lists hold, nothing selected
-    void UpdateListCounts();
 
     void KeyPress(char character);  // in a list it leads to the next name that begins with it
     void SelectAll();               // in the list of the menu
@@ -37,6 +36,7 @@ private:
     void cmdIn_Click();
     void cmdOut_Click();
     void MovePlayers(VirtualList& from, VirtualList& to);
+    void UpdateListCounts();
     PlayerList& PlayersOf(const VirtualList& list);
 
     LogEdit& edit_;

@@ -120,7 +120,7 @@ inline uint32_t PlayerTable::SameTags(const Bucket& bucket, uint32_t hash) {
     return static_cast<uint32_t>(_mm_movemask_epi8(_mm_cmpeq_epi16(tags, tag)));
 }
 
-// Who is probably meant; 0 when nobody is.
+// Who is probably meant: it may be anybody or nobody (0), so IsNamed has the last word.
 inline uint32_t PlayerTable::LikelyNumber(uint32_t hash) const {
     const Bucket& bucket = buckets_[hash & mask_];
     return bucket.numbers[std::countr_zero(SameTags(bucket, hash) | 1u << 14) / 2];

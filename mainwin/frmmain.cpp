@@ -146,7 +146,6 @@ bool frmMain::Form_QueryUnload(UnloadMode mode) {
 }
 
 bool frmMain::Form_Unload() {
-    if (logEdit_.busy) return false;
     const bool goOn =
         (!program_.dirty || document_.AskSaveChanges()) && (!logEditor_ || logEditor_->Unload(UnloadMode::FromCode));
     // A minimised window keeps nothing, on purpose, not even the recent files and favourites.

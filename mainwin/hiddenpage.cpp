@@ -18,8 +18,9 @@ bool IsOn(const std::string& value) {
     return ToInteger(value).value_or(0) != 0;
 }
 
-// A number other than 0 and 1 is shown as checked, also the 2 of a greyed box, and stays that number until the player
-// clicks; a text that is none is 0. One that is too large stays, and is reported when the game's settings are written.
+// A number other than 0 and 1 is shown as checked, also the 2 of a greyed box, and stays that number unless the player
+// leaves it unticked; a text that is none is 0. One that is too large stays, and is reported when the game's settings
+// are written.
 void CollectBox(const CheckBox& box, std::string& value) {
     if (IsOn(value) != (box.Value() != 0)) value = std::to_string(box.Value());
     else if (const auto number = ToInteger(value)) value = std::to_string(*number);

@@ -217,6 +217,7 @@ void IdentityPage::txtChatName_LostFocus() {
     const std::string normalized = NormalizeChatName(txtChatName.Text());
     if (normalized == txtChatName.Text()) return;
     txtChatName.SetText(normalized);
+    txtChatName.PutCaretAtEnd();  // the player may be typing on
     edited_();
 }
 

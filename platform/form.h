@@ -172,6 +172,10 @@ Bounds WorkArea(const Form& form);
 // Lets pending events run and returns.
 void DoEvents();
 
+// The same without what the player does: windows are painted, and other programs that ask get their answer. Clicks and
+// keys wait, so that no command begins in the middle of another.
+void DoPaintEvents();
+
 // Sleeps until there is an event or the time is over, then lets pending events run.
 void WaitForEvents(int milliseconds);
 

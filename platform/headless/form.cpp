@@ -109,6 +109,9 @@ void DoEvents() {
     }
 }
 
+// Nothing is painted here, and nobody else asks.
+void DoPaintEvents() {}
+
 void WaitForEvents(int milliseconds) {
     const long end = now + milliseconds;
     while (now < end && !RunOne()) ++now;

@@ -90,8 +90,9 @@ std::optional<Font> AskFont(const Font& current) {
     const HDC screen = GetDC(nullptr);
     const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
     // The face that is really used, which the list of fonts has, should another one stand in for a missing font.
-    SelectObject(screen, win32::FontFor(current, dpi));
+    const HGDIOBJ before = SelectObject(screen, win32::FontFor(current, dpi));
     GetTextFaceA(screen, LF_FACESIZE, description.lfFaceName);
+    SelectObject(screen, before);
     ReleaseDC(nullptr, screen);
     description.lfHeight = -MulDiv(current.points, dpi, kPointsPerInch);
     description.lfWeight = current.bold ? FW_BOLD : FW_NORMAL;

@@ -105,6 +105,12 @@ void DoEvents() {
     }
 }
 
+void DoPaintEvents() {
+    MSG message{};
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE | PM_QS_PAINT | PM_QS_SENDMESSAGE))
+        DispatchMessageA(&message);
+}
+
 void WaitForEvents(int milliseconds) {
     MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(milliseconds), QS_ALLINPUT, MWMO_INPUTAVAILABLE);
     DoEvents();

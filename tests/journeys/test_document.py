@@ -4,7 +4,8 @@ import time
 import pytest
 
 from catalogue import SZ
-from conftest import OWN_KEY, TITLE, Profile, wait_for
+from conftest import OWN_KEY, TITLE, Profile
+from machine import wait_for
 from player import EXIT, IMPORT, NEW, OPEN, PRINT, RECENT, SAVE, SET_OPTIONS, Player, start
 from test_messages import NO_ZONES, NOT_FOUND, NOT_VALID, PROFILES
 

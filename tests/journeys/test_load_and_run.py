@@ -4,7 +4,8 @@ import time
 import pytest
 
 from catalogue import DWORD, GROUPS, SZ, type_of
-from conftest import GAME_KEY, Profile, wait_for
+from conftest import GAME_KEY, Profile
+from machine import wait_for
 
 
 def expected_registry(profile):

@@ -4,7 +4,8 @@ import time
 import pytest
 
 from catalogue import SZ, DWORD
-from conftest import Profile, wait_for
+from conftest import Profile
+from machine import wait_for
 from player import PAGES, RECENT, WS_TABSTOP, start
 
 TARGET = r"C:\SubSpace\Profiles\TRIP.QRN"
@@ -206,6 +207,13 @@ def test_the_controls_that_follow_others(desk):
         player.replace(chat, typed)
         player.click(player.beside("Pilot Name :"))
         assert player.text(chat) == kept
+    # A save completes it while it is typed, and the player types on.
+    player.replace(chat, "nig")
+    player.keys("ctrl+s")
+    assert player.in_file_dialog("Save As", "C:\\night.qrn") == "untitled.qrn"
+    player.expect_status("File has been saved")
+    player.keys("h", "t")
+    assert player.text(chat) == "?chat=night"
     # Spin controls stop at their bounds; typed text is kept as typed.
     player.turn_to("Options")
     number = player.beside("Music Volume :")

@@ -6,7 +6,8 @@ import subprocess
 import pytest
 
 from catalogue import GROUPS, MESSAGES
-from conftest import EXE, Profile, wait_for
+from conftest import EXE, Profile
+from machine import wait_for
 
 DUEL = r"C:\SubSpace\Profiles\DUEL.QRN"
 TARGET = r"C:\SubSpace\Profiles\my.best.qrn"

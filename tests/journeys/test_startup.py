@@ -4,7 +4,8 @@ import time
 import pytest
 
 from catalogue import SZ
-from conftest import TITLE, wait_for
+from conftest import TITLE
+from machine import wait_for
 from player import SET_OPTIONS, Player, start
 from test_load_and_run import queried
 from test_messages import NO_ZONES

@@ -4,7 +4,8 @@ import time
 import pytest
 
 from catalogue import SZ
-from conftest import OWN_KEY, TITLE, WM_CLOSE, wait_for
+from conftest import OWN_KEY, TITLE, WM_CLOSE
+from machine import wait_for
 from player import CLOSE, EXIT, Player, start
 from test_messages import NOT_FOUND, PROFILES
 

@@ -6,6 +6,7 @@
 #include "logedit/logfind.h"
 #include "logedit/logparser.h"
 #include "logedit/logsave.h"
+#include "logedit/logsettings.h"
 #include "platform/text.h"
 #include "tests/testing/world.h"
 
@@ -94,8 +95,8 @@ TEST_F(LogViewTest, FiltersByTypeAndPlayer) {
 TEST_F(LogViewTest, ListsPlayersInAlphabeticalOrder) {
     Open(
         "  zed> 1\r\n  \xD8rn> 2\r\n  Oslo> 3\r\n  _x_> 4\r\n  2fast> 5\r\n"
-        "  OSKAR \xE4> 6\r\n  oskar a> 7\r\n  oskar> 8\r\n");
-    EXPECT_EQ(Names(include), "_x_,2fast,\xD8rn,oskar,oskar a,OSKAR \xE4,Oslo,zed,");
+        "  OSKAR \xE4> 6\r\n  oskar a> 7\r\n  oskar> 8\r\n  \xFF\x61> 9\r\n  yves> 10\r\n");
+    EXPECT_EQ(Names(include), "_x_,2fast,\xD8rn,oskar,oskar a,OSKAR \xE4,Oslo,\xFF\x61,yves,zed,");
 }
 
 TEST_F(LogViewTest, NumbersLinesAndDeletesThem) {
@@ -236,16 +237,16 @@ TEST_F(LogViewTest, AFailedSaveLeavesTheOldFile) {
 }
 
 TEST(LogMRU, KeepsTheLastFive) {
-    LogMRUList list{"a", "b", "c", "d", "e"};
+    RecentFiles list{"a", "b", "c", "d", "e"};
     AddToLogMRU(list, "C");
-    EXPECT_EQ(list, (LogMRUList{"C", "a", "b", "d", "e"}));
+    EXPECT_EQ(list, (RecentFiles{"C", "a", "b", "d", "e"}));
     AddToLogMRU(list, "f");
-    EXPECT_EQ(list, (LogMRUList{"f", "C", "a", "b", "d"}));
+    EXPECT_EQ(list, (RecentFiles{"f", "C", "a", "b", "d"}));
     AddToLogMRU(list, "F");
     EXPECT_EQ(list[0], "f");  // nothing moves, so the spelling stays
     list = {"R&D", "y", "z", "y", " "};
     AddToLogMRU(list, "y");  // the last one that is equal counts
-    EXPECT_EQ(list, (LogMRUList{"y", "R&D", "y", "z", " "}));
+    EXPECT_EQ(list, (RecentFiles{"y", "R&D", "y", "z", " "}));
     EXPECT_EQ(LogMRUCaption(list, 1), "&2 R&&D");
     EXPECT_EQ(LogMRUCaption(list, 4), std::nullopt);
 }
