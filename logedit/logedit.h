@@ -35,8 +35,8 @@ struct ParseSteps {
     std::function<void(uint64_t size)> onReading;
     // How far it is; every quarter of a megabyte.
     std::function<void(uint64_t done)> onProgress;
-    // The player lists are being filled: "Populating Player List...", the bar from 0 to highest (1 at least); pending
-    // events run once.
+    // The player lists are being filled: "Populating Player List...", the bar from 0 to highest (1 at least); what
+    // is to be painted is painted.
     std::function<void(size_t highest)> onPlayers;
     // The work is over; what went wrong is told next.
     std::function<void()> onEnd;
