@@ -1,5 +1,7 @@
 #include "game/playerfiles.h"
 
+#include <algorithm>
+
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/text.h"
@@ -42,10 +44,20 @@ Failure CopyWave(const std::string& source, const std::string& target) {
 }  // namespace
 
 Failure WriteIgnoreFile(const Profile& profile, const std::string& gameFolder) {
-    if (profile.ignoreFileUnread && profile.IgnoreList.empty()) return {};
     std::string text;
-    for (const std::string& name : profile.IgnoreList)
-        if (!Trim(name).empty()) text += name + "\r\n";
+    if (profile.ignoreFileUnread) {
+        if (profile.IgnoreList.empty()) return {};
+        const Result<std::string> unread = ReadWholeFile(IgnorePath(gameFolder));
+        if (unread.Failed() && !IsMissing(unread.Error())) return unread.Error();
+        if (!unread.Failed()) text = unread.Value();
+        if (!text.empty() && !text.ends_with('\n')) text += "\r\n";
+    }
+    const std::string before = text;
+    const std::vector<std::string_view> known = SplitLines(before);
+    for (const std::string& name : profile.IgnoreList) {
+        const auto isName = [&](std::string_view line) { return EqualNoCase(Trim(line), Trim(name)); };
+        if (!Trim(name).empty() && std::none_of(known.begin(), known.end(), isName)) text += name + "\r\n";
+    }
     return WriteGameFile(IgnorePath(gameFolder), text);
 }
 

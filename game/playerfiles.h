@@ -9,8 +9,8 @@
 // and "record0.wav" and "record1.wav", the sounds behind F11 and F12.
 namespace quirn {
 
-// The ignore list without its blank entries. An empty list does not replace a file that could not be read. Failure: the
-// folder is missing, the file is read-only or held.
+// The ignore list without its blank entries. To a file that could not be read before, only names are added. Failure:
+// the folder is missing, the file is read-only or held.
 Failure WriteIgnoreFile(const Profile& profile, const std::string& gameFolder);
 
 // Replaces the ignore list by the lines of the file, trimmed, without its "#" comments; empty lines are kept as empty

@@ -36,12 +36,12 @@ constexpr int kBlockHeight = PlayerPanel::kInclude.height;
 //                             left  top  width  height
 constexpr Bounds kLog{          150, 120, 11600, 3000};
 constexpr Bounds kApplyFilter = PlayerPanel::kButtons;
-constexpr Bounds kTypes{       4960,   0,  4700, kBlockHeight};
+constexpr Bounds kTypes{       4960,   0,  5100, kBlockHeight};
 // clang-format on
 
 // The check boxes, in the frame: two columns of six.
 constexpr size_t kRows = 6;
-constexpr int kBoxLeft = 150, kBoxTop = 270, kBoxWidth = 2200, kBoxHeight = 225, kColumnStep = 2250, kRowStep = 262;
+constexpr int kBoxLeft = 150, kBoxTop = 270, kBoxWidth = 2400, kBoxHeight = 225, kColumnStep = 2450, kRowStep = 262;
 static_assert(kBoxTop + static_cast<int>(kRows - 1) * kRowStep + kBoxHeight < kBlockHeight);
 static_assert(kBoxLeft + kColumnStep + kBoxWidth < kTypes.width);
 

@@ -25,7 +25,7 @@ bool WindowOfClassExists(const std::string& className);
 WindowHandle FirstTopLevelWindow();
 WindowHandle NextTopLevelWindow(WindowHandle window);
 std::string WindowCaption(WindowHandle window);  // at most 255 bytes
-void ShowNormal(WindowHandle window);
-void BringToFront(WindowHandle window);  // or the dialog that the window waits for
+bool ShowNormal(WindowHandle window);            // false: its program does not answer
+void BringToFront(WindowHandle window);          // or the dialog that the window waits for
 
 }  // namespace quirn

@@ -182,11 +182,13 @@ Failure SaveProfile(const Profile& profile, const std::string& gameFolder, const
     // Ends the list on purpose: names of an older, longer list in the same file are never read.
     writer.Key(IgnoreKey(count + 1), "");
 
-    // The macro file is replaced only when all before it is safe.
+    // The macro file is replaced only when all before it is safe. A profile that has got this very name goes before.
     Failure failure = writer.Check();
     Failure macroFailure;
     if (!failure) {
-        macroFailure = WriteWholeFile(gameFolder + "\\" + SplitPath(path).name + ".ssm", MacroFileText(profile));
+        const std::string macroFile = gameFolder + "\\" + SplitPath(path).name + ".ssm";
+        if (!EqualNoCase(AbsolutePath(macroFile), path))
+            macroFailure = WriteWholeFile(macroFile, MacroFileText(profile));
         if (!macroFailure) {
             writer.All(profile.HiddenOptions);
             failure = writer.Check();

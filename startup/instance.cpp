@@ -14,12 +14,9 @@ WindowHandle FindWindowContaining(const std::string& TitleText) {
 }
 
 void HandOverToRunningCopy() {
-    if (const WindowHandle window = FindWindowContaining(VersionTitle())) {
-        ShowNormal(window);
-        BringToFront(window);
-    } else {
-        ShowMessage(std::string(kTitle) + " is already running.", kInformation);
-    }
+    const WindowHandle window = FindWindowContaining(VersionTitle());
+    if (window != 0 && ShowNormal(window)) BringToFront(window);
+    else ShowMessage(std::string(kTitle) + " is already running.", kInformation);
 }
 
 }  // namespace quirn

@@ -40,6 +40,7 @@ struct TopLevelWindow {
     std::string className;
     std::string caption;
     bool shownNormal = false;
+    bool answers = true;  // false: its program hangs
 };
 
 struct PoppedUpMenu {

@@ -46,8 +46,10 @@ std::string WindowCaption(WindowHandle window) {
     return TheWorld().windows.at(window - 1).caption.substr(0, kCaptionLimit);
 }
 
-void ShowNormal(WindowHandle window) {
-    TheWorld().windows.at(window - 1).shownNormal = true;
+bool ShowNormal(WindowHandle window) {
+    auto& shown = TheWorld().windows.at(window - 1);
+    shown.shownNormal = shown.answers;
+    return shown.answers;
 }
 
 void BringToFront(WindowHandle window) {

@@ -100,7 +100,7 @@ void DropFile(Form& form, HDROP drop) {
     std::string path(DragQueryFileA(drop, 0, nullptr, 0), '\0');
     DragQueryFileA(drop, 0, path.data(), static_cast<UINT>(path.size() + 1));
     DragFinish(drop);
-    if (form.onDropFile && !path.empty()) CallHandler([&] { form.onDropFile(path); });
+    if (form.onDropFile && !path.empty() && !form.IsBlocked()) CallHandler([&] { form.onDropFile(path); });
 }
 
 // The window itself has the keyboard only when it has just been activated; the control that had it gets it back.

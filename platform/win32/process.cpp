@@ -89,8 +89,12 @@ std::string WindowCaption(WindowHandle window) {
     return {caption.data(), static_cast<size_t>(length > 0 ? length : 0)};
 }
 
-void ShowNormal(WindowHandle window) {
+bool ShowNormal(WindowHandle window) {
+    // Showing another program's window waits for that program, and would wait for ever for one that hangs.
+    constexpr UINT kPatience = 5000;  // milliseconds
+    if (SendMessageTimeoutA(ToWindow(window), WM_NULL, 0, 0, SMTO_ABORTIFHUNG, kPatience, nullptr) == 0) return false;
     ShowWindow(ToWindow(window), SW_SHOWNORMAL);
+    return true;
 }
 
 void BringToFront(WindowHandle window) {

@@ -138,6 +138,14 @@ void ApplyText(const Control& control) {
     setsText = nullptr;
 }
 
+// A strip lay under a list that has gone. As a whole: the border of a theme comes out different when only a few rows of
+// it are painted.
+void RepaintStrips(const Container& holder) {
+    for (const Control* control : holder.Controls())
+        if (control->Kind() == ControlKind::TabStrip && control->window != nullptr)
+            InvalidateRect(WindowOf(*control), nullptr, FALSE);
+}
+
 void ApplyVisible(Control& control) {
     if (control.window == nullptr) {
         if (!control.Visible() || !StateOf(control.Holder().Owner()).controlsMade) return;
@@ -154,6 +162,7 @@ void ApplyVisible(Control& control) {
     }
     ShowWindow(WindowOf(control), control.Visible() ? SW_SHOWNA : SW_HIDE);
     if (control.Kind() == ControlKind::TabStrip) ShowFrontPage(static_cast<TabStrip&>(control));
+    if (control.Kind() == ControlKind::ListBox && !control.Visible()) RepaintStrips(control.Holder());
     // Lists and panels that appear and go lie over whatever is there, and so does what shows progress on them.
     const bool liesOver =
         control.Kind() == ControlKind::ListBox || control.Kind() == ControlKind::ProgressBar ||

@@ -40,9 +40,15 @@ TEST_F(PlayerFilesTest, AnIgnoreFileThatCouldNotBeReadIsNotEmptied) {
     }
     EXPECT_FALSE(WriteIgnoreFile(profile_, game_));
     EXPECT_EQ(FileBytes(ignore_), "Mole\r\n");
-    profile_.IgnoreList = {"Bot"};
-    EXPECT_FALSE(WriteIgnoreFile(profile_, game_));
-    EXPECT_EQ(FileBytes(ignore_), "Bot\r\n");
+    profile_.IgnoreList = {"Bot", "mole"};
+    {
+        const HeldFile held(ignore_);
+        EXPECT_TRUE(WriteIgnoreFile(profile_, game_));
+    }
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_FALSE(WriteIgnoreFile(profile_, game_));
+        EXPECT_EQ(FileBytes(ignore_), "Mole\r\nBot\r\n");
+    }
 }
 
 TEST_F(PlayerFilesTest, WritesNamesAsTheyAreWithoutBlankOnes) {

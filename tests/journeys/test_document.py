@@ -181,6 +181,13 @@ def test_print_and_a_dropped_file(desk):
     desk.user.ask("drop", player.handle, DUEL)
     question(player, LEAGUE, "No")
     wait_for(lambda: player.title() == TITLE + " - DUEL.QRN", what="the title")
+    # A window that waits for a dialog takes nothing.
+    player.quirn.choose(SET_OPTIONS)
+    options = Player(player.quirn, player.quirn.window("Options")["handle"])
+    desk.user.ask("drop", player.handle, LEAGUE)
+    options.keys("Escape")
+    options.gone()
+    assert player.title() == TITLE + " - DUEL.QRN"
 
 
 def test_the_run_button_asks_and_may_be_stopped(desk):

@@ -147,6 +147,15 @@ TEST_F(ProfileFileTest, AFailingMacroFileStopsBeforeHiddenOptions) {
     EXPECT_FALSE(FileBytes(fresh + kUnfinishedSuffix));
 }
 
+TEST_F(ProfileFileTest, AProfileNamedAsItsMacroFileIsWhole) {
+    const std::string path = game_ + "\\ace.SSM";
+    EXPECT_FALSE(SaveProfile(profile_, game_, path));
+    Profile loaded = EmptyProfile();
+    EXPECT_TRUE(LoadProfile(loaded, path));
+    EXPECT_EQ(loaded.Dialog.Value(1), profile_.Dialog.Value(1));
+    EXPECT_EQ(loaded.HiddenOptions.Value(1), profile_.HiddenOptions.Value(1));
+}
+
 TEST_F(ProfileFileTest, AFileThatCannotBeReplacedStaysWhole) {
     Saved(profile_);
     const auto before = FileBytes(file_);

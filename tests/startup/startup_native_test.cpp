@@ -26,6 +26,10 @@ TEST_F(StartupTest, ASecondCopyHandsOverToTheFirst) {
     EXPECT_EQ(TheWorld().broughtToFront, 2u);
     EXPECT_FALSE(TheWorld().windows[1].shownNormal);
     EXPECT_EQ(FindWindowContaining("nothing like it"), 0u);
+
+    TheWorld().windows[2].answers = false;
+    ExpectMessage("QUIRN is already running.", kInformation);
+    Main();
 }
 
 TEST_F(StartupTest, LoadAndRunEndsTheProgramBeforeTheMainWindow) {
