@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "benchmarks/ticks.h"
 #include "logedit/logfind.h"
 #include "logedit/logparser.h"
 #include "logedit/logsave.h"
@@ -19,13 +20,6 @@ namespace {
 using namespace quirn;
 
 constexpr int kRounds = 9;
-
-double Milliseconds() {
-    LARGE_INTEGER ticks, frequency;
-    QueryPerformanceCounter(&ticks);
-    QueryPerformanceFrequency(&frequency);
-    return 1000.0 * static_cast<double>(ticks.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 // The times of the steps, by name in the order of their first round.
 class Steps {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "benchmarks/sampleprofile.h"
+#include "benchmarks/ticks.h"
 #include "game/settingsstore.h"
 #include "profile/profilefile.h"
 
@@ -15,13 +16,6 @@ namespace {
 using namespace quirn;
 
 constexpr int kRounds = 21;
-
-double Milliseconds() {
-    LARGE_INTEGER ticks, frequency;
-    QueryPerformanceCounter(&ticks);
-    QueryPerformanceFrequency(&frequency);
-    return 1000.0 * static_cast<double>(ticks.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 void Time(const char* name, const std::function<void()>& work) {
     std::vector<double> times;

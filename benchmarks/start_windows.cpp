@@ -11,18 +11,13 @@
 #include <string>
 #include <vector>
 
+#include "benchmarks/ticks.h"
+
 namespace {
 
 constexpr int kWarmUps = 2;
 constexpr int kRounds = 15;
 constexpr double kGiveUp = 20000;
-
-double Now() {
-    LARGE_INTEGER now, frequency;
-    QueryPerformanceCounter(&now);
-    QueryPerformanceFrequency(&frequency);
-    return 1000.0 * static_cast<double>(now.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 struct Wanted {
     DWORD process;
@@ -47,13 +42,13 @@ double StartOnce(const char* program, const char* caption) {
     startup.cb = sizeof startup;
     PROCESS_INFORMATION started{};
     std::string command = std::string("\"") + program + "\"";
-    const double start = Now();
+    const double start = Milliseconds();
     if (!CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &started)) {
         std::printf("%s does not start\n", program);
         std::exit(1);
     }
     Wanted wanted{started.dwProcessId, caption, nullptr};
-    while (!wanted.found && Now() - start < kGiveUp) {
+    while (!wanted.found && Milliseconds() - start < kGiveUp) {
         EnumWindows(Look, reinterpret_cast<LPARAM>(&wanted));
         if (!wanted.found) Sleep(1);
     }
@@ -61,7 +56,7 @@ double StartOnce(const char* program, const char* caption) {
     WaitForInputIdle(started.hProcess, 10000);
     DWORD_PTR unused = 0;
     SendMessageTimeoutA(wanted.found, WM_NULL, 0, 0, SMTO_NORMAL, 10000, &unused);
-    const double time = Now() - start;
+    const double time = Milliseconds() - start;
     Sleep(150);
     TerminateProcess(started.hProcess, 0);
     WaitForSingleObject(started.hProcess, 5000);

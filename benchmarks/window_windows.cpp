@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <string>
 
+#include "benchmarks/ticks.h"
 #include "mainwin/frmmain.h"
 #include "profile/profilefile.h"
 
@@ -14,20 +15,13 @@ namespace {
 
 constexpr int kRounds = 101;
 
-double Now() {
-    LARGE_INTEGER now, frequency;
-    QueryPerformanceCounter(&now);
-    QueryPerformanceFrequency(&frequency);
-    return 1000.0 * static_cast<double>(now.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
 template <class Work>
 void Measure(const char* name, Work work) {
     std::array<double, kRounds> times{};
     for (double& time : times) {
-        const double start = Now();
+        const double start = Milliseconds();
         work();
-        time = Now() - start;
+        time = Milliseconds() - start;
         quirn::DoEvents();
     }
     std::sort(times.begin(), times.end());
