@@ -1,7 +1,6 @@
 #include "logedit/playertable.h"
 
 #include <algorithm>
-#include <array>
 #include <bit>
 
 #include "logedit/parsedlog.h"
@@ -15,9 +14,8 @@ namespace {
 using sse2::Load;
 
 constexpr size_t kFirstBuckets = 256;
-constexpr size_t kAtOnce = 256;    // speakers, whose keys stay in the cache
-constexpr size_t kFetchAhead = 8;  // names
-constexpr char kFiller = 'a';      // in no upper-case text, so keys of different lengths differ
+constexpr size_t kAtOnce = 256;  // speakers, whose keys stay in the cache
+constexpr char kFiller = 'a';    // in no upper-case text, so keys of different lengths differ
 
 // Read from the right place, a mask of the first n bytes, and the filler for all others.
 struct alignas(16) MaskSource {
@@ -70,21 +68,16 @@ bool PlayerTable::Number(std::span<const Speaker> speakers) {
             MakeLookUp(speakers[i], lookUps_[i]);
             _mm_prefetch(reinterpret_cast<const char*>(&buckets_[lookUps_[i].hash & mask_]), _MM_HINT_T0);
         }
-        std::array<uint32_t, kFetchAhead> likely{};
-        for (size_t i = 0; i < count + kFetchAhead; ++i) {
-            uint32_t& slot = likely[i % kFetchAhead];
-            if (i >= kFetchAhead) {
-                const Speaker& speaker = speakers[i - kFetchAhead];
-                const LookUp& lookUp = lookUps_[i - kFetchAhead];
-                const std::string_view name(speaker.name, speaker.length);
-                const uint32_t number = IsNamed(slot, lookUp.key, name) ? slot : Find(lookUp, name);
-                if (number > kMostPlayers) return false;
-                *speaker.info |= static_cast<int32_t>(number << 16);
-            }
-            if (i < count) {
-                slot = LikelyNumber(lookUps_[i].hash);
-                _mm_prefetch(reinterpret_cast<const char*>(&keys_[slot]), _MM_HINT_T0);
-            }
+        for (size_t i = 0; i < count; ++i) {
+            lookUps_[i].likely = LikelyNumber(lookUps_[i].hash);
+            _mm_prefetch(reinterpret_cast<const char*>(&keys_[lookUps_[i].likely]), _MM_HINT_T0);
+        }
+        for (size_t i = 0; i < count; ++i) {
+            const LookUp& lookUp = lookUps_[i];
+            const std::string_view name(speakers[i].name, speakers[i].length);
+            const uint32_t number = IsNamed(lookUp.likely, lookUp.key, name) ? lookUp.likely : Find(lookUp, name);
+            if (number > kMostPlayers) return false;
+            *speakers[i].info |= static_cast<int32_t>(number << 16);
         }
     }
     return true;

@@ -48,6 +48,7 @@ private:
     struct LookUp {
         Key key;
         uint32_t hash;
+        uint32_t likely;  // number of the player who is probably meant
     };
 
     static void MakeLookUp(const Speaker& speaker, LookUp& lookUp);
