@@ -15,9 +15,13 @@ public:
 
     URLLink(Parent parent, const Bounds& place);
 
-    const std::string& Text() const { return lblURL.Text(); }  // displayed in the control
-    const std::string& URL() const { return url_; }            // opened by a click; empty: a click does nothing
-    bool ShowToolTip() const { return showToolTip_; }          // the URL as a tool tip over the text
+    // Text displayed in control
+    const std::string& Text() const { return lblURL.Text(); }
+    // URL loaded when mouse is clicked over text. May also be a data file that has an extension registered; empty, a
+    // click does nothing
+    const std::string& URL() const { return url_; }
+    // Determines if the URL is displayed in a tooltip when the mouse is parked over the text
+    bool ShowToolTip() const { return showToolTip_; }
     void SetText(const std::string& text);
     void SetURL(const std::string& url);
     void SetShowToolTip(bool show);

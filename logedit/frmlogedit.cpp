@@ -182,8 +182,8 @@ void frmLogEdit::MenuCommand(int command) {
         case mnuOptions_LineNums: mnuOptions_LineNums_Click(); break;
         case mnuSearch_Find: mnuSearch_Find_Click(); break;
         case mnuLogEditPopup_Delete: mnuLogEditPopup_Delete_Click(); break;
-        case mnuInExPopup_All: players_.SelectAll(); break;
-        case mnuInExPopup_Invert: players_.InvertSelection(); break;
+        case mnuInExPopup_All: players_.mnuInExPopup_All_Click(); break;
+        case mnuInExPopup_Invert: players_.mnuInExPopup_Invert_Click(); break;
         default:
             // By value: opening moves the list's entries.
             if (command >= mnuFileMRU && command < mnuFileBarMRU)

@@ -87,11 +87,11 @@ void PlayerPanel::KeyPress(char character) {
     }
 }
 
-void PlayerPanel::SelectAll() {
+void PlayerPanel::mnuInExPopup_All_Click() {
     popupList_->SelectAll();
 }
 
-void PlayerPanel::InvertSelection() {
+void PlayerPanel::mnuInExPopup_Invert_Click() {
     ListSelection other = popupList_->Selection();
     other.Invert();
     popupList_->SetSelection(other);

@@ -28,8 +28,8 @@ public:
     void Show();   // what the edit's lists hold, nothing selected
 
     void KeyPress(char character);  // in a list it leads to the next name that begins with it
-    void SelectAll();               // in the list of the menu
-    void InvertSelection();
+    void mnuInExPopup_All_Click();  // the commands of the menu
+    void mnuInExPopup_Invert_Click();
     std::string SelectedText();  // of the list that has the keyboard, CR LF between names; else empty
 
 private:
