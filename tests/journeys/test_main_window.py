@@ -210,7 +210,7 @@ def test_the_controls_that_follow_others(desk):
     # A save completes it while it is typed, and the player types on.
     player.replace(chat, "nig")
     player.keys("ctrl+s")
-    assert player.in_file_dialog("Save As", "C:\\night.qrn") == "untitled.qrn"
+    assert player.in_file_dialog("Save As", r"C:\SubSpace\Profiles\night.qrn") == "untitled.qrn"
     player.expect_status("File has been saved")
     player.keys("h", "t")
     assert player.text(chat) == "?chat=night"
