@@ -276,7 +276,8 @@ def test_the_pick_list(desk):
         player.replace(player.beside(label), text)
         player.keys("End")
         player.type("%")
-        inner, window = wait_for(lambda: player.of_class("ListBox"), what="the list")[0]["rect"], player.window()["rect"]
+        inner = wait_for(lambda: player.of_class("ListBox"), what="the list")[0]["rect"]
+        window = player.window()["rect"]
         assert window[0] <= inner[0] and inner[2] <= window[2] and inner[3] <= window[3]
         player.keys("Escape")
 
@@ -398,7 +399,8 @@ def test_menu_help(desk):
     player.expect_status("")
 
     # The window manager draws the system menu's box, so its commands are told to the window as the system does.
-    for command, text in ((0xF000, "Size the window using the keyboard"), (0xF010, "Move the window using the keyboard"),
+    for command, text in ((0xF000, "Size the window using the keyboard"),
+                          (0xF010, "Move the window using the keyboard"),
                           (0xF020, "Minimize the window"), (0xF030, "Maximize the window"),
                           (0xF060, "Close this window and terminate this program"),
                           (0xF120, "Restore window to normal position and size")):

@@ -60,8 +60,8 @@ def test_a_file_that_is_no_profile(desk):
 @pytest.mark.parametrize("version, warns", [("1.60", True), (None, True), ("1.61", False), ("1.7", False)])
 def test_a_profile_of_another_version(desk, version, warns):
     header = f"[QUIRN]\r\nVersion={version}\r\n" if version else ""
-    desk.file("Profiles/OLD.QRN").write_text(header + "[Dialog]\r\nPlayerName=Old Nag\r\n[Advanced]\r\nSkipSplash=1\r\n",
-                                             newline="")
+    rest = "[Dialog]\r\nPlayerName=Old Nag\r\n[Advanced]\r\nSkipSplash=1\r\n"
+    desk.file("Profiles/OLD.QRN").write_text(header + rest, newline="")
     quirn = desk.start("/LR:OLD.QRN")
     if warns:
         quirn.expect(EARLIER.format(PROFILES + "OLD.QRN"), "exclamation")

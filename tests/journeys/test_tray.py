@@ -1,4 +1,4 @@
-"""The tray icon: what the player does with the real icon in the window manager's tray, and how the window goes and comes."""
+"""The tray icon: what the player does with the real one in the window manager's tray; how the window goes and comes."""
 import time
 
 import pytest
