@@ -334,7 +334,7 @@ void frmLogEdit::FindInLog(const std::string& text) {
 
 void frmLogEdit::CopySelected() {
     const std::string text = lstLog.HasFocus() ? edit_.view.SelectedText(lstLog.Selection()) : players_.SelectedText();
-    if (!text.empty()) SetClipboardText(text);
+    if (!text.empty()) ShowError(SetClipboardText(text));
 }
 
 void frmLogEdit::ShowLog() {

@@ -25,7 +25,7 @@ size_t Collect(const ParsedLog& log, uint32_t* shown, IsShown isShown) {
         const auto end = static_cast<uint32_t>(std::min(log.LineCount(), line + kLinesPerBlock));
         for (const int32_t* info = block->info; line < end; ++line, ++info) {
             *out = line;
-            out += isShown(static_cast<uint32_t>(*info));
+            out += isShown(*info);
         }
     }
     return static_cast<size_t>(out - shown);
@@ -42,11 +42,12 @@ uint32_t BuildFilterMask(const FilterBoxValues& values) {
 
 size_t FilterLines(const ParsedLog& log, uint32_t mask, const PlayerList& include, const PlayerList& exclude,
                    uint32_t* shown) {
-    const uint32_t hidden = ~mask & 0xFFFF;
-    if (exclude.Count() == 0) return Collect(log, shown, [hidden](uint32_t info) { return (info & hidden) == 0; });
+    const uint32_t hidden = ~mask;
+    if (exclude.Count() == 0)
+        return Collect(log, shown, [hidden](int32_t info) { return (TypeOf(info) & hidden) == 0; });
     const std::vector<uint8_t> players = ShownPlayers(include, exclude);
-    return Collect(log, shown, [hidden, table = players.data()](uint32_t info) {
-        return static_cast<uint8_t>((info & hidden) == 0) & table[info >> 16];
+    return Collect(log, shown, [hidden, table = players.data()](int32_t info) {
+        return static_cast<uint8_t>((TypeOf(info) & hidden) == 0) & table[PlayerOf(info)];
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 namespace quirn {
 
@@ -41,10 +42,9 @@ void LogView::Delete(const ListSelection& selected) {
 
 std::string LogView::SelectedText(const ListSelection& selected) const {
     std::string text;
-    bool first = true;
+    const char* before = "";
     selected.ForEach([&](size_t item) {
-        if (!first) text += "\r\n";
-        first = false;
+        text += std::exchange(before, "\r\n");
         if (tags_) text += tags_->Text(shown_[item]);
         text += Line(item);
     });

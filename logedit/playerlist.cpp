@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "platform/text.h"
 
@@ -79,8 +80,9 @@ void PlayerList::Fill(std::shared_ptr<const ParsedLog> log) {
 
 std::string PlayerList::SelectedText() const {
     std::string text;
+    const char* before = "";
     selection_.ForEach([&](size_t item) {
-        if (!text.empty()) text += "\r\n";
+        text += std::exchange(before, "\r\n");
         text += Name(item);
     });
     return text;

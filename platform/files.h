@@ -49,7 +49,7 @@ public:
 private:
     void* handle_ = nullptr;
     uint64_t size_ = 0;
-    uint64_t position_ = 0;
+    [[maybe_unused]] uint64_t position_ = 0;  // where the system does not keep it
 };
 
 // Creates or replaces a file in one step as WriteWholeFile does, for content that comes piece by piece: Open makes the

@@ -4,9 +4,10 @@
 
 namespace quirn {
 
-bool SetClipboardText(const std::string& text) {
+Failure SetClipboardText(const std::string& text) {
+    if (headless::TheWorld().clipboardIsHeld) return MakeError(ErrorNumber::PermissionDenied);
     headless::TheWorld().clipboard = text;
-    return true;
+    return {};
 }
 
 }  // namespace quirn

@@ -68,6 +68,7 @@ struct World {
     std::vector<std::pair<std::string, std::string>> startedPrograms;  // program, folder
     std::vector<std::string> playedSounds;
     std::string clipboard;
+    bool clipboardIsHeld = false;  // by another program
 
     std::vector<std::string> openedTargets;   // by their registered programs
     std::vector<std::string> shownHelp;       // help files

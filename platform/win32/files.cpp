@@ -200,7 +200,6 @@ Result<size_t> FileReader::Read(char* buffer, size_t bytes) {
     DWORD got = 0;
     if (!ReadFile(handle_, buffer, static_cast<DWORD>(std::min<size_t>(bytes, 1u << 30)), &got, nullptr))
         return LastError();
-    position_ += got;
     return size_t{got};
 }
 
