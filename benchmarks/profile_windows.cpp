@@ -8,7 +8,7 @@
 
 #include "benchmarks/sampleprofile.h"
 #include "benchmarks/ticks.h"
-#include "game/settingsstore.h"
+#include "game/transfer.h"
 #include "profile/profilefile.h"
 
 namespace {
@@ -52,7 +52,7 @@ int main() {
 
     Time("save a QRN file", [&] { SaveProfile(profile, gameFolder, file); });
     Time("load a QRN file", [&] { LoadProfile(profile, file); });
-    Time("write a profile to the game", [&] { WriteProfileToGame(profile, gameFolder); });
+    Time("write a profile to the game", [&] { TransferToGame(profile, gameFolder); });
     Time("read a profile from the game", [&] { ReadProfileFromGame(profile, gameFolder); });
 
     RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/text.h"
 
@@ -77,19 +76,24 @@ Failure ReadIgnoreFile(Profile& profile, const std::string& gameFolder) {
     return {};
 }
 
-void ReadPlayerFiles(Profile& profile, const std::string& gameFolder) {
-    ShowError(ReadIgnoreFile(profile, gameFolder));
+Failure ReadPlayerFiles(Profile& profile, const std::string& gameFolder) {
+    const Failure failure = ReadIgnoreFile(profile, gameFolder);
     for (size_t slot = 0; slot < profile.WaveFiles.size(); ++slot) {
         const std::string path = WavePath(gameFolder, slot);
         profile.WaveFiles[slot] = FileExists(path) ? path : kNotSet;
     }
+    return failure;
 }
 
-void WritePlayerFiles(const Profile& profile, const std::string& gameFolder) {
-    if (gameFolder == kNotSet) return;
-    ShowError(WriteIgnoreFile(profile, gameFolder));
+std::vector<RuntimeError> WritePlayerFiles(const Profile& profile, const std::string& gameFolder) {
+    std::vector<RuntimeError> errors;
+    const auto keep = [&](Failure failure) {
+        if (failure) errors.push_back(*std::move(failure));
+    };
+    keep(WriteIgnoreFile(profile, gameFolder));
     for (size_t slot = 0; slot < profile.WaveFiles.size(); ++slot)
-        ShowError(CopyWave(profile.WaveFiles[slot], WavePath(gameFolder, slot)));
+        keep(CopyWave(profile.WaveFiles[slot], WavePath(gameFolder, slot)));
+    return errors;
 }
 
 }  // namespace quirn

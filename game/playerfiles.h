@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/error.h"
 #include "profile/profile.h"
@@ -17,9 +18,8 @@ Failure WriteIgnoreFile(const Profile& profile, const std::string& gameFolder);
 // entries. A missing file gives an empty list and is no failure.
 Failure ReadIgnoreFile(Profile& profile, const std::string& gameFolder);
 
-// Both files of each kind, from the game or to it. Without a configured game folder nothing is written, silently: the
-// launch that follows says what to do. Every failure is shown as a run-time error and the other steps still done.
-void ReadPlayerFiles(Profile& profile, const std::string& gameFolder);
-void WritePlayerFiles(const Profile& profile, const std::string& gameFolder);
+// The ignore list and the two waves, from the game or to it. What fails does not stop the rest.
+Failure ReadPlayerFiles(Profile& profile, const std::string& gameFolder);
+std::vector<RuntimeError> WritePlayerFiles(const Profile& profile, const std::string& gameFolder);
 
 }  // namespace quirn

@@ -1,7 +1,5 @@
 #include "game/settingsstore.h"
 
-#include "game/playerfiles.h"
-#include "platform/dialogs.h"
 #include "platform/text.h"
 
 namespace quirn {
@@ -77,7 +75,7 @@ long SetValueEx(const RegistryKey& key, const std::string& name, RegistryType ty
     return kRegistrySuccess;
 }
 
-void ReadProfileFromGame(Profile& profile, const std::string& gameFolder) {
+void ReadSettings(Profile& profile) {
     for (Section* section : profile.Sections()) {
         const RegistryKey key(KeyPath(*section));
         for (int i = 1; i <= section->Count(); ++i) {
@@ -87,25 +85,23 @@ void ReadProfileFromGame(Profile& profile, const std::string& gameFolder) {
             section->Value(i) = std::move(text);
         }
     }
-    ReadPlayerFiles(profile, gameFolder);
 }
 
-void WriteProfileToGame(const Profile& profile, const std::string& gameFolder) {
-    bool overflow = false;
+WrittenSettings WriteSettings(const Profile& profile) {
+    WrittenSettings written;
     for (const Section* section : profile.Sections()) {
         const RegistryKey key(KeyPath(*section));
+        const auto write = [&](int i, const SettingValue& value, RegistryType type) {
+            const long status = SetKeyValue(key, section->Name(i), value, type);
+            if (status != kRegistrySuccess) written.refused.push_back({section->name, section->Name(i), status});
+        };
         for (int i = 1; i <= section->Count(); ++i) {
-            if (!section->IsNumber(i)) {
-                SetKeyValue(key, section->Name(i), section->Value(i), RegistryType::Text);
-            } else if (const auto number = ToInteger(section->Value(i))) {
-                SetKeyValue(key, section->Name(i), *number, RegistryType::Number);
-            } else {
-                overflow = true;
-            }
+            if (!section->IsNumber(i)) write(i, section->Value(i), RegistryType::Text);
+            else if (const auto number = ToInteger(section->Value(i))) write(i, *number, RegistryType::Number);
+            else written.overflow = true;
         }
     }
-    if (overflow) ShowError(MakeError(ErrorNumber::Overflow));
-    WritePlayerFiles(profile, gameFolder);
+    return written;
 }
 
 }  // namespace quirn

@@ -2,13 +2,14 @@
 
 #include <string>
 #include <variant>
+#include <vector>
 
 #include "platform/registry.h"
 #include "profile/profile.h"
 
 // The game's settings in the current user's registry: one key per section below "Software\Virgin\SubSpace". Keys are
 // opened, never made: this program configures an installed game, it does not install one. A key that is missing has no
-// values and takes none. A failure of the registry produces no message.
+// values and takes none.
 namespace quirn {
 
 // A text (REG_SZ, with the NUL that the registry keeps), a number (REG_DWORD), or nothing when the value is missing
@@ -30,11 +31,22 @@ long SetKeyValue(const RegistryKey& key, const std::string& name, const SettingV
 // The same into a key that is open; nothing is written for another type, and the status is then 0.
 long SetValueEx(const RegistryKey& key, const std::string& name, RegistryType type, const SettingValue& value);
 
-// Reads all settings, the ignore list and the wave files into the profile. What is missing becomes an empty text.
-void ReadProfileFromGame(Profile& profile, const std::string& gameFolder);
+// Reads every setting of the profile. What is missing becomes an empty text.
+void ReadSettings(Profile& profile);
 
-// Writes them into the game. Files that cannot be written and numbers that do not fit 32 bits are shown as run-time
-// errors; everything else is still written.
-void WriteProfileToGame(const Profile& profile, const std::string& gameFolder);
+// A setting that the registry did not take, with the status of SetKeyValue.
+struct RefusedValue {
+    std::string section;
+    std::string name;
+    long status;
+};
+
+struct WrittenSettings {
+    bool overflow = false;  // some numbers do not fit 32 bits and are left as the game has them
+    std::vector<RefusedValue> refused;
+};
+
+// Writes every setting of the profile; what fails does not stop the rest.
+WrittenSettings WriteSettings(const Profile& profile);
 
 }  // namespace quirn

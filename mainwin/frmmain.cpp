@@ -5,7 +5,7 @@
 #include "auxiliary/frmrelnotes.h"
 #include "auxiliary/opendocument.h"
 #include "game/launch.h"
-#include "game/settingsstore.h"
+#include "game/transfer.h"
 #include "mainwin/appsettings.h"
 #include "mainwin/bindingtables.h"
 #include "mainwin/frmoptions.h"
@@ -120,7 +120,7 @@ void frmMain::Form_Load() {
         return;
     }
     identityPage_.SetZones(std::move(*zones));
-    ReadProfileFromGame(program_.profile, program_.gameFolder);
+    ShowError(ReadProfileFromGame(program_.profile, program_.gameFolder));
     ShowProfile();
     tray_.Add();
     if (program_.quiet) Hide();
@@ -266,7 +266,7 @@ void frmMain::mnuPUTrayIcon_Fav_Click(size_t slot) {
     Profile profile = program_.profile;
     if (!LoadProfile(profile, favourite.path)) return;
     Hide();
-    WriteProfileToGame(profile, program_.gameFolder);
+    ShowErrors(TransferToGame(profile, program_.gameFolder).errors);
     LaunchGame(program_, profile, LaunchMode::Interactive, this);
 }
 
@@ -284,7 +284,7 @@ void frmMain::ShowMainWindow() {
 void frmMain::Command3_Click() {
     if (program_.dirty && !document_.AskSaveChanges()) return;
     CollectProfile();
-    WriteProfileToGame(program_.profile, program_.gameFolder);
+    ShowErrors(TransferToGame(program_.profile, program_.gameFolder).errors);
     LaunchGame(program_, program_.profile, LaunchMode::Interactive, this);
 }
 

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/control.h"
 #include "platform/error.h"
@@ -55,6 +56,9 @@ std::optional<Color> AskColor(Color current);
 void ShowError(const RuntimeError& error);
 inline void ShowError(const Failure& failure) {
     if (failure) ShowError(*failure);
+}
+inline void ShowErrors(const std::vector<RuntimeError>& errors) {
+    for (const RuntimeError& error : errors) ShowError(error);
 }
 
 }  // namespace quirn

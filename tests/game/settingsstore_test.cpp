@@ -1,5 +1,6 @@
 #include "game/settingsstore.h"
 
+#include "game/transfer.h"
 #include "tests/testing/profiles.h"
 
 namespace quirn {
@@ -45,7 +46,7 @@ TEST_F(SettingsStoreTest, ReadsTextsAndNumbersOnly) {
 
 TEST_F(SettingsStoreTest, EverySettingComesBack) {
     profile_.WaveFiles = {kNotSet, kNotSet};
-    WriteProfileToGame(profile_, game_);
+    TransferToGame(profile_, game_);
     EXPECT_EQ(Stored(profile_.Dialog, 1), (StoredValue{1, "D1\0"s}));
     EXPECT_EQ(Stored(profile_.Options, 39), (StoredValue{4, "\x28\0\0\0"s}));
     Profile read = EmptyProfile();
@@ -61,7 +62,7 @@ TEST_F(SettingsStoreTest, TextsBecomeNumbersByTheirStart) {
     int index = 0;
     for (const auto& row : rows) profile_.Options.Value(++index) = row.text;
     profile_.WaveFiles = {kNotSet, kNotSet};
-    WriteProfileToGame(profile_, game_);
+    TransferToGame(profile_, game_);
     index = 0;
     for (const auto& row : rows) {
         const std::string bytes(reinterpret_cast<const char*>(&row.number), sizeof(row.number));
@@ -69,25 +70,12 @@ TEST_F(SettingsStoreTest, TextsBecomeNumbersByTheirStart) {
     }
 }
 
-TEST_F(SettingsStoreTest, ATooLargeNumberIsReportedOnceAndSkipped) {
-    PutValue(kRoot + "Options", "ShowStars", 4, "\7\0\0\0"s);
-    profile_.Options.Value(2) = "2147483648";
-    profile_.Advanced.Value(5) = "-99999999999";
-    profile_.WaveFiles = {kNotSet, kNotSet};
-    ExpectError(6, "Overflow");
-    WriteProfileToGame(profile_, game_);
-    EXPECT_EQ(Stored(profile_.Options, 2), (StoredValue{4, "\7\0\0\0"s}));
-    EXPECT_FALSE(Stored(profile_.Advanced, 5));
-    EXPECT_TRUE(Stored(profile_.HiddenOptions, 3));
-    EXPECT_TRUE(FileBytes(game_ + "\\ignore.txt"));
-}
-
 TEST_F(SettingsStoreTest, ValuesOfOtherTypesAreLeftAlone) {
     PutValue(kRoot + "Dialog", "PlayerName", 3, "\1\2\3"s);
     PutValue(kRoot + "Options", "Clock", 7, "a\0b\0\0"s);
     PutValue(kRoot + "Dialog", "Favourite", 1, "other\0"s);
     profile_.WaveFiles = {kNotSet, kNotSet};
-    WriteProfileToGame(profile_, game_);
+    TransferToGame(profile_, game_);
     EXPECT_EQ(GetValue(kRoot + "Dialog", "PlayerName"), (StoredValue{3, "\1\2\3"s}));
     EXPECT_EQ(GetValue(kRoot + "Options", "Clock"), (StoredValue{7, "a\0b\0\0"s}));
     EXPECT_EQ(GetValue(kRoot + "Dialog", "Favourite"), (StoredValue{1, "other\0"s}));
@@ -104,7 +92,7 @@ class NoGameTest : public WorldTest {};
 
 TEST_F(NoGameTest, CreatesNoKeys) {
     Profile profile = SampleProfile();
-    WriteProfileToGame(profile, kNotSet);
+    TransferToGame(profile, kNotSet);
     EXPECT_FALSE(KeyExists("Software\\Virgin"));
     ReadProfileFromGame(profile, kNotSet);
     ExpectSame(profile, EmptyProfile());
