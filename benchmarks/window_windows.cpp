@@ -43,7 +43,7 @@ int main(int count, char** arguments) {
     }
     const quirn::Profile ofGame = program.profile;
     quirn::Profile other = ofGame;
-    if (count < 2 || !quirn::LoadProfile(other, arguments[1])) return 1;
+    if (count < 2 || quirn::LoadProfile(other, arguments[1]) != quirn::LoadResult::Loaded) return 1;
 
     // Two profiles in turn, so that every control has something new to show.
     bool turn = false;

@@ -1,6 +1,5 @@
 #include "game/zonelist.h"
 
-#include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/text.h"
 
@@ -43,18 +42,6 @@ Result<std::vector<Zone>> ReadZoneList(const std::string& gameFolder) {
     const Result<std::string> text = ReadWholeFile(gameFolder + "\\favorite.lst");
     if (text.Failed()) return text.Error();
     return ParseZoneList(text.Value());
-}
-
-std::optional<std::vector<Zone>> LoadZoneList(const std::string& gameFolder,
-                                              const std::function<void()>& setGameFolder) {
-    for (;;) {
-        Result<std::vector<Zone>> zones = ReadZoneList(gameFolder);
-        if (!zones.Failed()) return zones.Take();
-        if (ShowMessage("Cannot find FAVORITE.LST, make sure the location of the subspace.exe is set correctly.",
-                        kOkCancel + kQuestion) != Answer::Ok)
-            return std::nullopt;
-        setGameFolder();
-    }
 }
 
 int FindZoneIndex(const std::vector<Zone>& zones, std::string_view Text) {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,11 +23,6 @@ std::vector<Zone> ParseZoneList(std::string_view text);
 
 // Failure: the file cannot be opened.
 Result<std::vector<Zone>> ReadZoneList(const std::string& gameFolder);
-
-// The same for a player: while the file cannot be opened he is asked, OK calls setGameFolder (which may change the
-// folder behind the reference) and tries again, Cancel gives nothing.
-std::optional<std::vector<Zone>> LoadZoneList(const std::string& gameFolder,
-                                              const std::function<void()>& setGameFolder);
 
 // The 0-based index of the first zone whose name contains the text, letter by letter; -1 when none does. So a name that
 // is part of an earlier zone's name finds that one, and an empty text the first of all: both are kept on purpose.

@@ -289,13 +289,15 @@ void frmLogEdit::OpenLog(const std::string& path) {
             },
         .onEnd = [&] { progress_.Hide(); },
     };
-    const bool loaded = ParseLogFile(edit_, path, steps);
+    const ParseResult result = ParseLogFile(edit_, path, steps);
+    if (!result.found) ShowMessage(LogNotFoundText(path), kCritical);
+    ShowError(result.failure);
     // Without a file, or with one that cannot be opened, the lists stay as they are.
     if (begun) {
         players_.Show();
         ShowLog();
     }
-    if (!loaded) {
+    if (!result.Loaded()) {
         StatusBar1.SetText(kLoadFailed);
         return;
     }

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "logedit/logparser.h"
-#include "platform/dialogs.h"
 #include "platform/files.h"
 
 namespace quirn {
@@ -31,12 +30,11 @@ void Clear(LogEdit& edit, const RuntimeError& error) {
 
 }  // namespace
 
-bool ParseLogFile(LogEdit& edit, const std::string& path, const ParseSteps& steps) {
+ParseResult ParseLogFile(LogEdit& edit, const std::string& path, const ParseSteps& steps) {
     edit.LogFilterMask = BuildFilterMask(edit.chkFilters);
     if (!FileExists(path)) {
         edit.LogLines = std::make_shared<ParsedLog>();
-        ShowMessage(LogNotFoundText(path), kCritical);
-        return false;
+        return {.found = false, .failure = {}};
     }
     Result<std::shared_ptr<const ParsedLog>> log = ReadLog(path, steps.onReading, steps.onProgress);
     if (log.Failed()) {
@@ -49,8 +47,7 @@ bool ParseLogFile(LogEdit& edit, const std::string& path, const ParseSteps& step
         edit.include.Fill(edit.LogLines);
     }
     if (steps.onEnd) steps.onEnd();
-    if (log.Failed()) ShowError(log.Error());
-    return !log.Failed();
+    return {.found = true, .failure = log.Failed() ? Failure(log.Error()) : Failure()};
 }
 
 Failure ApplyLogFilter(LogEdit& edit) {

@@ -38,15 +38,22 @@ struct ParseSteps {
     // The player lists are being filled: "Populating Player List...", the bar from 0 to highest (1 at least); what
     // is to be painted is painted.
     std::function<void(size_t highest)> onPlayers;
-    // The work is over; what went wrong is told next.
+    // The work is over.
     std::function<void()> onEnd;
 };
 
-// Reads and parses a log. True: LogLines holds it, the include list its players, the exclude list and the view are
-// empty; the caller applies the filter next. False, after a message: a file that is not found or does not open leaves
-// LogLines with its one empty element but the lists as they were, on purpose; one that memory cannot hold leaves
-// everything as it was; one with too many players empties all of it.
-bool ParseLogFile(LogEdit& edit, const std::string& path, const ParseSteps& steps);
+struct ParseResult {
+    bool found = true;  // there is such a file
+    Failure failure;    // why it could not be read
+
+    bool Loaded() const { return found && !failure; }
+};
+
+// Reads and parses a log. When it is loaded LogLines holds it, the include list its players, the exclude list and the
+// view are empty; the caller applies the filter next. A file that is not found or does not open leaves LogLines with
+// its one empty element but the lists as they were, on purpose; one that memory cannot hold leaves everything as it
+// was; one with too many players empties all of it.
+ParseResult ParseLogFile(LogEdit& edit, const std::string& path, const ParseSteps& steps);
 
 // "ERROR - Could not find log file named '...'"
 std::string LogNotFoundText(const std::string& path);

@@ -1,5 +1,6 @@
 #include "mainwin/document.h"
 
+#include "mainwin/loading.h"
 #include "mainwin/menurows.h"
 #include "platform/dialogs.h"
 #include "platform/text.h"
@@ -64,7 +65,7 @@ void Document::OpenDropped(const std::string& path) {
 void Document::OpenProfile(const std::string& path) {
     // Before loading, on purpose: a later Save writes to the file that could not be loaded.
     program_.CurrentFile = path;
-    if (!LoadProfile(program_.profile, path)) {
+    if (!LoadProfileAndTell(program_.profile, path)) {
         view_.SetStatus(kLoadFailed);
         return;
     }
@@ -115,7 +116,7 @@ bool Document::mnuFile_SaveAs_Click() {
 // was current before.
 void Document::mnuFileMRU_Click(size_t index) {
     const std::string path = program_.recentFiles[index];
-    if (!LoadProfile(program_.profile, path)) {
+    if (!LoadProfileAndTell(program_.profile, path)) {
         view_.SetStatus(kLoadFailed);
         return;
     }

@@ -9,6 +9,7 @@
 #include "mainwin/appsettings.h"
 #include "mainwin/bindingtables.h"
 #include "mainwin/frmoptions.h"
+#include "mainwin/loading.h"
 #include "mainwin/menuhelp.h"
 #include "mainwin/menurows.h"
 #include "platform/dialogs.h"
@@ -16,7 +17,6 @@
 #include "platform/shell.h"
 #include "platform/text.h"
 #include "platform/version.h"
-#include "profile/profilefile.h"
 
 namespace quirn {
 
@@ -264,7 +264,7 @@ void frmMain::mnuPUTrayIcon_Fav_Click(size_t slot) {
     }
     // Played without touching what the window shows: its profile may have edits that are not saved.
     Profile profile = program_.profile;
-    if (!LoadProfile(profile, favourite.path)) return;
+    if (!LoadProfileAndTell(profile, favourite.path)) return;
     Hide();
     ShowErrors(TransferToGame(profile, program_.gameFolder).errors);
     LaunchGame(program_, profile, LaunchMode::Interactive, this);

@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "platform/clock.h"
-#include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/inifile.h"
 #include "platform/text.h"
@@ -118,27 +117,16 @@ std::string MacroFileText(const Profile& profile) {
 
 }  // namespace
 
-bool LoadProfile(Profile& profile, const std::string& fileName) {
-    if (!FileExists(fileName)) {
-        ShowMessage("ERROR - Could not find profile named '" + fileName + "'", kCritical);
-        return false;
-    }
+LoadResult LoadProfile(Profile& profile, const std::string& fileName) {
+    if (!FileExists(fileName)) return LoadResult::NotFound;
     clsIniTFiles file;
     // Without a folder the private-profile functions would look in the Windows folder.
     file.InitFileName = AbsolutePath(fileName);
     file.SectionName = "Dialog";
-    if (file.ReadEntireSection().empty()) {
-        ShowMessage("ERROR - The file '" + fileName + "' is not a valid QRN file.", kCritical);
-        return false;
-    }
+    if (file.ReadEntireSection().empty()) return LoadResult::NotValid;
 
     file.SectionName = kTitle;
-    if (Val(VersionText()) > Val(file.ReadKey("Version", "0.00"))) {
-        ShowMessage("WARNING - The file '" + fileName + "' was created with an earlier version.\r" +
-                        "It is recommended that you review the settings and re-save the file.",
-                    kExclamation);
-    }
-
+    const bool earlier = Val(VersionText()) > Val(file.ReadKey("Version", "0.00"));
     ReadSection(file, profile.Dialog, "0");
     for (size_t i = 0; i < profile.WaveFiles.size(); ++i) profile.WaveFiles[i] = file.ReadKey(kWaveKeys[i], kNotSet);
     ReadSection(file, profile.Messages, "");
@@ -148,7 +136,7 @@ bool LoadProfile(Profile& profile, const std::string& fileName) {
     ReadIgnoreList(file, profile.IgnoreList);
     profile.ignoreFileUnread = false;
     ReadSection(file, profile.HiddenOptions, "0");
-    return true;
+    return earlier ? LoadResult::LoadedFromEarlierVersion : LoadResult::Loaded;
 }
 
 Failure SaveProfile(const Profile& profile, const std::string& gameFolder, const std::string& fileName) {

@@ -9,9 +9,15 @@
 // Advanced, IgnoreList and HiddenOptions. Keys are the catalogue's names, values the profile's texts.
 namespace quirn {
 
-// Reads a file into the profile. False, after a message, when there is no such file or it is no QRN file; the profile
-// is then as before. A file of an earlier version is read after a warning. Missing keys get their defaults.
-bool LoadProfile(Profile& profile, const std::string& fileName);
+enum class LoadResult {
+    Loaded,
+    LoadedFromEarlierVersion,
+    NotFound,  // this and the next leave the profile as it was
+    NotValid,  // no QRN file: without a section Dialog
+};
+
+// Reads a file into the profile, silently. Missing keys get their defaults.
+LoadResult LoadProfile(Profile& profile, const std::string& fileName);
 
 // Writes the profile over the file (other keys in it survive) and, beside the game, the macro file
 // "<game folder>\<base name>.ssm". The file is put in place in one step when all of it is safely on the disk; on

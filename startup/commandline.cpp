@@ -2,9 +2,9 @@
 
 #include "game/launch.h"
 #include "game/transfer.h"
+#include "mainwin/loading.h"
 #include "platform/dialogs.h"
 #include "platform/text.h"
-#include "profile/profilefile.h"
 #include "profile/splitpath.h"
 
 namespace quirn {
@@ -19,7 +19,7 @@ bool LoadAndRun(Program& program, const std::string& argument) {
     const bool bareName = parts.drive.empty() && parts.folder.empty();
     // A bare name without an extension ends in a point, on purpose: it finds only a file that has none.
     const std::string file = bareName ? program.qrnFolder + "\\" + parts.File() : argument;
-    if (!LoadProfile(program.profile, file)) return false;
+    if (!LoadProfileAndTell(program.profile, file)) return false;
     ShowErrors(TransferToGame(program.profile, program.gameFolder).errors);
     // The main window is not there yet, so there is none to put away.
     return LaunchGame(program, program.profile, LaunchMode::CommandLine, nullptr) == LaunchResult::Done;

@@ -49,27 +49,5 @@ TEST(ZoneListTest, ChatNamesGetTheCommandInFront) {
     for (const auto& [typed, shown] : rows) EXPECT_EQ(NormalizeChatName(typed), shown) << typed;
 }
 
-class ZoneFileTest : public WorldTest {};
-
-TEST_F(ZoneFileTest, AsksUntilThereIsAList) {
-    constexpr char kQuestionText[] =
-        "Cannot find FAVORITE.LST, make sure the location of the subspace.exe is set correctly.";
-    PutFile(Scratch() + "\\favorite.lst", "A,z,1\n*d\n");
-    std::string folder = kNotSet;
-    int asked = 0;
-    const auto setFolder = [&] { folder = ++asked == 1 ? Scratch() + "\\wrong" : Scratch(); };
-
-    ExpectMessage(kQuestionText, 33, Answer::Cancel);
-    EXPECT_FALSE(LoadZoneList(folder, setFolder));
-    EXPECT_EQ(asked, 0);
-
-    ExpectMessage(kQuestionText, 33, Answer::Ok);
-    ExpectMessage(kQuestionText, 33, Answer::Ok);
-    const auto zones = LoadZoneList(folder, setFolder);
-    ASSERT_TRUE(zones);
-    EXPECT_EQ(Fields(*zones), "A|z|1|d\n");
-    EXPECT_EQ(asked, 2);
-}
-
 }  // namespace
 }  // namespace quirn

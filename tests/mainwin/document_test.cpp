@@ -51,7 +51,7 @@ protected:
 
     std::string PilotIn(const std::string& file) {
         Profile profile = EmptyProfile();
-        return LoadProfile(profile, file) ? profile.Dialog.Value(kPlayerName) : "no file";
+        return LoadProfile(profile, file) == LoadResult::Loaded ? profile.Dialog.Value(kPlayerName) : "no file";
     }
 
     const std::string old_ = Scratch() + "\\old.qrn";

@@ -97,7 +97,7 @@ TEST_F(FrmMainTest, RandomProfilesSurviveTheControlsAndTheFile) {
         if (round % 20 == 0) {
             ASSERT_FALSE(SaveProfile(collected, program_.gameFolder, file));
             Profile loaded = EmptyProfile();
-            ASSERT_TRUE(LoadProfile(loaded, file));
+            ASSERT_EQ(LoadProfile(loaded, file), LoadResult::Loaded);
             ExpectSame(ShownAndCollected(window, loaded), made);
         }
         if (HasFatalFailure()) return;
@@ -140,7 +140,7 @@ TEST_F(FrmMainTest, AChatNameIsSavedCompleteWhileTheCursorIsInIt) {
     Press(window, 'S', true);
     EXPECT_FALSE(program_.dirty);
     Profile saved = EmptyProfile();
-    ASSERT_TRUE(LoadProfile(saved, program_.CurrentFile));
+    ASSERT_EQ(LoadProfile(saved, program_.CurrentFile), LoadResult::Loaded);
     EXPECT_EQ(saved.Messages.Value(kChatName), "?chat=night");
     EXPECT_TRUE(window.Unload());
 }

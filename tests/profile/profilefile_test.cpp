@@ -14,16 +14,10 @@ class ProfileFileTest : public WorldTest {
 protected:
     ProfileFileTest() { MakeFolder(game_); }
 
-    void ExpectVersionWarning() {
-        ExpectMessage("WARNING - The file '" + file_ + "' was created with an earlier version.\r" +
-                          "It is recommended that you review the settings and re-save the file.",
-                      kExclamation);
-    }
-
     Profile Saved(const Profile& profile) {
         EXPECT_FALSE(SaveProfile(profile, game_, file_));
         Profile loaded = EmptyProfile();
-        EXPECT_TRUE(LoadProfile(loaded, file_));
+        EXPECT_EQ(LoadProfile(loaded, file_), LoadResult::Loaded);
         return loaded;
     }
 
@@ -34,8 +28,7 @@ protected:
 
 TEST_F(ProfileFileTest, OneKeyInDialogIsEnough) {
     PutFile(file_, "[Dialog]\r\nServerPort=5400\r\n");
-    ExpectVersionWarning();
-    EXPECT_TRUE(LoadProfile(profile_, file_));
+    EXPECT_EQ(LoadProfile(profile_, file_), LoadResult::LoadedFromEarlierVersion);
 
     Profile expected = EmptyProfile();
     for (Section* section : expected.Sections())
@@ -50,28 +43,25 @@ TEST_F(ProfileFileTest, RefusesWhatIsNoProfileAndKeepsTheOldOne) {
     const std::string hidden = Scratch() + "\\hidden.qrn";
     PutFile(hidden, "[Dialog]\r\na=1\r\n");
     SetHidden(hidden);
-    for (const std::string& path : {file_, game_, game_ + "\\", hidden, std::string()}) {
-        ExpectMessage("ERROR - Could not find profile named '" + path + "'", kCritical);
-        EXPECT_FALSE(LoadProfile(profile_, path));
-    }
+    for (const std::string& path : {file_, game_, game_ + "\\", hidden, std::string()})
+        EXPECT_EQ(LoadProfile(profile_, path), LoadResult::NotFound) << path;
     for (const char* content : {"", "[Dialog]\r\n", "[Dialogue]\r\na=1\r\n", "[QUIRN]\r\nVersion=1.61\r\n", "Dialog"}) {
         PutFile(file_, content);
-        ExpectMessage("ERROR - The file '" + file_ + "' is not a valid QRN file.", kCritical);
-        EXPECT_FALSE(LoadProfile(profile_, file_)) << content;
+        EXPECT_EQ(LoadProfile(profile_, file_), LoadResult::NotValid) << content;
     }
     ExpectSame(profile_, before);
 }
 
-TEST_F(ProfileFileTest, WarnsOfEarlierVersionsOnly) {
+TEST_F(ProfileFileTest, KnowsFilesOfEarlierVersions) {
     const struct {
         const char* version;
-        bool warned;
+        bool earlier;
     } rows[] = {{"1.7", false},  {"1.61", false}, {"1.610", false}, {"2", false}, {"1.6", true},
                 {"1.601", true}, {"", true},      {"new", true},    {"-3", true}};
     for (const auto& row : rows) {
         PutFile(file_, std::string("[Dialog]\r\na=1\r\n[QUIRN]\r\nVersion=") + row.version + "\r\n");
-        if (row.warned) ExpectVersionWarning();
-        EXPECT_TRUE(LoadProfile(profile_, file_)) << row.version;
+        EXPECT_EQ(LoadProfile(profile_, file_), row.earlier ? LoadResult::LoadedFromEarlierVersion : LoadResult::Loaded)
+            << row.version;
     }
 }
 
@@ -80,7 +70,7 @@ TEST_F(ProfileFileTest, GammaThatIsNoNumberBecomes100) {
                                    {"60", "60"}, {"5x", "5x"}, {"-1", "-1"},      {"0.5", "0.5"}};
     for (const auto& [stored, shown] : rows) {
         PutFile(file_, std::string("[Dialog]\r\na=1\r\n[QUIRN]\r\nVersion=9\r\n[Advanced]\r\nGammaPercent=") + stored);
-        EXPECT_TRUE(LoadProfile(profile_, file_));
+        EXPECT_EQ(LoadProfile(profile_, file_), LoadResult::Loaded);
         EXPECT_EQ(profile_.Advanced.Value(kGammaPercent), shown) << stored;
     }
 }
@@ -137,7 +127,7 @@ TEST_F(ProfileFileTest, AFailingMacroFileStopsBeforeHiddenOptions) {
     EXPECT_EQ(failure->number, 76);
 
     Profile loaded = EmptyProfile();
-    EXPECT_TRUE(LoadProfile(loaded, file_));
+    EXPECT_EQ(LoadProfile(loaded, file_), LoadResult::Loaded);
     EXPECT_EQ(loaded.Dialog.Value(1), "Someone else");
     EXPECT_EQ(loaded.HiddenOptions.Value(1), profile_.HiddenOptions.Value(1));
 
@@ -151,7 +141,7 @@ TEST_F(ProfileFileTest, AProfileNamedAsItsMacroFileIsWhole) {
     const std::string path = game_ + "\\ace.SSM";
     EXPECT_FALSE(SaveProfile(profile_, game_, path));
     Profile loaded = EmptyProfile();
-    EXPECT_TRUE(LoadProfile(loaded, path));
+    EXPECT_EQ(LoadProfile(loaded, path), LoadResult::Loaded);
     EXPECT_EQ(loaded.Dialog.Value(1), profile_.Dialog.Value(1));
     EXPECT_EQ(loaded.HiddenOptions.Value(1), profile_.HiddenOptions.Value(1));
 }

@@ -11,7 +11,7 @@ int main(int count, char** arguments) {
     if (count < 4) return 2;
     quirn::Profile profile;
     quirn::InitCatalogue(profile);
-    if (!quirn::LoadProfile(profile, arguments[1])) return 3;
+    if (quirn::LoadProfile(profile, arguments[1]) != quirn::LoadResult::Loaded) return 3;
     const bool again = count > 4 && std::strcmp(arguments[4], "again") == 0;
     do {
         const quirn::Failure failure = quirn::SaveProfile(profile, arguments[3], arguments[2]);
