@@ -1,7 +1,7 @@
 #pragma once
 
+#include "mainwin/program.h"
 #include "platform/form.h"
-#include "profile/program.h"
 
 namespace quirn {
 

@@ -28,9 +28,9 @@ constexpr size_t kTagPrefix = 3;
 
 }  // namespace
 
-AdvancedPage::AdvancedPage(TabStrip& strip, Program& program, Edited edited)
+AdvancedPage::AdvancedPage(TabStrip& strip, Profile& profile, Edited edited)
     : TabPage(strip, "Advanced"),
-      program_(program),
+      profile_(profile),
       edited_(std::move(edited)),
       lblGamma(*this, kGammaLabel, "Gamma Correction Percentage :"),
       txtGamma(*this, kGamma),
@@ -57,18 +57,17 @@ AdvancedPage::AdvancedPage(TabStrip& strip, Program& program, Edited edited)
 
 void AdvancedPage::Show() {
     for (CheckBox& box : chkAdvanced)
-        box.SetValue(AdvancedSetting(program_.profile, box.Tag.substr(kTagPrefix), SettingMode::CheckState));
-    txtGamma.SetText(program_.profile.Advanced.Value(kGammaPercent));
+        box.SetValue(AdvancedSetting(profile_, box.Tag.substr(kTagPrefix), SettingMode::CheckState));
+    txtGamma.SetText(profile_.Advanced.Value(kGammaPercent));
     cmdConfigCode.SetText(EncodeConfigCode(States()));
 }
 
 void AdvancedPage::Collect() {
-    Profile& profile = program_.profile;
     for (const CheckBox& box : chkAdvanced) {
-        const int setting = AdvancedSetting(profile, box.Tag.substr(kTagPrefix), SettingMode::Index);
-        profile.Advanced.Value(setting) = std::to_string(box.Value());
+        const int setting = AdvancedSetting(profile_, box.Tag.substr(kTagPrefix), SettingMode::Index);
+        profile_.Advanced.Value(setting) = std::to_string(box.Value());
     }
-    profile.Advanced.Value(kGammaPercent) = txtGamma.Text();
+    profile_.Advanced.Value(kGammaPercent) = txtGamma.Text();
 }
 
 AdvancedStates AdvancedPage::States() const {

@@ -2,14 +2,14 @@
 
 #include "game/configcode.h"
 #include "mainwin/page.h"
-#include "profile/program.h"
+#include "profile/profile.h"
 
 namespace quirn {
 
 // The page "Advanced": what is kept in system memory, and the config code that packs these switches.
 class AdvancedPage : public TabPage {
 public:
-    AdvancedPage(TabStrip& strip, Program& program, Edited edited);
+    AdvancedPage(TabStrip& strip, Profile& profile, Edited edited);
 
     void Show();
     void Collect();
@@ -22,7 +22,7 @@ private:
     void chkAdvanced_MouseUp();
     void cmdConfigCode_Click();
 
-    Program& program_;
+    Profile& profile_;
     Edited edited_;
     Label lblGamma;
     TextBox txtGamma;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "mainwin/program.h"
 #include "platform/form.h"
-#include "profile/program.h"
 
 // The program's own settings that the main window keeps from one run to the next.
 namespace quirn {

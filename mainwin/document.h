@@ -3,8 +3,8 @@
 #include <functional>
 #include <string>
 
+#include "mainwin/program.h"
 #include "platform/menu.h"
-#include "profile/program.h"
 
 namespace quirn {
 

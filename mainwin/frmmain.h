@@ -11,9 +11,9 @@
 #include "mainwin/macropage.h"
 #include "mainwin/macropicker.h"
 #include "mainwin/optionspage.h"
+#include "mainwin/program.h"
 #include "platform/form.h"
 #include "platform/tray.h"
-#include "profile/program.h"
 
 namespace quirn {
 

@@ -4,8 +4,8 @@
 #include <functional>
 #include <string>
 
+#include "mainwin/program.h"
 #include "platform/form.h"
-#include "profile/program.h"
 
 namespace quirn {
 

@@ -28,9 +28,9 @@ void CollectBox(const CheckBox& box, std::string& value) {
 
 }  // namespace
 
-HiddenPage::HiddenPage(TabStrip& strip, Program& program, Edited edited)
+HiddenPage::HiddenPage(TabStrip& strip, Profile& profile, Edited edited)
     : TabPage(strip, "Hidden"),
-      program_(program),
+      profile_(profile),
       chkShowFrameRate(*this, kShowFrameRatePlace, "Show Frame Rate (displays framerate info on game screen)"),
       chkForce60(*this, kForce60Place, "Force 60 (forces 60Hz refresh rate)"),
       chkFlickSysMem(*this, kFlickSysMemPlace, "Flick System Memory (your guess is as good as mine)"),
@@ -45,14 +45,14 @@ HiddenPage::HiddenPage(TabStrip& strip, Program& program, Edited edited)
 }
 
 void HiddenPage::Show() {
-    const Section& hidden = program_.profile.HiddenOptions;
+    const Section& hidden = profile_.HiddenOptions;
     chkForce60.SetValue(IsOn(hidden.Value(kForce60)) ? 1 : 0);
     chkShowFrameRate.SetValue(IsOn(hidden.Value(kShowFrameRate)) ? 1 : 0);
     chkFlickSysMem.SetValue(IsOn(hidden.Value(kFlickSystemMemory)) ? 1 : 0);
 }
 
 void HiddenPage::Collect() {
-    Section& hidden = program_.profile.HiddenOptions;
+    Section& hidden = profile_.HiddenOptions;
     CollectBox(chkFlickSysMem, hidden.Value(kFlickSystemMemory));
     CollectBox(chkForce60, hidden.Value(kForce60));
     CollectBox(chkShowFrameRate, hidden.Value(kShowFrameRate));

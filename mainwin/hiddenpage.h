@@ -1,20 +1,20 @@
 #pragma once
 
 #include "mainwin/page.h"
-#include "profile/program.h"
+#include "profile/profile.h"
 
 namespace quirn {
 
 // The page "Hidden": three switches that nobody should need.
 class HiddenPage : public TabPage {
 public:
-    HiddenPage(TabStrip& strip, Program& program, Edited edited);
+    HiddenPage(TabStrip& strip, Profile& profile, Edited edited);
 
     void Show();
     void Collect();
 
 private:
-    Program& program_;
+    Profile& profile_;
     CheckBox chkShowFrameRate, chkForce60, chkFlickSysMem;
     Label Label14;
 };

@@ -56,9 +56,9 @@ ControlArray<MaskedBox> MakeProxyBoxes(Parent page) {
 
 }  // namespace
 
-IdentityPage::IdentityPage(TabStrip& strip, Program& program, Edited edited)
+IdentityPage::IdentityPage(TabStrip& strip, Profile& profile, Edited edited)
     : TabPage(strip, "Identity"),
-      program_(program),
+      profile_(profile),
       edited_(std::move(edited)),
       lblPilotName(*this, kPilotNameLabel, "Pilot Name :"),
       txtPilotName(*this, kPilotName),
@@ -128,23 +128,22 @@ void IdentityPage::SetZones(std::vector<Zone> zones) {
 }
 
 void IdentityPage::Show() {
-    const Profile& profile = program_.profile;
-    txtPilotName.SetText(profile.Dialog.Value(kPlayerName));
-    txtPassword.SetText(profile.Dialog.Value(kPlayerPassword));
-    cmbShipType.SetListIndex(IndexOf(profile.Dialog.Value(kPlayerShipType)));
+    txtPilotName.SetText(profile_.Dialog.Value(kPlayerName));
+    txtPassword.SetText(profile_.Dialog.Value(kPlayerPassword));
+    cmbShipType.SetListIndex(IndexOf(profile_.Dialog.Value(kPlayerShipType)));
 
-    const int zone = FindZoneIndex(zones_, profile.Dialog.Value(kServerArena));
+    const int zone = FindZoneIndex(zones_, profile_.Dialog.Value(kServerArena));
     cmbZone.SetListIndex(zone);
     ShowZone(zone);
 
     for (size_t i = 0; i < lblWaveFileName.size(); ++i) {
-        lblWaveFileName[i].SetText(profile.WaveFiles[i]);
-        lblWaveFileName[i].SetToolTip(profile.WaveFiles[i]);
+        lblWaveFileName[i].SetText(profile_.WaveFiles[i]);
+        lblWaveFileName[i].SetToolTip(profile_.WaveFiles[i]);
     }
     // Only the width counts, on purpose: the item of the list decides both.
-    cmbResolution.SetListIndex(ResolutionIndex(profile.Options.Value(kResolutionX)));
+    cmbResolution.SetListIndex(ResolutionIndex(profile_.Options.Value(kResolutionX)));
 
-    const std::string& proxy = profile.Dialog.Value(kProxyIP);
+    const std::string& proxy = profile_.Dialog.Value(kProxyIP);
     const bool useProxy = proxy.find('.') != std::string::npos;
     const ProxyParts parts = SplitProxyAddress(proxy);
     for (size_t i = 0; i < parts.size(); ++i) {
@@ -154,27 +153,26 @@ void IdentityPage::Show() {
     chkUseProxy.SetValue(useProxy ? 1 : 0);
     EnableProxy();
 
-    txtChatName.SetText(profile.Messages.Value(kChatName));
+    txtChatName.SetText(profile_.Messages.Value(kChatName));
 }
 
 void IdentityPage::Collect() {
-    Profile& profile = program_.profile;
-    profile.Dialog.Value(kPlayerName) = txtPilotName.Text();
-    profile.Dialog.Value(kPlayerPassword) = txtPassword.Text();
+    profile_.Dialog.Value(kPlayerName) = txtPilotName.Text();
+    profile_.Dialog.Value(kPlayerPassword) = txtPassword.Text();
     // With nothing selected the profile holds a ship or a zone that the lists do not know; it keeps it.
-    std::string& ship = profile.Dialog.Value(kPlayerShipType);
+    std::string& ship = profile_.Dialog.Value(kPlayerShipType);
     ship = SelectedValue(cmbShipType.ListIndex(), ship);
     if (cmbZone.ListIndex() >= 0) {
         const Zone& zone = zones_[static_cast<size_t>(cmbZone.ListIndex())];
-        profile.Dialog.Value(kServerArena) = zone.name;
-        profile.Dialog.Value(kServerName) = zone.address;
-        profile.Dialog.Value(kServerPort) = zone.port;
+        profile_.Dialog.Value(kServerArena) = zone.name;
+        profile_.Dialog.Value(kServerName) = zone.address;
+        profile_.Dialog.Value(kServerPort) = zone.port;
     }
-    for (size_t i = 0; i < lblWaveFileName.size(); ++i) profile.WaveFiles[i] = lblWaveFileName[i].Text();
-    SplitResolution(cmbResolution.SelectedText(), profile.Options.Value(kResolutionX),
-                    profile.Options.Value(kResolutionY));
+    for (size_t i = 0; i < lblWaveFileName.size(); ++i) profile_.WaveFiles[i] = lblWaveFileName[i].Text();
+    SplitResolution(cmbResolution.SelectedText(), profile_.Options.Value(kResolutionX),
+                    profile_.Options.Value(kResolutionY));
 
-    std::string& proxy = profile.Dialog.Value(kProxyIP);
+    std::string& proxy = profile_.Dialog.Value(kProxyIP);
     if (chkUseProxy.Value() == 0) {
         proxy.clear();
     } else {
@@ -184,7 +182,7 @@ void IdentityPage::Collect() {
     }
     // Ctrl+S and the menus leave the keyboard where it is: a name that is still being typed is completed here.
     if (Owner().ActiveControl() == &txtChatName) txtChatName_LostFocus();
-    profile.Messages.Value(kChatName) = txtChatName.Text();
+    profile_.Messages.Value(kChatName) = txtChatName.Text();
 }
 
 void IdentityPage::cmbZone_Click() {
@@ -194,7 +192,7 @@ void IdentityPage::cmbZone_Click() {
 
 // Also while the player moves through the open list. Without a zone in the list the profile's own is shown.
 void IdentityPage::ShowZone(int index) {
-    const Section& dialog = program_.profile.Dialog;
+    const Section& dialog = profile_.Dialog;
     const bool listed = index >= 0 && static_cast<size_t>(index) < zones_.size();
     const Zone zone = listed ? zones_[static_cast<size_t>(index)]
                              : Zone{"", dialog.Value(kServerName), dialog.Value(kServerPort), ""};

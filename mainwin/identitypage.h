@@ -4,14 +4,14 @@
 
 #include "game/zonelist.h"
 #include "mainwin/page.h"
-#include "profile/program.h"
+#include "profile/profile.h"
 
 namespace quirn {
 
 // The page "Identity": who the player is, where he starts, how he gets there.
 class IdentityPage : public TabPage {
 public:
-    IdentityPage(TabStrip& strip, Program& program, Edited edited);
+    IdentityPage(TabStrip& strip, Profile& profile, Edited edited);
 
     // The list of the zone box. Selects nothing.
     void SetZones(std::vector<Zone> zones);
@@ -30,7 +30,7 @@ private:
     void cmdWaveBrowse_Click(size_t index);
     void cmdWavePlay_Click(size_t index);
 
-    Program& program_;
+    Profile& profile_;
     Edited edited_;
     std::vector<Zone> zones_;
 

@@ -18,9 +18,9 @@ constexpr Bounds kRemove{3960, 1530, 1440, kButtonHeight};
 
 }  // namespace
 
-IgnorePage::IgnorePage(TabStrip& strip, Program& program, Edited edited)
+IgnorePage::IgnorePage(TabStrip& strip, Profile& profile, Edited edited)
     : TabPage(strip, "Ignore List"),
-      program_(program),
+      profile_(profile),
       edited_(std::move(edited)),
       lstIgnoreList(*this, kList, ListStyle::Extended),
       Label12(*this, kHint, "Use this area to edit your IGNORE.TXT file."),
@@ -38,11 +38,11 @@ IgnorePage::IgnorePage(TabStrip& strip, Program& program, Edited edited)
 }
 
 void IgnorePage::Show() {
-    lstIgnoreList.SetItems(program_.profile.IgnoreList);
+    lstIgnoreList.SetItems(profile_.IgnoreList);
 }
 
 void IgnorePage::Collect() {
-    program_.profile.IgnoreList = lstIgnoreList.Items();
+    profile_.IgnoreList = lstIgnoreList.Items();
 }
 
 bool IgnorePage::txtIgnoreAdd_KeyPress(char key) {

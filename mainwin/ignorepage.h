@@ -1,14 +1,14 @@
 #pragma once
 
 #include "mainwin/page.h"
-#include "profile/program.h"
+#include "profile/profile.h"
 
 namespace quirn {
 
 // The page "Ignore List": the players whose chat is hidden.
 class IgnorePage : public TabPage {
 public:
-    IgnorePage(TabStrip& strip, Program& program, Edited edited);
+    IgnorePage(TabStrip& strip, Profile& profile, Edited edited);
 
     void Show();
     void Collect();
@@ -18,7 +18,7 @@ private:
     void Command1_Click();
     void Command2_Click();
 
-    Program& program_;
+    Profile& profile_;
     Edited edited_;
     ListBox lstIgnoreList;
     Label Label12;

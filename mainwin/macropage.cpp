@@ -14,9 +14,9 @@ constexpr Bounds kImport{120, 3660,  2280, kButtonHeight};
 
 }  // namespace
 
-MacroPage::MacroPage(TabStrip& strip, const char* caption, const char* keyName, Program& program, int firstMacro,
+MacroPage::MacroPage(TabStrip& strip, const char* caption, const char* keyName, Profile& profile, int firstMacro,
                      Edited edited)
-    : TabPage(strip, caption), program_(program), firstMacro_(firstMacro) {
+    : TabPage(strip, caption), profile_(profile), firstMacro_(firstMacro) {
     for (int i = 0; i < kMacrosPerSet; ++i) {
         const int down = i * kStep;
         labels_.emplace_back(*this, Bounds{kLabel.left, kLabel.top + down, kLabel.width, kLabel.height},
@@ -36,12 +36,12 @@ MacroPage::MacroPage(TabStrip& strip, const char* caption, const char* keyName, 
 
 void MacroPage::Show() {
     for (int i = 0; i < kMacrosPerSet; ++i)
-        txtMacro[static_cast<size_t>(i)].SetText(program_.profile.Messages.Value(firstMacro_ + i));
+        txtMacro[static_cast<size_t>(i)].SetText(profile_.Messages.Value(firstMacro_ + i));
 }
 
 void MacroPage::Collect() {
     for (int i = 0; i < kMacrosPerSet; ++i)
-        program_.profile.Messages.Value(firstMacro_ + i) = txtMacro[static_cast<size_t>(i)].Text();
+        profile_.Messages.Value(firstMacro_ + i) = txtMacro[static_cast<size_t>(i)].Text();
 }
 
 }  // namespace quirn

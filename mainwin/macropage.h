@@ -5,7 +5,7 @@
 #include <string>
 
 #include "mainwin/page.h"
-#include "profile/program.h"
+#include "profile/profile.h"
 
 namespace quirn {
 
@@ -16,7 +16,7 @@ inline constexpr int kMacrosPerSet = 8;
 class MacroPage : public TabPage {
 public:
     // firstMacro: the index in Messages of the page's first macro, 1 or 9. keyName stands before "F1 -" in the labels.
-    MacroPage(TabStrip& strip, const char* caption, const char* keyName, Program& program, int firstMacro,
+    MacroPage(TabStrip& strip, const char* caption, const char* keyName, Profile& profile, int firstMacro,
               Edited edited);
 
     void Show();
@@ -28,7 +28,7 @@ public:
     std::function<void()> onImport;
 
 private:
-    Program& program_;
+    Profile& profile_;
     int firstMacro_;
     ControlArray<Label> labels_;
     ControlArray<TextBox> txtMacro;

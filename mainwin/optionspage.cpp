@@ -32,9 +32,9 @@ constexpr Bounds NumberRow(Bounds place, int row) {
 
 }  // namespace
 
-OptionsPage::OptionsPage(TabStrip& strip, Program& program, Edited edited)
+OptionsPage::OptionsPage(TabStrip& strip, Profile& profile, Edited edited)
     : TabPage(strip, "Options"),
-      program_(program),
+      profile_(profile),
       lblMsgNameLen(*this, NumberRow(kNumberLabel, 0), "Message Name Length :"),
       txtMsgNameLen(*this, NumberRow(kNumber, 0)),
       lblMusicVolume(*this, NumberRow(kNumberLabel, 1), "Music Volume :"),
@@ -78,28 +78,26 @@ OptionsPage::OptionsPage(TabStrip& strip, Program& program, Edited edited)
 }
 
 void OptionsPage::Show() {
-    const Profile& profile = program_.profile;
     for (size_t i = 0; i < kOptionGroups.size(); ++i) {
-        const int setting = OptionsSetting(profile, kOptionGroups[i].setting, SettingMode::Index);
-        groups_[i]->Select(IndexOf(profile.Options.Value(setting)));
+        const int setting = OptionsSetting(profile_, kOptionGroups[i].setting, SettingMode::Index);
+        groups_[i]->Select(IndexOf(profile_.Options.Value(setting)));
     }
-    txtMsgLines.SetText(profile.Options.Value(kMessageHistorySize));
-    txtBounty.SetText(profile.Options.Value(kTargetBounty));
-    txtMusicVolume.SetText(profile.Options.Value(kMusicVolume));
-    txtMsgNameLen.SetText(profile.Options.Value(kMessageNameLen));
+    txtMsgLines.SetText(profile_.Options.Value(kMessageHistorySize));
+    txtBounty.SetText(profile_.Options.Value(kTargetBounty));
+    txtMusicVolume.SetText(profile_.Options.Value(kMusicVolume));
+    txtMsgNameLen.SetText(profile_.Options.Value(kMessageNameLen));
 }
 
 void OptionsPage::Collect() {
-    Profile& profile = program_.profile;
     for (size_t i = 0; i < kOptionGroups.size(); ++i) {
         std::string& value =
-            profile.Options.Value(OptionsSetting(profile, kOptionGroups[i].setting, SettingMode::Index));
+            profile_.Options.Value(OptionsSetting(profile_, kOptionGroups[i].setting, SettingMode::Index));
         value = SelectedValue(groups_[i]->Selected(), value);
     }
-    profile.Options.Value(kMessageHistorySize) = txtMsgLines.Text();
-    profile.Options.Value(kTargetBounty) = txtBounty.Text();
-    profile.Options.Value(kMusicVolume) = txtMusicVolume.Text();
-    profile.Options.Value(kMessageNameLen) = txtMsgNameLen.Text();
+    profile_.Options.Value(kMessageHistorySize) = txtMsgLines.Text();
+    profile_.Options.Value(kTargetBounty) = txtBounty.Text();
+    profile_.Options.Value(kMusicVolume) = txtMusicVolume.Text();
+    profile_.Options.Value(kMessageNameLen) = txtMsgNameLen.Text();
 }
 
 }  // namespace quirn

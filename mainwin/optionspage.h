@@ -1,7 +1,7 @@
 #pragma once
 
 #include "mainwin/page.h"
-#include "profile/program.h"
+#include "profile/profile.h"
 
 namespace quirn {
 
@@ -9,7 +9,7 @@ namespace quirn {
 // their tag; the main window binds them together with the two that stand on other pages.
 class OptionsPage : public TabPage {
 public:
-    OptionsPage(TabStrip& strip, Program& program, Edited edited);
+    OptionsPage(TabStrip& strip, Profile& profile, Edited edited);
 
     void Show();
     void Collect();
@@ -17,7 +17,7 @@ public:
     ControlArray<CheckBox>& Boxes() { return chkSettings; }
 
 private:
-    Program& program_;
+    Profile& profile_;
     ControlArray<Frame> Frame1;  // (0..5) the option groups, (6) Miscellaneous
     OptionGroup optWeapon, optStatus, optEnergy, optRadar, optFont, optSound;
     ControlArray<OptionButton> buttons_;

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "profile/program.h"
+#include "mainwin/program.h"
 
 namespace quirn {
 
