@@ -4,7 +4,6 @@
 #include "auxiliary/frmabout.h"
 #include "auxiliary/frmrelnotes.h"
 #include "auxiliary/opendocument.h"
-#include "game/launch.h"
 #include "game/transfer.h"
 #include "mainwin/appsettings.h"
 #include "mainwin/bindingtables.h"
@@ -152,7 +151,7 @@ bool frmMain::Form_Unload() {
     if (goOn && !IsMinimized()) WriteMainSettings(program_, Place());
     // Also when the player has stayed at the question: the icon is then gone, on purpose.
     tray_.Remove();
-    if (goOn) program_.ending = true;
+    if (goOn) launcher_.CloseRunBox();
     return goOn;
 }
 
@@ -266,8 +265,7 @@ void frmMain::mnuPUTrayIcon_Fav_Click(size_t slot) {
     Profile profile = program_.profile;
     if (!LoadProfileAndTell(profile, favourite.path)) return;
     Hide();
-    ShowErrors(TransferToGame(profile, program_.gameFolder).errors);
-    LaunchGame(program_, profile, LaunchMode::Interactive, this);
+    launcher_.TransferAndLaunch(profile, program_.gameFolder);
 }
 
 void frmMain::BuildFavouritesMenu() {
@@ -284,8 +282,7 @@ void frmMain::ShowMainWindow() {
 void frmMain::Command3_Click() {
     if (program_.dirty && !document_.AskSaveChanges()) return;
     CollectProfile();
-    ShowErrors(TransferToGame(program_.profile, program_.gameFolder).errors);
-    LaunchGame(program_, program_.profile, LaunchMode::Interactive, this);
+    if (launcher_.TransferAndLaunch(program_.profile, program_.gameFolder)) Hide();
 }
 
 void frmMain::Command4_Click() {

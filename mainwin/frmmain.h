@@ -8,6 +8,7 @@
 #include "mainwin/hiddenpage.h"
 #include "mainwin/identitypage.h"
 #include "mainwin/ignorepage.h"
+#include "mainwin/launcher.h"
 #include "mainwin/macropage.h"
 #include "mainwin/macropicker.h"
 #include "mainwin/optionspage.h"
@@ -57,6 +58,7 @@ private:
     Menu menuBar_;
     Menu mnuPUTrayIcon;
     TrayIcon tray_;
+    Launcher launcher_;
 
     TabStrip SSTab1;
     IdentityPage identityPage_;

@@ -30,7 +30,6 @@ struct Program {
     bool quiet = false;                          // start hidden in the tray
     std::string CurrentFile = kCurrentSettings;  // of the profile: a full path, or a name in "<>" when it has no file
     bool dirty = false;                          // the profile has changes that no QRN file holds
-    bool ending = false;                         // the main window has been unloaded
     RecentFiles recentFiles;                     // the most recent first; an empty text is an unused slot
     std::array<Favourite, 5> favourites;
 };

@@ -244,26 +244,6 @@ void Form::FocusNext(const Control* after) {
     else if (active_ != nullptr) active_->UserFocuses(false);
 }
 
-Timer::~Timer() {
-    if (enabled_) native::StopTimer(*this);
-}
-
-void Timer::SetInterval(int milliseconds) {
-    interval_ = milliseconds;
-    if (enabled_) native::StartTimer(*this);
-}
-
-void Timer::SetEnabled(bool enabled) {
-    if (enabled_ == enabled) return;
-    enabled_ = enabled;
-    if (enabled) native::StartTimer(*this);
-    else native::StopTimer(*this);
-}
-
-void Timer::Fire() {
-    if (enabled_) CallHandler(onTimer);
-}
-
 void CallHandler(const std::function<void()>& handler) {
     if (!handler) return;
     try {

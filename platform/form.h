@@ -7,6 +7,7 @@
 #include "platform/control.h"
 #include "platform/controls.h"
 #include "platform/menu.h"
+#include "platform/timer.h"
 
 namespace quirn {
 
@@ -140,29 +141,6 @@ private:
     bool loading_ = false;  // onLoad has not returned
     bool visible_ = false;
     bool minimized_ = false;
-};
-
-// Calls onTimer again and again while it is enabled. Starting it anew (SetEnabled(false), SetEnabled(true), or another
-// interval) starts the interval anew.
-class Timer {
-public:
-    Timer() = default;
-    ~Timer();
-    Timer(const Timer&) = delete;
-    Timer& operator=(const Timer&) = delete;
-
-    void SetInterval(int milliseconds);
-    void SetEnabled(bool enabled);
-    int Interval() const { return interval_; }
-    bool Enabled() const { return enabled_; }
-
-    std::function<void()> onTimer;
-
-    void Fire();  // for the back end
-
-private:
-    int interval_ = 0;
-    bool enabled_ = false;
 };
 
 // The first screen, and the part of a form's screen that no task bar takes. Twips.

@@ -14,9 +14,23 @@ std::string CommandLineTail();
 // False when a copy that is already running has it. Of two copies started at one moment exactly one gets true.
 bool ClaimSingleInstance();
 
-// Starts a program with no arguments, in a folder, inheriting handles and environment. False when it cannot be
-// started. The new process's handles are closed at once, on purpose: nobody waits on them.
-bool StartProgram(const std::string& program, const std::string& folder);
+// A program that this one has started. It goes on when this object's life ends.
+class Process {
+public:
+    Process() = default;
+    ~Process();
+    Process(const Process&) = delete;
+    Process& operator=(const Process&) = delete;
+
+    // Starts a program with no arguments, in a folder, inheriting handles and environment; lets go of the one before.
+    // False when it cannot be started; the one before is then kept.
+    bool Start(const std::string& program, const std::string& folder);
+
+    bool IsRunning() const;  // false: it has ended, or none was started
+
+private:
+    void* handle_ = nullptr;
+};
 
 // A top-level window of any program.
 using WindowHandle = uintptr_t;  // 0 = none

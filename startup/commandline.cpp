@@ -1,7 +1,6 @@
 #include "startup/commandline.h"
 
-#include "game/launch.h"
-#include "game/transfer.h"
+#include "mainwin/launcher.h"
 #include "mainwin/loading.h"
 #include "platform/dialogs.h"
 #include "platform/text.h"
@@ -20,9 +19,10 @@ bool LoadAndRun(Program& program, const std::string& argument) {
     // A bare name without an extension ends in a point, on purpose: it finds only a file that has none.
     const std::string file = bareName ? program.qrnFolder + "\\" + parts.File() : argument;
     if (!LoadProfileAndTell(program.profile, file)) return false;
-    ShowErrors(TransferToGame(program.profile, program.gameFolder).errors);
-    // The main window is not there yet, so there is none to put away.
-    return LaunchGame(program, program.profile, LaunchMode::CommandLine, nullptr) == LaunchResult::Done;
+    Launcher launcher;
+    if (!launcher.TransferAndLaunch(program.profile, program.gameFolder)) return false;
+    launcher.WaitForGame();
+    return true;
 }
 
 }  // namespace

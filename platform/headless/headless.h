@@ -43,6 +43,12 @@ struct TopLevelWindow {
     bool answers = true;  // false: its program hangs
 };
 
+struct StartedProgram {
+    std::string path;
+    std::string folder;
+    bool running = true;
+};
+
 struct PoppedUpMenu {
     Menu* menu;
     int defaultCommand;
@@ -64,8 +70,8 @@ struct World {
 
     std::string commandLineTail;
     bool otherCopyRuns = false;
-    bool programsFailToStart = false;                                  // for programs that exist; others never start
-    std::vector<std::pair<std::string, std::string>> startedPrograms;  // program, folder
+    bool programsFailToStart = false;  // for programs that exist; others never start
+    std::vector<StartedProgram> startedPrograms;
     std::vector<std::string> playedSounds;
     std::string clipboard;
     bool clipboardIsHeld = false;  // by another program

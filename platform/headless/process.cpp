@@ -23,10 +23,19 @@ bool ClaimSingleInstance() {
     return !TheWorld().otherCopyRuns;
 }
 
-bool StartProgram(const std::string& program, const std::string& folder) {
+Process::~Process() = default;
+
+// A handle is a program's place in the list of the started ones, from 1.
+bool Process::Start(const std::string& program, const std::string& folder) {
     if (TheWorld().programsFailToStart || headless::FindFile(program) == nullptr || !FolderExists(folder)) return false;
-    TheWorld().startedPrograms.emplace_back(program, folder);
+    TheWorld().startedPrograms.push_back({program, folder});
+    handle_ = reinterpret_cast<void*>(TheWorld().startedPrograms.size());
     return true;
+}
+
+bool Process::IsRunning() const {
+    const auto place = reinterpret_cast<size_t>(handle_);
+    return place != 0 && TheWorld().startedPrograms.at(place - 1).running;
 }
 
 bool WindowOfClassExists(const std::string& className) {

@@ -57,7 +57,11 @@ bool ClaimSingleInstance() {
     return code != ERROR_ALREADY_EXISTS && code != ERROR_ACCESS_DENIED;
 }
 
-bool StartProgram(const std::string& program, const std::string& folder) {
+Process::~Process() {
+    if (handle_ != nullptr) CloseHandle(handle_);
+}
+
+bool Process::Start(const std::string& program, const std::string& folder) {
     static_assert(sizeof(void*) != 4 || sizeof(STARTUPINFOA) == 68);
     STARTUPINFOA startup{};
     startup.cb = sizeof(startup);
@@ -66,8 +70,13 @@ bool StartProgram(const std::string& program, const std::string& folder) {
                         &started))
         return false;
     CloseHandle(started.hThread);
-    CloseHandle(started.hProcess);
+    if (handle_ != nullptr) CloseHandle(handle_);
+    handle_ = started.hProcess;
     return true;
+}
+
+bool Process::IsRunning() const {
+    return handle_ != nullptr && WaitForSingleObject(handle_, 0) == WAIT_TIMEOUT;
 }
 
 bool WindowOfClassExists(const std::string& className) {

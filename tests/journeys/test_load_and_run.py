@@ -139,10 +139,7 @@ def test_the_ways_to_name_a_profile(desk, argument):
 
 
 def test_waiting_for_the_game_costs_no_processor_and_can_be_ended(desk):
-    # A program that starts and shows no window of the game's class: the wait has no end but the player's.
-    desk.file("subspace.exe").unlink()
-    desk.machine.path("C:\\SubSpace\\subspace.exe").write_bytes(
-        desk.machine.path("C:\\windows\\system32\\notepad.exe").read_bytes())
+    desk.hang_game()  # the wait has no end but the player's
     quirn = desk.start("/LR:DUEL.QRN")
     wait_for(lambda: desk.user.processes("subspace.exe"), what="the program")
     box = quirn.window(seconds=5)

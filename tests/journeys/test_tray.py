@@ -105,6 +105,18 @@ def test_a_favourite_plays_and_an_empty_one_opens_the_options(favourites):
     assert settings[r"Favourites\Fav2Path"] == (SZ, PROFILES + "GONE.QRN"), "one that is gone stays"
 
 
+def test_exit_ends_the_program_while_a_game_without_a_window_starts(favourites):
+    desk = favourites
+    (desk.file("Profiles") / "DUEL.QRN").write_bytes((desk.file("Profiles") / "LEAGUE.QRN").read_bytes())  # no run box
+    desk.hang_game()
+    player = start(desk)
+    tray_menu(player, FAVOURITE_1)
+    wait_for(lambda: desk.user.processes("subspace.exe"), what="the program")
+    tray_menu(player, EXIT_ITEM)
+    assert player.quirn.ended(5) == 0
+    assert desk.start().main_window()
+
+
 def test_an_exit_that_is_stopped_keeps_the_window_and_not_the_icon(desk):
     player = start(desk)
     wait_for(player.tray_icons, what="the icon")

@@ -9,7 +9,10 @@ class frmRunBox : public Form {
 public:
     frmRunBox();
 
-    // True once the close timer has run out or the player has closed the box: the launch stops waiting.
+    // A launch begins: not done, and not to be closed.
+    void Begin();
+
+    // True once the close timer has run out or the player has closed the box. It need not be shown for that.
     bool RunDone() const { return runDone_; }
 
     // Lets the box go after the given time.
@@ -17,6 +20,7 @@ public:
 
 private:
     void Form_Load();
+    bool Form_Unload();
     void Timer1_Timer();
     void Timer2_Timer();
 

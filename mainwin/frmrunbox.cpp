@@ -1,4 +1,4 @@
-#include "game/frmrunbox.h"
+#include "mainwin/frmrunbox.h"
 
 #include <iterator>
 
@@ -47,10 +47,15 @@ frmRunBox::frmRunBox()
     Timer1.onTimer = [this] { Timer1_Timer(); };
     Timer2.onTimer = [this] { Timer2_Timer(); };
     onLoad = [this] { Form_Load(); };
-    onUnload = [this] { return runDone_ = true; };
+    onUnload = [this] { return Form_Unload(); };
     onKeyPress = [this](char key) {
         if (key == kKeyEscape) Unload(UnloadMode::CloseBox);
     };
+}
+
+void frmRunBox::Begin() {
+    Timer1.SetEnabled(false);
+    runDone_ = false;
 }
 
 void frmRunBox::CloseAfter(int milliseconds) {
@@ -65,9 +70,16 @@ void frmRunBox::Form_Load() {
     Timer2.SetEnabled(true);
 }
 
+bool frmRunBox::Form_Unload() {
+    Timer2.SetEnabled(false);
+    runDone_ = true;
+    return true;
+}
+
 void frmRunBox::Timer1_Timer() {
     runDone_ = true;
     Timer1.SetEnabled(false);
+    Unload();
 }
 
 void frmRunBox::Timer2_Timer() {
