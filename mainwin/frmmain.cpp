@@ -42,19 +42,18 @@ frmMain::frmMain(Program& program)
     : Form(FormBorder::Fixed, kWidth, kHeight),
       program_(program),
       edited_([this] { program_.dirty = true; }),
-      document_(program, VersionTitle(),
-                {
-                    .ShowProfile = [this] { ShowProfile(); },
-                    .CollectProfile = [this] { CollectProfile(); },
-                    .ShowMacros = [this] { ShowMacros(); },
-                    .ShowMacroPage = [this] { SSTab1.SetTab(kMacrosShiftPage); },
-                    .SetTitle = [this](const std::string& title) { SetCaption(title); },
-                    .SetStatus = [this](const std::string& text) { StatusBar1.SetText(text); },
-                    .RefreshRecentMenu = [this] { RefreshRecentMenu(menuBar_, program_.recentFiles); },
-                }),
+      fileCommands_(program, VersionTitle(),
+                    {
+                        .ShowProfile = [this] { ShowProfile(); },
+                        .CollectProfile = [this] { CollectProfile(); },
+                        .ShowMacros = [this] { ShowMacros(); },
+                        .ShowMacroPage = [this] { SSTab1.SetTab(kMacrosShiftPage); },
+                        .SetTitle = [this](const std::string& title) { SetCaption(title); },
+                        .SetStatus = [this](const std::string& text) { StatusBar1.SetText(text); },
+                        .RefreshRecentMenu = [this] { RefreshRecentMenu(menuBar_, program_.recentFiles); },
+                    }),
+      trayCommands_(*this, program, launcher_),
       menuBar_(kMainMenuRows),
-      mnuPUTrayIcon(kTrayMenuRows),
-      tray_(*this),
       SSTab1(*this, kTabs),
       identityPage_(SSTab1, program.profile, edited_),
       optionsPage_(SSTab1, program.profile, edited_),
@@ -82,16 +81,15 @@ frmMain::frmMain(Program& program)
     Command4.onClick = [this] { Command4_Click(); };
     for (MacroPage* page : {&shiftPage_, &rShiftPage_}) {
         page->onPercent = [this](TextBox& target) { picker_.Open(target); };
-        page->onImport = [this] { document_.mnuFile_Import_Click(); };
+        page->onImport = [this] { fileCommands_.mnuFile_Import_Click(); };
     }
 
     SetMenu(menuBar_, {kMainShortcuts.begin(), kMainShortcuts.end()});
     menuBar_.onCommand = [this](int command) { MenuCommand(command); };
     menuBar_.onHighlight = [this](int command) { StatusBar1.SetText(MenuHelpText(command)); };
     onSystemMenuHighlight = [this](int command) { StatusBar1.SetText(SystemMenuHelpText(command)); };
-    mnuPUTrayIcon.onHighlight = [this](int) { StatusBar1.SetText(""); };
-    mnuPUTrayIcon.onCommand = [this](int command) { TrayCommand(command); };
-    tray_.onMouse = [this](unsigned message) { Tray_Mouse(message); };
+    trayCommands_.onHighlight = [this] { StatusBar1.SetText(""); };
+    trayCommands_.onFillFavourite = [this] { ShowOptions(true); };
 
     HideRecentMenu(menuBar_);
     SSTab1.onClick = [this] { picker_.Close(); };
@@ -100,13 +98,13 @@ frmMain::frmMain(Program& program)
     onResize = [this] { CenterControls(); };
     onQueryUnload = [this](UnloadMode mode) { return Form_QueryUnload(mode); };
     onUnload = [this] { return Form_Unload(); };
-    onDropFile = [this](const std::string& path) { document_.OpenDropped(path); };
+    onDropFile = [this](const std::string& path) { fileCommands_.OpenDropped(path); };
 }
 
 void frmMain::Form_Load() {
     Move(ReadMainPlace(Place()));
     ReadLists(program_);
-    BuildFavouritesMenu();
+    trayCommands_.BuildFavouritesMenu();
     RefreshRecentMenu(menuBar_, program_.recentFiles);
     CenterControls();
     // A second copy finds the first by the start of this text.
@@ -121,7 +119,7 @@ void frmMain::Form_Load() {
     identityPage_.SetZones(std::move(*zones));
     ShowError(ReadProfileFromGame(program_.profile, program_.gameFolder));
     ShowProfile();
-    tray_.Add();
+    trayCommands_.Icon().Add();
     if (program_.quiet) Hide();
 }
 
@@ -145,12 +143,12 @@ bool frmMain::Form_QueryUnload(UnloadMode mode) {
 }
 
 bool frmMain::Form_Unload() {
-    const bool goOn =
-        (!program_.dirty || document_.AskSaveChanges()) && (!logEditor_ || logEditor_->Unload(UnloadMode::FromCode));
+    const bool goOn = (!program_.dirty || fileCommands_.AskSaveChanges()) &&
+                      (!logEditor_ || logEditor_->Unload(UnloadMode::FromCode));
     // A minimised window keeps nothing, on purpose, not even the recent files and favourites.
     if (goOn && !IsMinimized()) WriteMainSettings(program_, Place());
     // Also when the player has stayed at the question: the icon is then gone, on purpose.
-    tray_.Remove();
+    trayCommands_.Icon().Remove();
     if (goOn) launcher_.CloseRunBox();
     return goOn;
 }
@@ -187,11 +185,11 @@ void frmMain::ShowMacros() {
 
 void frmMain::MenuCommand(int command) {
     switch (command) {
-        case mnuFile_New: document_.mnuFile_New_Click(); break;
-        case mnuFile_Open: document_.mnuFile_Open_Click(); break;
-        case mnuFile_Save: document_.mnuFile_Save_Click(); break;
-        case mnuFile_SaveAs: document_.mnuFile_SaveAs_Click(); break;
-        case mnuFile_Import: document_.mnuFile_Import_Click(); break;
+        case mnuFile_New: fileCommands_.mnuFile_New_Click(); break;
+        case mnuFile_Open: fileCommands_.mnuFile_Open_Click(); break;
+        case mnuFile_Save: fileCommands_.mnuFile_Save_Click(); break;
+        case mnuFile_SaveAs: fileCommands_.mnuFile_SaveAs_Click(); break;
+        case mnuFile_Import: fileCommands_.mnuFile_Import_Click(); break;
         case mnuFile_Print: mnuFile_Print_Click(); break;
         case mnuFile_Close: mnuFile_Close_Click(); break;
         case mnuFile_Exit: mnuFile_Exit_Click(); break;
@@ -204,7 +202,7 @@ void frmMain::MenuCommand(int command) {
         case mnuHelp_About: frmAbout().ShowModal(*this); break;
         default:
             if (command >= mnuFileMRU && command < mnuFileBarMRU)
-                document_.mnuFileMRU_Click(static_cast<size_t>(command - mnuFileMRU));
+                fileCommands_.mnuFileMRU_Click(static_cast<size_t>(command - mnuFileMRU));
             break;
     }
 }
@@ -232,55 +230,13 @@ void frmMain::mnuHelp_Contents_Click() {
 }
 
 void frmMain::ShowOptions(bool favourites) {
-    frmOptions dialog(program_, [this] { BuildFavouritesMenu(); });
+    frmOptions dialog(program_, [this] { trayCommands_.BuildFavouritesMenu(); });
     if (favourites) dialog.SelectTab(frmOptions::kFavourites);
     dialog.ShowModal(*this);
 }
 
-void frmMain::Tray_Mouse(unsigned message) {
-    // The icon answers while a dialog is open too: the menu would end or play from under it.
-    if (IsBlocked()) {
-        if (message == kMouseLeftDoubleClick || message == kMouseRightDown) BringToFront();
-        return;
-    }
-    if (message == kMouseLeftDoubleClick) ShowMainWindow();
-    if (message == kMouseRightDown) PopUpMenu(mnuPUTrayIcon, mnuPUTrayIcon_Open);
-}
-
-void frmMain::TrayCommand(int command) {
-    if (command == mnuPUTrayIcon_Open) ShowMainWindow();
-    else if (command == mnuPUTrayIcon_Exit) Unload();
-    else if (command >= mnuPUTrayIcon_Fav && command < mnuPUTrayIconBarExit)
-        mnuPUTrayIcon_Fav_Click(static_cast<size_t>(command - mnuPUTrayIcon_Fav));
-}
-
-void frmMain::mnuPUTrayIcon_Fav_Click(size_t slot) {
-    const Favourite& favourite = program_.favourites[slot];
-    if (favourite.IsEmpty()) {
-        Show();
-        ShowOptions(true);
-        return;
-    }
-    // Played without touching what the window shows: its profile may have edits that are not saved.
-    Profile profile = program_.profile;
-    if (!LoadProfileAndTell(profile, favourite.path)) return;
-    Hide();
-    launcher_.TransferAndLaunch(profile, program_.gameFolder);
-}
-
-void frmMain::BuildFavouritesMenu() {
-    for (size_t i = 0; i < program_.favourites.size(); ++i)
-        mnuPUTrayIcon.SetCaption(mnuPUTrayIcon_Fav + static_cast<int>(i),
-                                 WithoutAccessKeys(program_.favourites[i].name));
-}
-
-void frmMain::ShowMainWindow() {
-    if (!Visible()) Show();
-    BringToFront();
-}
-
 void frmMain::Command3_Click() {
-    if (program_.dirty && !document_.AskSaveChanges()) return;
+    if (program_.dirty && !fileCommands_.AskSaveChanges()) return;
     CollectProfile();
     if (launcher_.TransferAndLaunch(program_.profile, program_.gameFolder)) Hide();
 }

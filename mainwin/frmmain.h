@@ -4,17 +4,16 @@
 
 #include "logedit/frmlogedit.h"
 #include "mainwin/advancedpage.h"
-#include "mainwin/document.h"
+#include "mainwin/filecommands.h"
 #include "mainwin/hiddenpage.h"
 #include "mainwin/identitypage.h"
 #include "mainwin/ignorepage.h"
-#include "mainwin/launcher.h"
 #include "mainwin/macropage.h"
 #include "mainwin/macropicker.h"
 #include "mainwin/optionspage.h"
 #include "mainwin/program.h"
+#include "mainwin/traycommands.h"
 #include "platform/form.h"
-#include "platform/tray.h"
 
 namespace quirn {
 
@@ -41,12 +40,6 @@ private:
     void mnuLog_Click();
     void mnuHelp_Contents_Click();
 
-    void Tray_Mouse(unsigned message);
-    void TrayCommand(int command);
-    void mnuPUTrayIcon_Fav_Click(size_t slot);
-    void BuildFavouritesMenu();
-    void ShowMainWindow();
-
     void Command3_Click();
     void Command4_Click();
     void ShowOptions(bool favourites);
@@ -54,11 +47,10 @@ private:
 
     Program& program_;
     Edited edited_;
-    Document document_;
-    Menu menuBar_;
-    Menu mnuPUTrayIcon;
-    TrayIcon tray_;
+    FileCommands fileCommands_;
     Launcher launcher_;
+    TrayCommands trayCommands_;
+    Menu menuBar_;
 
     TabStrip SSTab1;
     IdentityPage identityPage_;

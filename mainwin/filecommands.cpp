@@ -1,4 +1,4 @@
-#include "mainwin/document.h"
+#include "mainwin/filecommands.h"
 
 #include "mainwin/loading.h"
 #include "mainwin/menurows.h"
@@ -22,10 +22,10 @@ constexpr char kImported[] = "Macro file has been imported";
 
 }  // namespace
 
-Document::Document(Program& program, std::string baseTitle, DocumentView view)
+FileCommands::FileCommands(Program& program, std::string baseTitle, FileCommandsView view)
     : program_(program), baseTitle_(std::move(baseTitle)), view_(std::move(view)) {}
 
-bool Document::AskSaveChanges() {
+bool FileCommands::AskSaveChanges() {
     switch (ShowMessage("Save changes to " + program_.CurrentFile, kYesNoCancel + kQuestion, "Save Changes?")) {
         case Answer::Yes:
             // Always by Save As, on purpose, also when the profile has a file.
@@ -39,7 +39,7 @@ bool Document::AskSaveChanges() {
 }
 
 // With a clean profile nothing happens at all, on purpose.
-void Document::mnuFile_New_Click() {
+void FileCommands::mnuFile_New_Click() {
     if (!program_.dirty || !AskSaveChanges()) return;
     program_.CurrentFile = kUntitled;
     ShowTitle(kUntitled);
@@ -47,7 +47,7 @@ void Document::mnuFile_New_Click() {
     view_.ShowProfile();
 }
 
-void Document::mnuFile_Open_Click() {
+void FileCommands::mnuFile_Open_Click() {
     if (!MayDiscard()) return;
     const auto path = AskOpenFile({.title = "Open",
                                    .filter = kProfileFilter,
@@ -58,11 +58,11 @@ void Document::mnuFile_Open_Click() {
     if (path) OpenProfile(*path);
 }
 
-void Document::OpenDropped(const std::string& path) {
+void FileCommands::OpenDropped(const std::string& path) {
     if (MayDiscard()) OpenProfile(path);
 }
 
-void Document::OpenProfile(const std::string& path) {
+void FileCommands::OpenProfile(const std::string& path) {
     // Before loading, on purpose: a later Save writes to the file that could not be loaded.
     program_.CurrentFile = path;
     if (!LoadProfileAndTell(program_.profile, path)) {
@@ -77,7 +77,7 @@ void Document::OpenProfile(const std::string& path) {
 }
 
 // This and Save As show their own error, on purpose: the player must know before the next command runs.
-void Document::mnuFile_Save_Click() {
+void FileCommands::mnuFile_Save_Click() {
     if (IsUntitled(program_.CurrentFile)) {
         mnuFile_SaveAs_Click();
         return;
@@ -91,7 +91,7 @@ void Document::mnuFile_Save_Click() {
     program_.dirty = false;
 }
 
-bool Document::mnuFile_SaveAs_Click() {
+bool FileCommands::mnuFile_SaveAs_Click() {
     const auto path = AskSaveFile({.title = "Save As",
                                    .filter = kProfileFilter,
                                    .filterIndex = kSecondFilter,
@@ -114,7 +114,7 @@ bool Document::mnuFile_SaveAs_Click() {
 
 // Without a question, and current file and dirty flag stay, all on purpose: a Save that follows writes to the file that
 // was current before.
-void Document::mnuFileMRU_Click(size_t index) {
+void FileCommands::mnuFileMRU_Click(size_t index) {
     const std::string path = program_.recentFiles[index];
     if (!LoadProfileAndTell(program_.profile, path)) {
         view_.SetStatus(kLoadFailed);
@@ -126,7 +126,7 @@ void Document::mnuFileMRU_Click(size_t index) {
     AddToRecentFiles(path);
 }
 
-void Document::mnuFile_Import_Click() {
+void FileCommands::mnuFile_Import_Click() {
     const auto path = AskOpenFile({.title = "Import Subspace Macro File",
                                    .filter = kMacroFilter,
                                    .filterIndex = kSecondFilter,
@@ -147,12 +147,12 @@ void Document::mnuFile_Import_Click() {
     view_.SetStatus(kImported);
 }
 
-void Document::AddToRecentFiles(const std::string& path) {
+void FileCommands::AddToRecentFiles(const std::string& path) {
     AddRecentFile(program_.recentFiles, path);
     view_.RefreshRecentMenu();
 }
 
-void Document::ShowTitle(const std::string& file) {
+void FileCommands::ShowTitle(const std::string& file) {
     view_.SetTitle(DocumentTitle(baseTitle_, file));
 }
 

@@ -8,8 +8,8 @@
 
 namespace quirn {
 
-// What the document's commands need of the main window.
-struct DocumentView {
+// What the commands of the File menu need of the main window.
+struct FileCommandsView {
     std::function<void()> ShowProfile;     // profile to controls
     std::function<void()> CollectProfile;  // controls to profile
     std::function<void()> ShowMacros;      // the sixteen macros only
@@ -21,9 +21,9 @@ struct DocumentView {
 
 // The commands of the File menu on the profile as a document. All of them leave everything as it was when the player
 // cancels their dialog.
-class Document {
+class FileCommands {
 public:
-    Document(Program& program, std::string baseTitle, DocumentView view);
+    FileCommands(Program& program, std::string baseTitle, FileCommandsView view);
 
     // "Save changes to ...?" True: go on (saved, or the player does not want to); false: stop.
     bool AskSaveChanges();
@@ -44,7 +44,7 @@ private:
 
     Program& program_;
     std::string baseTitle_;
-    DocumentView view_;
+    FileCommandsView view_;
 };
 
 // The File menu without recent files, as it starts.

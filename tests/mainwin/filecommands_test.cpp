@@ -1,4 +1,4 @@
-#include "mainwin/document.h"
+#include "mainwin/filecommands.h"
 
 #include "mainwin/menurows.h"
 #include "platform/headless/dialogs.h"
@@ -15,9 +15,9 @@ using headless::ExpectSaveFile;
 constexpr char kFilter[] = "All Files (*.*)|*.*|QRN Files (*.qrn)|*.qrn|Text Files (*.txt)|*.txt";
 
 // The main window is two texts and a pilot name and a macro that the player may be typing in.
-class DocumentCommandsTest : public WorldTest {
+class FileCommandsTest : public WorldTest {
 protected:
-    DocumentCommandsTest() {
+    FileCommandsTest() {
         program_.profile = SampleProfile();
         program_.gameFolder = Scratch() + "\\game";
         program_.qrnFolder = Scratch();
@@ -31,7 +31,7 @@ protected:
         macro_ = program_.profile.Messages.Value(16);
     }
 
-    DocumentView View() {
+    FileCommandsView View() {
         return {.ShowProfile = [this] { ShowProfile(); },
                 .CollectProfile =
                     [this] {
@@ -59,23 +59,23 @@ protected:
     Program program_;
     std::string pilot_, macro_, title_ = "as before", status_, recentInMenu_;
     bool macroPageInFront_ = false;
-    Document document_{program_, "QUIRN v1.61", View()};
+    FileCommands commands_{program_, "QUIRN v1.61", View()};
 };
 
-TEST_F(DocumentCommandsTest, NewDoesNothingToACleanProfile) {
-    document_.mnuFile_New_Click();
+TEST_F(FileCommandsTest, NewDoesNothingToACleanProfile) {
+    commands_.mnuFile_New_Click();
     EXPECT_EQ(program_.CurrentFile, "<current SS settings>");
     EXPECT_EQ(title_, "as before");
     EXPECT_EQ(pilot_, "D1");
 
     program_.dirty = true;
     ExpectQuestion(Answer::Cancel);
-    document_.mnuFile_New_Click();
+    commands_.mnuFile_New_Click();
     EXPECT_TRUE(program_.dirty);
     EXPECT_EQ(pilot_, "D1");
 
     ExpectQuestion(Answer::No);
-    document_.mnuFile_New_Click();
+    commands_.mnuFile_New_Click();
     EXPECT_EQ(program_.CurrentFile, "<untitled.qrn>");
     EXPECT_EQ(title_, "QUIRN v1.61 - <untitled.qrn>");
     EXPECT_EQ(pilot_, "");
@@ -83,14 +83,14 @@ TEST_F(DocumentCommandsTest, NewDoesNothingToACleanProfile) {
     EXPECT_EQ(program_.profile.Options.Value(1), SampleProfile().Options.Value(1));
 }
 
-TEST_F(DocumentCommandsTest, OpenAsksFirstAndKeepsANameThatFailed) {
+TEST_F(FileCommandsTest, OpenAsksFirstAndKeepsANameThatFailed) {
     program_.dirty = true;
     ExpectQuestion(Answer::Cancel);
-    document_.mnuFile_Open_Click();
+    commands_.mnuFile_Open_Click();
 
     program_.dirty = false;
     ExpectOpenFile("Open", std::nullopt);
-    document_.mnuFile_Open_Click();
+    commands_.mnuFile_Open_Click();
     EXPECT_EQ(headless::LastFileDialog().filter, kFilter);
     EXPECT_EQ(headless::LastFileDialog().filterIndex, 2);
     EXPECT_EQ(headless::LastFileDialog().folder, Scratch());
@@ -100,7 +100,7 @@ TEST_F(DocumentCommandsTest, OpenAsksFirstAndKeepsANameThatFailed) {
     EXPECT_EQ(status_, "");
 
     ExpectOpenFile("Open", old_);
-    document_.mnuFile_Open_Click();
+    commands_.mnuFile_Open_Click();
     EXPECT_EQ(program_.CurrentFile, old_);
     EXPECT_EQ(title_, "QUIRN v1.61 - old.qrn");
     EXPECT_EQ(status_, "File has been loaded");
@@ -109,7 +109,7 @@ TEST_F(DocumentCommandsTest, OpenAsksFirstAndKeepsANameThatFailed) {
 
     ExpectOpenFile("Open", new_);
     ExpectMessage("ERROR - Could not find profile named '" + new_ + "'", kCritical);
-    document_.mnuFile_Open_Click();
+    commands_.mnuFile_Open_Click();
     EXPECT_EQ(program_.CurrentFile, new_);
     EXPECT_EQ(title_, "QUIRN v1.61 - old.qrn");
     EXPECT_EQ(status_, "ERROR loading file");
@@ -117,14 +117,14 @@ TEST_F(DocumentCommandsTest, OpenAsksFirstAndKeepsANameThatFailed) {
 
     program_.dirty = true;
     ExpectQuestion(Answer::No);
-    document_.OpenDropped(old_);
+    commands_.OpenDropped(old_);
     EXPECT_EQ(program_.CurrentFile, old_);
     EXPECT_FALSE(program_.dirty);
 }
 
-TEST_F(DocumentCommandsTest, SaveAsTakesNameTitleAndPlaceInTheList) {
+TEST_F(FileCommandsTest, SaveAsTakesNameTitleAndPlaceInTheList) {
     ExpectSaveFile("Save As", std::nullopt);
-    document_.mnuFile_Save_Click();  // untitled
+    commands_.mnuFile_Save_Click();  // untitled
     EXPECT_EQ(headless::LastFileDialog().filter, kFilter);
     EXPECT_EQ(headless::LastFileDialog().filterIndex, 2);
     EXPECT_EQ(headless::LastFileDialog().folder, Scratch());
@@ -135,7 +135,7 @@ TEST_F(DocumentCommandsTest, SaveAsTakesNameTitleAndPlaceInTheList) {
     program_.dirty = true;
     pilot_ = "Typed";
     ExpectSaveFile("Save As", new_);
-    EXPECT_TRUE(document_.mnuFile_SaveAs_Click());
+    EXPECT_TRUE(commands_.mnuFile_SaveAs_Click());
     EXPECT_EQ(program_.CurrentFile, new_);
     EXPECT_EQ(title_, "QUIRN v1.61 - my.best.qrn");
     EXPECT_EQ(status_, "File has been saved");
@@ -147,21 +147,21 @@ TEST_F(DocumentCommandsTest, SaveAsTakesNameTitleAndPlaceInTheList) {
     program_.dirty = true;
     ExpectQuestion(Answer::Yes);
     ExpectSaveFile("Save As", std::nullopt);
-    EXPECT_FALSE(document_.AskSaveChanges());
+    EXPECT_FALSE(commands_.AskSaveChanges());
     EXPECT_EQ(headless::LastFileDialog().fileName, "my.best.qrn");
     EXPECT_TRUE(program_.dirty);
     ExpectQuestion(Answer::Yes);
     ExpectSaveFile("Save As", old_);
-    EXPECT_TRUE(document_.AskSaveChanges());
+    EXPECT_TRUE(commands_.AskSaveChanges());
     EXPECT_FALSE(program_.dirty);
     EXPECT_EQ(PilotIn(old_), "Typed");
 }
 
-TEST_F(DocumentCommandsTest, SaveWritesTheCurrentFileAndNothingElse) {
+TEST_F(FileCommandsTest, SaveWritesTheCurrentFileAndNothingElse) {
     program_.CurrentFile = old_;
     program_.dirty = true;
     pilot_ = "Typed";
-    document_.mnuFile_Save_Click();
+    commands_.mnuFile_Save_Click();
     EXPECT_EQ(PilotIn(old_), "Typed");
     EXPECT_EQ(status_, "File has been saved");
     EXPECT_FALSE(program_.dirty);
@@ -169,29 +169,29 @@ TEST_F(DocumentCommandsTest, SaveWritesTheCurrentFileAndNothingElse) {
     EXPECT_EQ(program_.recentFiles[0], "");
 }
 
-TEST_F(DocumentCommandsTest, ASaveThatFailsIsShownAndLeavesTheChangesUnsaved) {
+TEST_F(FileCommandsTest, ASaveThatFailsIsShownAndLeavesTheChangesUnsaved) {
     program_.CurrentFile = old_;
     program_.dirty = true;
     SetReadOnly(old_);
     ExpectError(75, "Path/File access error");
-    document_.mnuFile_Save_Click();
+    commands_.mnuFile_Save_Click();
     ExpectSaveFile("Save As", old_);
     ExpectError(75, "Path/File access error");
-    EXPECT_FALSE(document_.mnuFile_SaveAs_Click());
+    EXPECT_FALSE(commands_.mnuFile_SaveAs_Click());
     EXPECT_TRUE(program_.dirty);
     EXPECT_EQ(status_, "");
     EXPECT_EQ(program_.recentFiles[0], "");
     ExpectQuestion(Answer::Yes);
     ExpectSaveFile("Save As", Scratch() + "\\no folder\\a.qrn");
     ExpectError(76, "Path not found");
-    EXPECT_FALSE(document_.AskSaveChanges());
+    EXPECT_FALSE(commands_.AskSaveChanges());
 }
 
-TEST_F(DocumentCommandsTest, ARecentFileLoadsWithoutAskingAndKeepsTheCurrentName) {
+TEST_F(FileCommandsTest, ARecentFileLoadsWithoutAskingAndKeepsTheCurrentName) {
     program_.recentFiles = {new_, old_, "", "", ""};
     program_.CurrentFile = new_;
     program_.dirty = true;
-    document_.mnuFileMRU_Click(1);
+    commands_.mnuFileMRU_Click(1);
     EXPECT_EQ(pilot_, "Old");
     EXPECT_EQ(title_, "QUIRN v1.61 - old.qrn");
     EXPECT_EQ(status_, "File has been loaded");
@@ -200,18 +200,18 @@ TEST_F(DocumentCommandsTest, ARecentFileLoadsWithoutAskingAndKeepsTheCurrentName
     EXPECT_TRUE(program_.dirty);
 
     ExpectMessage("ERROR - Could not find profile named '" + new_ + "'", kCritical);
-    document_.mnuFileMRU_Click(1);
+    commands_.mnuFileMRU_Click(1);
     EXPECT_EQ(status_, "ERROR loading file");
     EXPECT_EQ(program_.recentFiles[1], new_);
     EXPECT_EQ(title_, "QUIRN v1.61 - old.qrn");
 }
 
-TEST_F(DocumentCommandsTest, ImportKeepsWhatWasTypedInOtherMacros) {
+TEST_F(FileCommandsTest, ImportKeepsWhatWasTypedInOtherMacros) {
     const std::string macros = Scratch() + "\\duel.ssm";
     PutFile(macros, "one\r\ntwo\r\n");
     macro_ = "typed";
     ExpectOpenFile("Import Subspace Macro File", macros);
-    document_.mnuFile_Import_Click();
+    commands_.mnuFile_Import_Click();
     EXPECT_EQ(headless::LastFileDialog().filter,
               "All Files (*.*)|*.*|Subspace Macro Files (*.ssm)|*.ssm|Text Files (*.txt)|*.txt");
     EXPECT_EQ(headless::LastFileDialog().filterIndex, 2);
@@ -226,17 +226,17 @@ TEST_F(DocumentCommandsTest, ImportKeepsWhatWasTypedInOtherMacros) {
     program_.dirty = false;
     status_.clear();
     ExpectOpenFile("Import Subspace Macro File", macros);
-    document_.mnuFile_Import_Click();  // the same again
+    commands_.mnuFile_Import_Click();  // the same again
     EXPECT_FALSE(program_.dirty);
     EXPECT_EQ(status_, "Macro file has been imported");
 
     status_.clear();
     ExpectOpenFile("Import Subspace Macro File", Scratch() + "\\gone.ssm");
     ExpectError(53, "File not found");
-    document_.mnuFile_Import_Click();
+    commands_.mnuFile_Import_Click();
     EXPECT_EQ(status_, "");
     ExpectOpenFile("Import Subspace Macro File", std::nullopt);
-    document_.mnuFile_Import_Click();
+    commands_.mnuFile_Import_Click();
     EXPECT_EQ(status_, "");
 }
 

@@ -1,0 +1,58 @@
+#include "mainwin/traycommands.h"
+
+#include "mainwin/loading.h"
+#include "mainwin/menurows.h"
+#include "platform/text.h"
+
+namespace quirn {
+
+TrayCommands::TrayCommands(Form& mainWindow, const Program& program, Launcher& launcher)
+    : mainWindow_(mainWindow), program_(program), launcher_(launcher), mnuPUTrayIcon(kTrayMenuRows), tray_(mainWindow) {
+    mnuPUTrayIcon.onHighlight = [this](int) { onHighlight(); };
+    mnuPUTrayIcon.onCommand = [this](int command) { MenuCommand(command); };
+    tray_.onMouse = [this](unsigned message) { Tray_Mouse(message); };
+}
+
+void TrayCommands::BuildFavouritesMenu() {
+    for (size_t i = 0; i < program_.favourites.size(); ++i)
+        mnuPUTrayIcon.SetCaption(mnuPUTrayIcon_Fav + static_cast<int>(i),
+                                 WithoutAccessKeys(program_.favourites[i].name));
+}
+
+void TrayCommands::Tray_Mouse(unsigned message) {
+    // The icon answers while a dialog is open too: the menu would end or play from under it.
+    if (mainWindow_.IsBlocked()) {
+        if (message == kMouseLeftDoubleClick || message == kMouseRightDown) mainWindow_.BringToFront();
+        return;
+    }
+    if (message == kMouseLeftDoubleClick) mnuPUTrayIcon_Open_Click();
+    if (message == kMouseRightDown) mainWindow_.PopUpMenu(mnuPUTrayIcon, mnuPUTrayIcon_Open);
+}
+
+void TrayCommands::MenuCommand(int command) {
+    if (command == mnuPUTrayIcon_Open) mnuPUTrayIcon_Open_Click();
+    else if (command == mnuPUTrayIcon_Exit) mainWindow_.Unload();
+    else if (command >= mnuPUTrayIcon_Fav && command < mnuPUTrayIconBarExit)
+        mnuPUTrayIcon_Fav_Click(static_cast<size_t>(command - mnuPUTrayIcon_Fav));
+}
+
+void TrayCommands::mnuPUTrayIcon_Open_Click() {
+    if (!mainWindow_.Visible()) mainWindow_.Show();
+    mainWindow_.BringToFront();
+}
+
+void TrayCommands::mnuPUTrayIcon_Fav_Click(size_t slot) {
+    const Favourite& favourite = program_.favourites[slot];
+    if (favourite.IsEmpty()) {
+        mainWindow_.Show();
+        onFillFavourite();
+        return;
+    }
+    // Played without touching what the window shows: its profile may have edits that are not saved.
+    Profile profile = program_.profile;
+    if (!LoadProfileAndTell(profile, favourite.path)) return;
+    mainWindow_.Hide();
+    launcher_.TransferAndLaunch(profile, program_.gameFolder);
+}
+
+}  // namespace quirn

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <functional>
+
+#include "mainwin/launcher.h"
+#include "mainwin/program.h"
+#include "platform/menu.h"
+#include "platform/tray.h"
+
+namespace quirn {
+
+// The icon in the tray and the commands of its menu: the main window, the five favourites, the end of the program.
+class TrayCommands {
+public:
+    TrayCommands(Form& mainWindow, const Program& program, Launcher& launcher);
+
+    TrayIcon& Icon() { return tray_; }
+
+    // Gives the favourites' items their names.
+    void BuildFavouritesMenu();
+
+    std::function<void()> onHighlight;      // the player moves over the menu
+    std::function<void()> onFillFavourite;  // he has chosen an empty favourite; the main window is shown
+
+private:
+    void Tray_Mouse(unsigned message);
+    void MenuCommand(int command);
+    void mnuPUTrayIcon_Open_Click();
+    void mnuPUTrayIcon_Fav_Click(size_t slot);
+
+    Form& mainWindow_;
+    const Program& program_;
+    Launcher& launcher_;
+    Menu mnuPUTrayIcon;
+    TrayIcon tray_;
+};
+
+}  // namespace quirn
