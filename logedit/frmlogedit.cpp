@@ -290,7 +290,7 @@ void frmLogEdit::OpenLog(const std::string& path) {
         .onEnd = [&] { progress_.Hide(); },
     };
     const ParseResult result = ParseLogFile(edit_, path, steps);
-    if (!result.found) ShowMessage(LogNotFoundText(path), kCritical);
+    if (!result.found) ShowMessage("ERROR - Could not find log file named '" + path + "'", kCritical);
     ShowError(result.failure);
     // Without a file, or with one that cannot be opened, the lists stay as they are.
     if (begun) {

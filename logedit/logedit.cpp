@@ -12,10 +12,6 @@ void LogEdit::Forget() {
     lastSearch.clear();
 }
 
-std::string LogNotFoundText(const std::string& path) {
-    return "ERROR - Could not find log file named '" + path + "'";
-}
-
 namespace {
 
 // What a file that could not be read leaves.

@@ -55,9 +55,6 @@ struct ParseResult {
 // was; one with too many players empties all of it.
 ParseResult ParseLogFile(LogEdit& edit, const std::string& path, const ParseSteps& steps);
 
-// "ERROR - Could not find log file named '...'"
-std::string LogNotFoundText(const std::string& path);
-
 // Rebuilds the view from LogLines, the mask and the lists. When memory runs out the view stays as it was.
 Failure ApplyLogFilter(LogEdit& edit);
 

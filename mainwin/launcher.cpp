@@ -41,7 +41,7 @@ bool Launcher::LaunchGame(const Profile& profile, const std::string& gameFolder)
 }
 
 void Launcher::WaitForGame() {
-    while (!runBox_.RunDone()) WaitForEvents(kGraceTime);
+    while (!runBox_.RunDone()) WaitForEvents(kGraceTime);  // each timer of the two ends a wait
 }
 
 }  // namespace quirn
