@@ -41,13 +41,16 @@ TEST_F(AuxiliaryTest, TheQuoteChangesByItselfAndAClickStartsTheTimeAnew) {
     EXPECT_EQ(quote.Text(), last);
 }
 
-TEST_F(AuxiliaryTest, TheSoundComesWithOneQuoteOnly) {
+TEST_F(AuxiliaryTest, ClicksGoThroughAllQuotesAndTheSoundComesWithOne) {
     frmAbout form;
     form.Show();
     Label& quote = LabelOf(form, "A profile is a promise");
     for (size_t i = 1; i < 2 * kQuotes.size(); ++i) {
         TheWorld().playedSounds.clear();
-        Click(quote);
+        if (i % 2 == 0) Click(quote);
+        else Click(ControlOf<Picture>(form, ControlKind::Picture, "", 1));
+        const std::string start = kQuotes[i % kQuotes.size()];
+        EXPECT_EQ(quote.Text().substr(0, 6), start.substr(0, 6));
         const bool now = i % kQuotes.size() == 32;
         EXPECT_EQ(TheWorld().playedSounds,
                   now ? std::vector<std::string>{"C:\\Program\\thwfih.dll"} : std::vector<std::string>{})

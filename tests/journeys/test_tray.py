@@ -4,10 +4,11 @@ import time
 import pytest
 
 from catalogue import SZ
-from conftest import OWN_KEY, TITLE, WM_CLOSE
+from conftest import OWN_KEY, WM_CLOSE
 from machine import wait_for
 from player import CLOSE, EXIT, Player, start
 from test_messages import NOT_FOUND, PROFILES
+from test_startup import hidden_window
 
 MENU = "#32768"
 
@@ -27,9 +28,7 @@ def favourites(desk):
 
 def hidden_player(desk, *arguments):
     quirn = desk.start(*arguments)
-    window = wait_for(lambda: [w for w in desk.user.ask("windows", "all")["windows"]
-                               if w["pid"] == quirn.pid and TITLE in w["caption"]], what="the hidden main window")[0]
-    return Player(quirn, window["handle"])
+    return Player(quirn, hidden_window(quirn)["handle"])
 
 
 def tray_menu(player, number):
@@ -80,7 +79,7 @@ def test_a_favourite_plays_and_an_empty_one_opens_the_options(favourites):
     desk = favourites
     player = start(desk)
     tray_menu(player, FAVOURITE_2)
-    player.quirn.expect(NOT_FOUND.format(PROFILES + "GONE.QRN"), "critical")
+    player.quirn.expect(NOT_FOUND.format(PROFILES + "GONE.QRN"))
     assert player.visible()
 
     tray_menu(player, FAVOURITE_1)
@@ -122,25 +121,13 @@ def test_an_exit_that_is_stopped_keeps_the_window_and_not_the_icon(desk):
     wait_for(player.tray_icons, what="the icon")
     player.replace(player.beside("Pilot Name :"), "Unsaved")
     player.quirn.choose(EXIT)
-    player.quirn.expect("Save changes to <current SS settings>", "question", caption="Save Changes?", button="Cancel")
+    player.quirn.expect("Save changes to <current SS settings>", caption="Save Changes?", button="Cancel")
     wait_for(lambda: not player.tray_icons(), what="the icon's end")
     assert player.visible() and player.quirn.process.poll() is None
     assert r"Settings\MainLeft" not in desk.own_settings()
     player.quirn.choose(EXIT)
-    player.quirn.expect("Save changes to <current SS settings>", "question", caption="Save Changes?", button="No")
+    player.quirn.expect("Save changes to <current SS settings>", caption="Save Changes?", button="No")
     assert player.quirn.ended() == 0
-
-
-def test_a_minimised_exit_writes_nothing(desk):
-    player = start(desk)
-    player.open(PROFILES + "DUEL.QRN")
-    player.expect_status("File has been loaded")
-    before = desk.own_settings()
-    desk.user.ask("minimise", player.handle)
-    wait_for(lambda: player.window()["minimised"], what="the small window")
-    player.quirn.choose(EXIT)
-    assert player.quirn.ended() == 0
-    assert desk.own_settings() == before
 
 
 def test_a_second_copy_shows_a_window_that_never_was(desk):

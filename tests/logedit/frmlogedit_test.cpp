@@ -3,7 +3,6 @@
 #include <string>
 #include <vector>
 
-#include "logedit/logmenuhelp.h"
 #include "logedit/logmenurows.h"
 #include "platform/headless/dialogs.h"
 #include "platform/settings.h"
@@ -81,6 +80,8 @@ TEST_F(LogEditTest, OpeningFiltersAndMovingPlayers) {
     EXPECT_EQ(form_->Caption(), kTitleText + " - monday.log");
     EXPECT_EQ(ShownText(Status()), "Log file has been loaded");
     EXPECT_EQ(ShownSecondText(Status()), "Log Lines = 5");
+    PointAt(*form_, MenuPart::Item, mnuOptions_LineNums);
+    EXPECT_EQ(ShownText(Status()), "Display line numbers on log list");
     EXPECT_EQ(Shown(Log()), (Lines{"  Bo> one", "P Cy> two", "T Ann> three", "  Welcome", "  Cy> four BO"}));
     EXPECT_EQ(Shown(List("Include")), (Lines{"Ann", "Bo", "Cy", "Dee"}));
     EXPECT_EQ(List("Include").itemData(2), 2);
@@ -186,20 +187,6 @@ TEST_F(LogEditTest, SavesWhatIsShownAndOpensItAgain) {
     EXPECT_EQ(edit_.LogMRU[0], path_) << "a file that was not written is no recent file";
 }
 
-TEST_F(LogEditTest, AFileThatIsNotThereLeavesTheLists) {
-    Open(path_);
-    const std::string gone = Scratch() + "\\gone.log";
-    ExpectMessage("ERROR - Could not find log file named '" + gone + "'", kCritical);
-    form_->onDropFile(gone);
-    EXPECT_EQ(ShownText(Status()), "ERROR loading log file");
-    EXPECT_EQ(form_->Caption(), kTitleText + " - monday.log");
-    EXPECT_EQ(Log().Count(), 5u);
-    EXPECT_EQ(Shown(Log())[4], "  Cy> four BO");
-    EXPECT_EQ(List("Include").Count(), 4u);
-    Press("Apply Filter");
-    EXPECT_EQ(Shown(Log()), Lines{""}) << "the lines are gone but for the first, empty one";
-}
-
 TEST_F(LogEditTest, TheSearchGoesDownAndSaysWhenItCannotMove) {
     std::string log;
     for (int i = 0; i < 300; ++i) log += i % 100 == 50 ? "  Bob> stop\r\n" : "  Ann> go on\r\n";
@@ -293,16 +280,6 @@ TEST_F(LogEditTest, TheControlsFollowTheWindow) {
         EXPECT_GT(box.top, include.Place().top);
         EXPECT_LT(box.Bottom(), block);
     }
-}
-
-TEST_F(LogEditTest, MenusHelpInTheFirstPanel) {
-    PointAt(*form_, MenuPart::Item, mnuOptions_LineNums);
-    EXPECT_EQ(ShownText(Status()), "Display line numbers on log list");
-    PointAt(*form_, MenuPart::Nothing, 0);
-    EXPECT_EQ(ShownText(Status()), "");
-    EXPECT_EQ(LogMenuHelpText(mnuInExPopup_Invert), "Invert all selected (highlighted) items in this list");
-    EXPECT_EQ(LogMenuHelpText(mnuFileMRU), "");
-    EXPECT_EQ(LogSystemMenuHelpText(0xF060), "Close this window");
 }
 
 TEST_F(LogEditTest, TheFindDialogSearchesWithEnterAndStaysOnScreen) {

@@ -228,16 +228,6 @@ TEST_F(LogViewTest, SavesWhatIsShownAndReadsItAgain) {
     }
 }
 
-TEST_F(LogViewTest, AFailedSaveLeavesTheOldFile) {
-    Open(kFour);
-    test::PutFile(In("old.log"), "old");
-    SetReadOnly(In("old.log"));
-    EXPECT_EQ(SaveFilteredLog(view, In("old.log"))->number, 75);
-    EXPECT_EQ(SaveFilteredLog(view, In("nowhere\\old.log"))->number, 76);
-    EXPECT_EQ(FileBytes(In("old.log")), "old");
-    EXPECT_EQ(FileBytes(In("old.log") + ".quirn-unfinished"), std::nullopt);
-}
-
 TEST(LogMRU, KeepsTheLastFive) {
     RecentFiles list{"a", "b", "c", "d", "e"};
     AddToLogMRU(list, "C");

@@ -2,7 +2,9 @@
 #include "mainwin/menurows.h"
 #include "platform/headless/headless.h"
 #include "platform/settings.h"
+#include "tests/auxiliary/controlsof.h"
 #include "tests/testing/profiles.h"
+#include "tests/testing/userinput.h"
 
 namespace quirn {
 namespace {
@@ -12,7 +14,7 @@ using headless::TheWorld;
 
 class MenuTextsTest : public WorldTest {};
 
-TEST_F(MenuTextsTest, NamesShowTheirAmpersands) {
+TEST_F(MenuTextsTest, NamesShowTheirAmpersandsAndItemsTheirHelp) {
     PutFile(Scratch() + "\\favorite.lst", "Alpha Reach,a.example,5000\r\n-First\r\n");
     SaveSetting("MRUList", "MRU0", "C:\\R&D.QRN");
     SaveSetting("Favourites", "Fav1Name", "Tom & Jerry");
@@ -22,6 +24,8 @@ TEST_F(MenuTextsTest, NamesShowTheirAmpersands) {
     frmMain window(program);
     window.Load();
     EXPECT_EQ(window.MenuBar()->At(mnuFileMRU).caption, "&1 C:\\R&&D.QRN");
+    PointAt(window, MenuPart::Item, mnuFile_Import);
+    EXPECT_EQ(ControlOf<StatusBar>(window, ControlKind::StatusBar, "").Text(), "Import a SubSpace macro or text file");
     TheWorld().trayIcons.back()->UserPoints(kMouseRightDown);
     EXPECT_EQ(TheWorld().poppedUpMenus.back().menu->At(mnuPUTrayIcon_Fav).caption, "Tom && Jerry");
     window.Unload();

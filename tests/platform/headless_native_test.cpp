@@ -27,9 +27,6 @@ TEST_F(MemoryTest, FullDiskLeavesTheOldFileWhole) {
     EXPECT_EQ(FileBytes(file_), "old content");
     EXPECT_FALSE(FileBytes(unfinished_));
     EXPECT_EQ(TheWorld().diskRoom, 10u);
-
-    EXPECT_FALSE(WriteWholeFile(file_, "ten bytes."));
-    EXPECT_EQ(TheWorld().diskRoom, 11u);
 }
 
 TEST_F(MemoryTest, IniFunctionsReportSuccessAndCutTheFile) {

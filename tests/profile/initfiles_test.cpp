@@ -33,17 +33,8 @@ TEST_F(InitFilesTest, ReadsWhatItWroteUpToItsBuffers) {
     EXPECT_EQ(file.ReadKey("LONG", ""), std::string(254, 'x'));
     EXPECT_EQ(file.ReadKey("absent", "as given"), "as given");
 
-    file.SectionName = "Two";
-    std::string entries;
-    for (int i = 0; i < 600; ++i) entries += "key" + std::to_string(1000 + i) + "=1" + '\0';
-    EXPECT_TRUE(file.WriteEntireSection(entries + '\0'));
-    EXPECT_EQ(file.ReadEntireSection(), entries.substr(0, 4094));
-    file.SectionName = "Three";
-    EXPECT_EQ(file.ReadEntireSection(), "");
-
     file.InitFileName = Scratch() + "\\no folder\\test.ini";
     EXPECT_EQ(file.WriteKey("key", "value"), "True");
-    EXPECT_FALSE(file.WriteEntireSection(entries + '\0'));
 }
 
 }  // namespace

@@ -79,7 +79,7 @@ Words SplitLine(const std::string& line) {
 int main() {
     using namespace user;
     Commands commands;
-    for (Commands part : {LookingCommands(), BoxCommands(), ActingCommands(), FileCommands()}) commands.merge(part);
+    for (Commands part : {LookingCommands(), ActingCommands(), FileCommands()}) commands.merge(part);
     std::string line;
     for (int c = std::getchar(); c != EOF; c = std::getchar()) {
         line += static_cast<char>(c);

@@ -15,7 +15,6 @@ using Commands = std::map<std::string, std::string (*)(const Words&)>;
 
 // The commands by their subjects, with their words; an answer with "error" means that it could not be done.
 Commands LookingCommands();
-Commands BoxCommands();
 Commands ActingCommands();
 Commands FileCommands();
 

@@ -21,11 +21,6 @@ std::string Press(const Words& words) {
     return Error("no such button");
 }
 
-std::string Type(const Words& words) {
-    for (const char c : Word(words, 2)) PostMessageA(Window(words), WM_CHAR, static_cast<unsigned char>(c), 1);
-    return Done();
-}
-
 std::string Post(const Words& words) {
     const BOOL posted = PostMessageA(Window(words), static_cast<UINT>(Number(words, 2)),
                                      static_cast<WPARAM>(Number(words, 3)), static_cast<LPARAM>(Number(words, 4)));
@@ -98,7 +93,6 @@ std::string Minimise(const Words& words) {
 Commands ActingCommands() {
     return {
         {"press", Press},          // WINDOW BUTTON
-        {"type", Type},            // WINDOW TEXT
         {"post", Post},            // WINDOW MESSAGE WPARAM LPARAM
         {"send", Send},            // the same, waiting for the result
         {"minimise", Minimise},    // WINDOW

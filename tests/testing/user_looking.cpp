@@ -106,6 +106,20 @@ std::string Controls(const Words& words) {
     return Done(Member("controls", List(rows)));
 }
 
+bool IsIcon(HWND control) {
+    return ClassOf(control) == "Static" && (GetWindowLongA(control, GWL_STYLE) & SS_TYPEMASK) == SS_ICON;
+}
+
+std::string Message(const Words& words) {
+    const HWND box = Window(words);
+    std::string text;
+    for (HWND child : Children(box)) {
+        const std::string type = ClassOf(child);
+        if (IsWindowVisible(child) && (type == "Static" || type == "Edit") && !IsIcon(child)) text += TextOf(child);
+    }
+    return Done(Member("caption", Quoted(TextOf(box))) + "," + Member("text", Quoted(text)));
+}
+
 // items WINDOW: the texts of a list box or drop-down list, and which of them is selected.
 std::string Items(const Words& words) {
     const HWND list = Window(words);
@@ -158,6 +172,7 @@ Commands LookingCommands() {
         {"windows", Windows},    // [all]: top-level windows, topmost first; visible ones only without "all"
         {"wait", Wait},          // CLASS CAPTION PROCESS MILLISECONDS
         {"controls", Controls},  // WINDOW: its children, all levels
+        {"message", Message},    // WINDOW: a message box's caption and text
         {"items", Items},        // WINDOW
         {"panel", Panel},        // STATUSBAR NUMBER
         {"focus", Focus},        // WINDOW: of its process
