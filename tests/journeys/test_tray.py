@@ -11,6 +11,7 @@ from test_messages import NOT_FOUND, PROFILES
 from test_startup import hidden_window
 
 MENU = "#32768"
+ICON = 100
 
 
 @pytest.fixture
@@ -73,6 +74,17 @@ def test_hidden_and_shown_again(desk):
         wait_for(lambda: desk.user.ask("foreground")["handle"] == player.handle, what="the window in front")
     assert player.beside("Pilot Name :")["caption"] == "Unsaved"
     assert len(player.tray_icons()) == 1
+
+
+def test_the_icon_comes_back_when_the_shell_starts_anew(desk):
+    player = hidden_player(desk, "/Q")
+    wait_for(player.tray_icons, what="the icon")
+    assert desk.user.ask("take-icon", player.handle, ICON)
+    wait_for(lambda: not player.tray_icons(), what="the icon's end")
+    desk.user.ask("tell-all", "TaskbarCreated")
+    wait_for(player.tray_icons, what="the icon again")
+    tray_menu(player, OPEN_QUIRN)
+    wait_for(player.visible, what="the window")
 
 
 def test_a_favourite_plays_and_an_empty_one_opens_the_options(favourites):

@@ -1,5 +1,7 @@
 #include "tests/testing/user.h"
 
+#include <shellapi.h>
+
 #include <cstring>
 
 // Acting on windows.
@@ -88,6 +90,21 @@ std::string Minimise(const Words& words) {
     return Done();
 }
 
+// take-icon WINDOW NUMBER: the window's icon leaves the tray, as when the shell ends.
+std::string TakeIcon(const Words& words) {
+    NOTIFYICONDATAA record{};
+    record.cbSize = NOTIFYICONDATAA_V1_SIZE;
+    record.hWnd = Window(words);
+    record.uID = static_cast<UINT>(Number(words, 2));
+    return Shell_NotifyIconA(NIM_DELETE, &record) ? Done() : Error("no such icon");
+}
+
+// tell-all NAME: a message that is registered under a name goes to every window.
+std::string TellAll(const Words& words) {
+    PostMessageA(HWND_BROADCAST, RegisterWindowMessageA(Word(words, 1).c_str()), 0, 0);
+    return Done();
+}
+
 }  // namespace
 
 Commands ActingCommands() {
@@ -99,6 +116,8 @@ Commands ActingCommands() {
         {"drop", Drop},            // WINDOW FILE
         {"place", Place},          // WINDOW LEFT TOP [WIDTH HEIGHT]
         {"clipboard", Clipboard},  // TEXT
+        {"take-icon", TakeIcon},   // WINDOW NUMBER
+        {"tell-all", TellAll},     // NAME
     };
 }
 
