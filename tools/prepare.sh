@@ -27,6 +27,14 @@ need_to_run() {
     need wine wine64 xvfb icewm xdotool imagemagick x11-utils fonts-dejavu-core fonts-liberation
 }
 
+# find_wine32: $QUIRN_WINE32 becomes the whole path of the command that runs 32-bit Windows programs: the one that the
+# caller named, or a runner beside the checkout. Empty where there is none.
+find_wine32() {
+    QUIRN_WINE32=${QUIRN_WINE32-../shared/tools/wine32}
+    if [ -x "$QUIRN_WINE32" ]; then QUIRN_WINE32=$(realpath "$QUIRN_WINE32"); else QUIRN_WINE32=; fi
+    export QUIRN_WINE32
+}
+
 # build PRESET [TARGET...]: quiet unless something is wrong, because a green build is no news.
 build() {
     preset=$1

@@ -11,7 +11,6 @@ import fcntl
 import os
 import pathlib
 import re
-import shutil
 import subprocess
 
 import pytest
@@ -107,27 +106,7 @@ class Desk:
         """The demo as it is on the first day: no program running, game folder, profiles and registry new."""
         self.name, self.shots = name, 0
         self.end_all()
-        game = self.machine.path("C:\\SubSpace")
-        for folder in (game, self.machine.path("C:\\QUIRN")):
-            shutil.rmtree(folder, ignore_errors=True)
-        shutil.copytree(ROOT / "demo/game", game)
-        shutil.copytree(ROOT / "demo/profiles", game / "Profiles")
-        shutil.copy(EXE.parent / "demo/subspace.exe", game)
-        self.machine.path("C:\\QUIRN").mkdir()
-        shutil.copy(EXE, self.machine.path("C:\\QUIRN\\QUIRN.exe"))
-        seed = (ROOT / "demo/game.reg").read_bytes().decode("cp1252").replace("\r\n", "\n").removeprefix("REGEDIT4\n")
-        self.machine.import_registry(f"""REGEDIT4
-
-[-{GAME_KEY}]
-
-[-{OWN_KEY}]
-
-[{OWN_KEY}\\File Locations]
-"SubSpace"="C:\\\\SubSpace"
-"QRN Files"="C:\\\\SubSpace\\\\Profiles"
-[HKEY_CURRENT_USER\\Software\\Wine\\WineDbg]
-"ShowCrashDialog"=dword:00000000
-{seed}""")
+        self.machine.prepare(EXE.parent)
 
     def end_all(self):
         self.user.ask("release")

@@ -3,7 +3,6 @@ import json
 import os
 import pathlib
 import re
-import shutil
 import struct
 import subprocess
 import time
@@ -57,22 +56,20 @@ class Machine:
     """A Wine prefix: files in it, its registry through Wine's own reg, programs started in it."""
 
     def __init__(self, screen, bits, folder):
-        self.runner = [os.environ["QUIRN_WINE32"]] if bits == 32 else ["wine"]
+        self.runner = [os.environ["QUIRN_WINE32"] if bits == 32 else "wine"]
         self.server = [*self.runner, "wineserver"] if bits == 32 else ["wineserver"]
         self.prefix = folder
         self.drive = folder / "drive_c"
         self.environment = dict(screen.environment, WINEPREFIX=str(folder), WINEDEBUG="-all",
-                                WINEDLLOVERRIDES="mscoree,mshtml=")
-        folder.parent.mkdir(parents=True, exist_ok=True)
-        ready = folder / "ready"  # a set-up that was cut short is done again
+                                WINEDLLOVERRIDES="mscoree,mshtml=", QUIRN_RUNNER=self.runner[0])
         # A run that was killed may have left its server, whose windows are on a display that is gone.
-        if ready.exists():
+        if folder.exists():
             self.stop()
-        else:
-            shutil.rmtree(folder, ignore_errors=True)
-            subprocess.run([*self.runner, "wineboot", "-i"], env=self.environment, cwd=ROOT, check=True,
-                           stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-            ready.touch()
+        self.prepare()
+
+    def prepare(self, *build):
+        """Makes the prefix, if it is not there; with a build's folder, the demo in it as on the first day."""
+        subprocess.run([ROOT / "tools/wine-prefix", self.prefix, *build], env=self.environment, check=True)
 
     def stop(self):
         subprocess.run([*self.server, "-k"], env=self.environment, cwd=ROOT, check=False, stderr=subprocess.DEVNULL)
