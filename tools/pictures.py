@@ -1,21 +1,24 @@
 """Takes the pictures of the windows.
 
-    python3 -m pytest tests/journeys/pictures.py
+    python3 -m pytest tools/pictures.py
         those that the help page shows, into resources/ship/pictures
-    QUIRN_PICTURES=FOLDER python3 -m pytest tests/journeys/pictures.py
+    QUIRN_PICTURES=FOLDER python3 -m pytest tools/pictures.py
         those of all windows at 96 and at 144 dpi, into FOLDER/96 and FOLDER/144, to look at
 """
 import os
 import pathlib
 import subprocess
+import sys
 import time
 
 import pytest
 
-import player as at
-from machine import ROOT, wait_for
-from player import PAGES, Player
-from test_log_editor import LogEditor
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "tests/journeys"))
+import player as at  # noqa: E402  (found by the line above)
+from conftest import desk, whole_desk  # noqa: E402,F401  (fixtures)
+from machine import ROOT, wait_for  # noqa: E402
+from player import PAGES, Player  # noqa: E402
+from test_log_editor import LogEditor  # noqa: E402
 
 SHIP = ROOT / "resources/ship"
 LOOK = os.environ.get("QUIRN_PICTURES")
