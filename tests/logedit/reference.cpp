@@ -1,7 +1,13 @@
 #include "tests/logedit/reference.h"
 
 #include <algorithm>
+#include <memory>
+#include <optional>
 
+#include "logedit/logfilter.h"
+#include "logedit/logfind.h"
+#include "logedit/logparser.h"
+#include "logedit/logview.h"
 #include "platform/text.h"
 
 namespace quirn::reference {
@@ -121,6 +127,50 @@ std::vector<size_t> Filter(const Log& log, int mask, const std::vector<Player>& 
         if (show) shown.push_back(i);
     }
     return shown;
+}
+
+std::string Difference(std::string_view text, size_t piece, uint32_t hidden) {
+    const auto log = std::make_shared<ParsedLog>();
+    LogParser parser(*log, text.size());
+    bool advanced = true;
+    for (size_t at = 0; at < text.size();) {
+        at += text.copy(parser.Buffer() + at, piece, at);
+        advanced = parser.Advance(at) && advanced;
+    }
+    if (!(parser.Finish(text.size()) && advanced)) return "too many players";
+    const Log expected = Parse(text);
+    if (parser.Consumed() != expected.consumed) return "bytes consumed";
+    if (log->LineCount() != expected.lines.size()) return "number of lines";
+    for (size_t i = 0; i < expected.lines.size(); ++i)
+        if (log->Line(i) != expected.lines[i] || log->Info(i) != expected.info[i])
+            return "line " + std::to_string(i) + ": " + expected.lines[i];
+    const size_t players = log->Players().size();
+    if (players + (players == 0 ? 1 : 0) != expected.players.size()) return "number of players";
+    if (!std::equal(log->Players().begin(), log->Players().end(), expected.players.begin())) return "names of players";
+
+    PlayerList include, exclude;
+    include.Fill(log);
+    for (size_t i = 0; i < include.Count(); ++i) include.Selection().Select(i, (hidden >> i % 3 & 1) != 0);
+    MovePlayers(include, exclude);
+    if (include.Count() + exclude.Count() != (players < 2 ? 0 : players)) return "players in the lists";
+    std::vector<Player> in, out;
+    for (size_t i = 0; i < include.Count(); ++i) in.push_back({"", static_cast<int>(include.Number(i))});
+    for (size_t i = 0; i < exclude.Count(); ++i) out.push_back({"", static_cast<int>(exclude.Number(i))});
+    const uint32_t mask = 0x7FF & ~(hidden << 3);
+    LogView view;
+    if (view.ApplyLogFilter(log, mask, include, exclude, hidden % 2 == 0)) return "memory";
+    const std::vector<size_t> shown = Filter(expected, static_cast<int>(mask), in, out);
+    if (view.Count() != shown.size()) return "number of shown lines";
+    for (size_t i = 0; i < shown.size(); ++i)
+        if (view.LineIndex(i) != shown[i]) return "shown line " + std::to_string(i);
+    if (view.Count() == 0) return {};
+
+    // A piece of the text itself, looked for in what is shown.
+    const std::string_view what = text.substr(hidden % (text.size() + 1), 1 + hidden % 7);
+    std::optional<size_t> found;
+    for (size_t i = 0; i < view.Count() && !found; ++i)
+        if (FoldCase(view.Text(i)).find(FoldCase(what)) != std::string::npos) found = i;
+    return FindItem(view, what, 0) == found ? "" : "what is found";
 }
 
 }  // namespace quirn::reference

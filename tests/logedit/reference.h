@@ -29,4 +29,8 @@ struct Player {
 std::vector<size_t> Filter(const Log& log, int mask, const std::vector<Player>& include,
                            const std::vector<Player>& exclude);
 
+// The first thing in which the program's parser, filter and search differ from these; empty when there is none. The
+// text comes in pieces of so many bytes; the bits say which types and players are hidden.
+std::string Difference(std::string_view text, size_t piece, uint32_t hidden);
+
 }  // namespace quirn::reference
