@@ -207,26 +207,6 @@ def test_the_pick_list(desk):
     assert not player.of_class("ListBox") and player.text(box) == "x%"
 
 
-def test_the_config_code_dialog(desk):
-    player = start(desk)
-    player.turn_to("Advanced")
-    player.click(code_button(player))
-    dialog = player.dialog("Advanced Settings Code")
-    box = dialog.of_class("Edit")[0]
-    assert dialog.text(box) == "____-____-____"
-    dialog.type("0000000000")
-    dialog.keys("Return")
-    dialog.gone()
-    assert code_button(player)["caption"] == "0000-0000-00_0"
-    for leave, full in (("Escape", False), ("Return", True)):
-        player.click(code_button(player))
-        dialog = player.dialog("Advanced Settings Code")
-        dialog.type("GZZZZZZZZZZ7")
-        dialog.keys(leave)
-        dialog.gone()
-        assert player.checked(player.find("Fonts")) == player.checked(player.find("Full Map")) == full
-
-
 def test_the_keyboard_reaches_everything(desk):
     player = start(desk)
     reached = {}
