@@ -28,7 +28,7 @@ void CollectBox(const CheckBox& box, std::string& value) {
 
 }  // namespace
 
-HiddenPage::HiddenPage(TabStrip& strip, Profile& profile, Edited edited)
+HiddenPage::HiddenPage(TabStrip& strip, Profile& profile, const Edited& edited)
     : TabPage(strip, "Hidden"),
       profile_(profile),
       chkShowFrameRate(*this, kShowFrameRatePlace, "Show Frame Rate (displays framerate info on game screen)"),

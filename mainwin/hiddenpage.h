@@ -8,7 +8,7 @@ namespace quirn {
 // The page "Hidden": three switches that nobody should need.
 class HiddenPage : public TabPage {
 public:
-    HiddenPage(TabStrip& strip, Profile& profile, Edited edited);
+    HiddenPage(TabStrip& strip, Profile& profile, const Edited& edited);
 
     void Show();
     void Collect();

@@ -15,7 +15,7 @@ constexpr Bounds kImport{120, 3660,  2280, kButtonHeight};
 }  // namespace
 
 MacroPage::MacroPage(TabStrip& strip, const char* caption, const char* keyName, Profile& profile, int firstMacro,
-                     Edited edited)
+                     const Edited& edited)
     : TabPage(strip, caption), profile_(profile), firstMacro_(firstMacro) {
     for (int i = 0; i < kMacrosPerSet; ++i) {
         const int down = i * kStep;

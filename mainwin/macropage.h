@@ -17,7 +17,7 @@ class MacroPage : public TabPage {
 public:
     // firstMacro: the index in Messages of the page's first macro, 1 or 9. keyName stands before "F1 -" in the labels.
     MacroPage(TabStrip& strip, const char* caption, const char* keyName, Profile& profile, int firstMacro,
-              Edited edited);
+              const Edited& edited);
 
     void Show();
     void Collect();

@@ -32,7 +32,7 @@ constexpr Bounds NumberRow(Bounds place, int row) {
 
 }  // namespace
 
-OptionsPage::OptionsPage(TabStrip& strip, Profile& profile, Edited edited)
+OptionsPage::OptionsPage(TabStrip& strip, Profile& profile, const Edited& edited)
     : TabPage(strip, "Options"),
       profile_(profile),
       lblMsgNameLen(*this, NumberRow(kNumberLabel, 0), "Message Name Length :"),

@@ -9,7 +9,7 @@ namespace quirn {
 // their tag; the main window binds them together with the two that stand on other pages.
 class OptionsPage : public TabPage {
 public:
-    OptionsPage(TabStrip& strip, Profile& profile, Edited edited);
+    OptionsPage(TabStrip& strip, Profile& profile, const Edited& edited);
 
     void Show();
     void Collect();

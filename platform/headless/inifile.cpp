@@ -15,7 +15,6 @@ namespace quirn {
 namespace {
 
 using headless::File;
-using headless::TheWorld;
 
 constexpr std::string_view kLineEnd = "\r\n";
 
