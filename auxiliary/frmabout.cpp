@@ -136,7 +136,7 @@ void frmAbout::ShowSecret() {
 
 void frmAbout::cmdSysInfo_Click() {
     const std::string tool = SystemInformationTool();
-    if (tool.empty()) ShowMessage("System Information Is Unavailable At This Time", kPlain);
+    if (tool.empty() || !FileExists(tool)) ShowMessage("System Information Is Unavailable At This Time", kPlain);
     else OpenDocument(*this, tool);
 }
 

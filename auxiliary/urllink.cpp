@@ -27,6 +27,7 @@ URLLink::URLLink(Parent parent, const Bounds& place)
     : form_(parent.container->Owner()), lblURL(parent, place, kDefaultText) {
     lblURL.SetForeColor(kLinkColor);
     lblURL.onClick = [this] { lblURL_MouseDown(); };
+    lblURL.onDoubleClick = [] {};  // has been opened by the first of the two clicks
     InitProperties();
 }
 

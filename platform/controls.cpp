@@ -39,6 +39,10 @@ void Label::UserClicks() {
     CallHandler(onClick);
 }
 
+void Label::UserDoubleClicks() {
+    CallHandler(onDoubleClick ? onDoubleClick : onClick);
+}
+
 void Picture::UserClicks() {
     CallHandler(onClick);
 }

@@ -28,8 +28,10 @@ public:
     bool ShowsData() const { return showsData_; }
 
     std::function<void()> onClick;  // the left mouse button; set before the label has a window, which shows a hand then
+    std::function<void()> onDoubleClick;  // the second of two quick clicks; without a handler that is a click as well
 
     void UserClicks();
+    void UserDoubleClicks();
 
 private:
     Alignment alignment_;

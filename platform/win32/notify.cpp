@@ -31,10 +31,11 @@ void ListCommand(ListBox& list, WORD code) {
 void Command(Control& control, WORD code) {
     const bool clicked = code == BN_CLICKED && !FocusArrives(WindowOf(control));
     switch (control.Kind()) {
-        // The second click of two quick ones is a click as well.
         case ControlKind::Label:
-            if (code == STN_CLICKED || code == STN_DBLCLK) static_cast<Label&>(control).UserClicks();
+            if (code == STN_CLICKED) static_cast<Label&>(control).UserClicks();
+            if (code == STN_DBLCLK) static_cast<Label&>(control).UserDoubleClicks();
             break;
+        // The second click of two quick ones is a click as well.
         case ControlKind::Picture:
             if (code == STN_CLICKED || code == STN_DBLCLK) static_cast<Picture&>(control).UserClicks();
             break;

@@ -72,6 +72,10 @@ TEST_F(AuxiliaryTest, TheSystemInformationIsFoundInTwoPlaces) {
     TheWorld().machineTexts["SOFTWARE\\Microsoft\\Shared Tools\\MSINFO\\PATH"] = "C:\\Windows\\info.exe";
     Click(button);
     EXPECT_EQ(TheWorld().openedTargets, (std::vector<std::string>{"C:\\Tools\\MSINFO32.EXE", "C:\\Windows\\info.exe"}));
+    TheWorld().machineTexts["SOFTWARE\\Microsoft\\Shared Tools\\MSINFO\\PATH"] = "C:\\Windows\\gone.exe";
+    ExpectMessage("System Information Is Unavailable At This Time");
+    Click(button);
+    TheWorld().machineTexts["SOFTWARE\\Microsoft\\Shared Tools\\MSINFO\\PATH"] = "C:\\Windows\\info.exe";
     TheWorld().shellFailure = ErrorNumber::PermissionDenied;
     ExpectMessage("Unable to load 'C:\\Windows\\info.exe' : Permission denied", kExclamation);
     Click(button);

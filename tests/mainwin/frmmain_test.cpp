@@ -165,6 +165,17 @@ TEST_F(FrmMainTest, ClosesToTheTrayAndEndsByExitAlone) {
     EXPECT_EQ(GetSetting("MRUList", "MRU0", ""), "C:\\a.qrn");
 }
 
+TEST_F(FrmMainTest, TheEndOfTheSessionAsksForEditsThatAreNotSaved) {
+    frmMain window(program_);
+    window.Load();
+    program_.dirty = true;
+    for (const Answer answer : {Answer::Cancel, Answer::No}) {
+        ExpectMessage("Save changes to <current SS settings>", kYesNoCancel | kQuestion, answer, "Save Changes?");
+        window.UserCloses(UnloadMode::SystemShutdown);
+        EXPECT_EQ(window.IsLoaded(), answer == Answer::Cancel);
+    }
+}
+
 TEST_F(FrmMainTest, AMinimisedWindowKeepsNothing) {
     frmMain window(program_);
     window.Load();

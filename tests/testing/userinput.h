@@ -16,6 +16,7 @@ void Click(CheckBox& box);
 void Click(OptionButton& option);
 void Click(Label& label);
 void Click(Picture& picture);
+void DoubleClick(Label& label);
 void RightClick(Label& label);
 void Type(TextBox& box, const std::string& text);                    // at the end
 size_t Type(MaskedBox& box, const std::string& text, size_t caret);  // returns the new caret; 8 and 127 erase

@@ -27,6 +27,11 @@ void Click(Picture& picture) {
     picture.UserClicks();
 }
 
+void DoubleClick(Label& label) {
+    label.UserClicks();
+    label.UserDoubleClicks();
+}
+
 void RightClick(Label&) {}
 
 void Type(TextBox& box, const std::string& text) {

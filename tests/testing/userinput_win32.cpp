@@ -79,6 +79,12 @@ void Click(Picture& picture) {
     Send(picture, WM_LBUTTONUP);
 }
 
+void DoubleClick(Label& label) {
+    Click(label);
+    Send(label, WM_LBUTTONDBLCLK, MK_LBUTTON);
+    Send(label, WM_LBUTTONUP);
+}
+
 void RightClick(Label& label) {
     Send(label, WM_RBUTTONDOWN, MK_RBUTTON);
     Send(label, WM_RBUTTONUP);
