@@ -76,10 +76,8 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
         const Bounds place{kBoxLeft + static_cast<int>(i / kRows) * kColumnStep,
                            kBoxTop + static_cast<int>(i % kRows) * kRowStep, kBoxWidth, kBoxHeight};
         CheckBox& box = chkFilters.emplace_back(Frame1, place, kFilterBoxes[i].caption);
-        box.SetValue(1);
         box.onClick = [this] { chkFilters_Click(); };
     }
-    SetCaption(kFullTitle);
     SetMinimumSize(kSmallestWidth, kSmallestHeight);
     lstLog.SetFont({.face = "Courier New", .points = 9});
     lstLog.itemText = [this](size_t item) { return edit_.view.Text(item); };
@@ -106,13 +104,21 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
     onDropFile = [this](const std::string& path) { OpenLog(path); };
 }
 
+// Each time the window opens it starts anew.
 void frmLogEdit::Form_Load() {
     edit_.include.Clear();
     edit_.exclude.Clear();
     edit_.view.Clear();
+    players_.Reset();
+    lstLog.SetCount(0, 0);
     edit_.applyAtOnce = edit_.lineNumbers = false;
+    for (const int command : {mnuOptions_Apply, mnuOptions_LineNums}) menuBar_.SetChecked(command, false);
     edit_.chkFilters.fill(1);
+    for (CheckBox& box : chkFilters) box.SetValue(1);
     edit_.LogFilterMask = BuildFilterMask(edit_.chkFilters);
+    SetCaption(kFullTitle);
+    StatusBar1.SetText("");
+    StatusBar1.SetSecondText("");
 
     const Bounds screen = ScreenArea();
     LogLook look{Place(), lstLog.FontUsed(), lstLog.ForeColor(), lstLog.BackColor()};

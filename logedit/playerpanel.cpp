@@ -11,6 +11,8 @@ namespace {
 constexpr int kLabelHeight = 195;
 constexpr int kLabelGap = 30;
 constexpr int kButtonGap = 100;
+constexpr char kIncludeCaption[] = "Include :";  // until a log is loaded
+constexpr char kExcludeCaption[] = "Exclude :";
 
 size_t LongestName(const PlayerList& players) {
     size_t longest = 0;
@@ -23,11 +25,11 @@ size_t LongestName(const PlayerList& players) {
 PlayerPanel::PlayerPanel(Form& form, LogEdit& edit)
     : edit_(edit),
       popupList_(&lstInclude),
-      lblInclude(form, {kInclude.left, 0, kInclude.width, kLabelHeight}, "Include :"),
+      lblInclude(form, {kInclude.left, 0, kInclude.width, kLabelHeight}, kIncludeCaption),
       lstInclude(form, kInclude, "Include"),
       cmdIn(form, kButtons, "<<"),
       cmdOut(form, kButtons, ">>"),
-      lblExclude(form, {kExclude.left, 0, kExclude.width, kLabelHeight}, "Exclude :"),
+      lblExclude(form, {kExclude.left, 0, kExclude.width, kLabelHeight}, kExcludeCaption),
       lstExclude(form, kExclude, "Exclude") {
     for (VirtualList* list : {&lstInclude, &lstExclude}) {
         const PlayerList& players = PlayersOf(*list);
@@ -51,6 +53,12 @@ void PlayerPanel::MoveBottom(int bottom) {
     cmdOut.MoveTop(cmdIn.Place().Bottom() + kButtonGap);
     lblInclude.MoveTop(lstInclude.Place().top - lblInclude.Place().height - kLabelGap);
     lblExclude.MoveTop(lstExclude.Place().top - lblExclude.Place().height - kLabelGap);
+}
+
+void PlayerPanel::Reset() {
+    Empty();
+    lblInclude.SetText(kIncludeCaption);
+    lblExclude.SetText(kExcludeCaption);
 }
 
 void PlayerPanel::Empty() {

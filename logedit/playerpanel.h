@@ -24,6 +24,7 @@ public:
 
     void MoveBottom(int bottom);  // where the lists end, in twips from the form's upper edge
 
+    void Reset();  // as without a log
     void Empty();  // before a log is read
     void Show();   // what the edit's lists hold, nothing selected
 

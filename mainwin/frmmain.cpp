@@ -219,8 +219,7 @@ void frmMain::mnuOptions_Set_Click() {
 // Also while the window is open: its lists then show what a filter would no longer find. Kept on purpose.
 void frmMain::mnuLog_Click() {
     logEdit_.Forget();
-    if (!logEditor_ || !logEditor_->IsLoaded())
-        logEditor_ = std::make_unique<frmLogEdit>(program_.gameFolder, logEdit_);
+    if (!logEditor_) logEditor_ = std::make_unique<frmLogEdit>(program_.gameFolder, logEdit_);
     logEditor_->Show();
     logEditor_->BringToFront();
 }

@@ -70,7 +70,7 @@ private:
     StatusBar StatusBar1;
 
     LogEdit logEdit_;
-    std::unique_ptr<frmLogEdit> logEditor_;  // the window, made when it is first asked for
+    std::unique_ptr<frmLogEdit> logEditor_;  // made when it is first asked for, and kept: it may be in use when it closes
 };
 
 }  // namespace quirn

@@ -32,7 +32,8 @@ struct Shortcut {
 };
 
 // A window of the program. The object may live longer than its window: Load makes the window (hidden), Unload destroys
-// it, and either may happen again. A form is destroyed with its window when its object goes.
+// it, and either may happen again. A form is destroyed with its window when its object goes. A routine of the form may
+// still be waiting for a box when the window is unloaded, so an owner keeps the object and loads it again.
 //
 // Keyboard: Tab and the arrows move between the controls, access keys and the menu bar work (where the form takes
 // characters itself, access keys need Alt), Ctrl+Tab turns the pages of the form's tab strip. Enter goes to a text box

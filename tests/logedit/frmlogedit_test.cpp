@@ -256,6 +256,25 @@ TEST_F(LogEditTest, TheLookIsKeptAndBroughtBack) {
     EXPECT_EQ(Log().Count(), 0u);
 }
 
+// The object stays when its window goes: a routine of it may still be waiting.
+TEST_F(LogEditTest, AWindowOpenedAgainStartsAnew) {
+    Open(path_);
+    Tick("System messages");
+    Choose(*form_, mnuOptions_Apply);
+    Choose(*form_, mnuOptions_LineNums);
+    form_->Unload();
+    edit_.Forget();
+    form_->Show();
+    EXPECT_EQ(form_->Caption(), kTitleText);
+    EXPECT_EQ(Log().Count() + List("Include").Count(), 0u);
+    EXPECT_EQ(ShownText(Find<Label>(*form_, ControlKind::Label, "Include")), "Include :");
+    EXPECT_EQ(ShownSecondText(Status()), "");
+    EXPECT_TRUE(ShownChecked(Find<CheckBox>(*form_, ControlKind::CheckBox, "System messages")));
+    EXPECT_FALSE(form_->MenuBar()->At(mnuOptions_Apply).checked || form_->MenuBar()->At(mnuOptions_LineNums).checked);
+    Open(path_);
+    EXPECT_EQ(Shown(Log()), (Lines{"  Bo> one", "P Cy> two", "T Ann> three", "  Welcome", "  Cy> four BO"}));
+}
+
 TEST_F(LogEditTest, TheControlsFollowTheWindow) {
     for (const Bounds place : {Bounds{0, 0, 10950, 8100}, Bounds{0, 0, 15000, 11000}}) {
         form_->Move(place);
