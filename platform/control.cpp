@@ -102,7 +102,8 @@ void Control::SetToolTip(const std::string& text) {
 void Control::SetFocus() {
     if (!CanFocus()) return;
     Form& form = container_->Owner();
-    if (form.Visible()) native::FocusControl(*this);
+    // The system gives no window of a minimised one the keyboard.
+    if (form.Visible() && !form.IsMinimized()) native::FocusControl(*this);
     else form.FocusMoved(this);
 }
 

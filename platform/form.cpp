@@ -211,6 +211,7 @@ bool Form::UserPressesAccessKey(char key) {
 }
 
 bool Form::UserTurnsPage(int steps) {
+    if (minimized_) return false;  // the focus could not follow
     for (Control* control : Controls()) {
         if (control->Kind() != ControlKind::TabStrip || !control->Visible()) continue;
         static_cast<TabStrip*>(control)->UserTurns(steps);

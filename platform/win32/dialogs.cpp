@@ -27,6 +27,22 @@ std::string CurrentFolder() {
     return folder;
 }
 
+// The window that waits for a dialog: the active one of this program or, while another program is in front, the
+// foremost that can be used.
+HWND DialogOwner() {
+    if (const HWND active = GetActiveWindow()) return active;
+    HWND owner = nullptr;
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND window, LPARAM found) -> BOOL {
+            if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
+            *reinterpret_cast<HWND*>(found) = window;
+            return FALSE;
+        },
+        reinterpret_cast<LPARAM>(&owner));
+    return owner;
+}
+
 using FileFunction = BOOL(WINAPI*)(OPENFILENAMEA*);
 
 std::optional<std::string> AskFile(const FileDialog& dialog, FileFunction ask) {
@@ -36,7 +52,7 @@ std::optional<std::string> AskFile(const FileDialog& dialog, FileFunction ask) {
     path.resize(kLongestPath);
     OPENFILENAMEA record{};
     record.lStructSize = sizeof(record);
-    record.hwndOwner = GetActiveWindow();
+    record.hwndOwner = DialogOwner();
     record.lpstrFilter = filter.c_str();
     record.nFilterIndex = static_cast<DWORD>(dialog.filterIndex);
     record.lpstrFile = path.data();
@@ -102,7 +118,7 @@ std::optional<Font> AskFont(const Font& current) {
     description.lfCharSet = DEFAULT_CHARSET;
     CHOOSEFONTA record{};
     record.lStructSize = sizeof(record);
-    record.hwndOwner = GetActiveWindow();
+    record.hwndOwner = DialogOwner();
     record.lpLogFont = &description;
     record.Flags = CF_SCREENFONTS | CF_EFFECTS | CF_INITTOLOGFONTSTRUCT | CF_FORCEFONTEXIST | CF_ENABLEHOOK;
     record.lpfnHook = HideColors;
@@ -119,7 +135,7 @@ std::optional<Color> AskColor(Color current) {
     static COLORREF custom[16];  // the player's own ones, kept from one time to the next
     CHOOSECOLORA record{};
     record.lStructSize = sizeof(record);
-    record.hwndOwner = GetActiveWindow();
+    record.hwndOwner = DialogOwner();
     record.rgbResult = current;
     record.lpCustColors = custom;
     record.Flags = CC_RGBINIT | CC_FULLOPEN;

@@ -12,7 +12,12 @@ namespace {
 
 enum class Key { Done, ForControl, ForDialogManager };
 
-// Enter and Esc never reach the dialog manager: it would send the form the commands 1 and 2, which are menu items.
+// Enter and Esc never reach the dialog manager: it would send the form the commands 1 and 2, which are menu items. It
+// knows two more names of these keys.
+bool IsEnterOrEscape(WPARAM key) {
+    return key == VK_RETURN || key == VK_EXECUTE || key == VK_ESCAPE || key == VK_CANCEL;
+}
+
 Key AnswerEnterOrEscape(Form& form, bool enter) {
     const Control* active = form.ActiveControl();
     if (active != nullptr && active->Kind() == ControlKind::ComboBox &&
@@ -37,14 +42,14 @@ bool BelongsToTextBox(const Form& form, WPARAM key) {
 Key AnswerKey(Form& form, WPARAM key) {
     const bool control = Pressed(VK_CONTROL);
     const bool shift = Pressed(VK_SHIFT);
-    if (Pressed(VK_MENU)) return Key::ForDialogManager;  // AltGr is Ctrl and Alt
+    // Windows sends a key with Ctrl and Alt (AltGr) as one without: it is none of the form's, and Esc must not reach
+    // the dialog manager all the same.
+    if (Pressed(VK_MENU)) return IsEnterOrEscape(key) ? Key::ForControl : Key::ForDialogManager;
     if (control && key == VK_TAB && form.UserTurnsPage(shift ? -1 : 1)) return Key::Done;
     if (control && (key == VK_NEXT || key == VK_PRIOR) && form.UserTurnsPage(key == VK_NEXT ? 1 : -1)) return Key::Done;
     if (!shift && !BelongsToTextBox(form, key) && form.UserPressesShortcut(static_cast<int>(key), control))
         return Key::Done;
-    // The dialog manager knows two more names of these.
-    if (key == VK_RETURN || key == VK_EXECUTE) return AnswerEnterOrEscape(form, true);
-    if (key == VK_ESCAPE || key == VK_CANCEL) return AnswerEnterOrEscape(form, false);
+    if (IsEnterOrEscape(key)) return AnswerEnterOrEscape(form, key == VK_RETURN || key == VK_EXECUTE);
     return Key::ForDialogManager;
 }
 
@@ -68,7 +73,9 @@ bool AnswerAccessKey(Form& form, const MSG& message) {
 // True when the message needs nothing more.
 bool Answered(MSG& message) {
     Form* const form = FormOf(message.hwnd);
-    if (form == nullptr) return false;
+    // A minimised form has no dialog keys: IsDialogMessage looks for the next control that can be seen, and among
+    // windows that all cannot it may look for ever.
+    if (form == nullptr || form->IsMinimized()) return false;
     const HWND window = WindowOf(*form);
     if (message.message == WM_CHAR) {
         form->UserTypes(static_cast<char>(message.wParam));
@@ -87,7 +94,25 @@ bool Answered(MSG& message) {
     return IsDialogMessageA(window, &message) != FALSE;
 }
 
+bool onlyPainting = false;  // events are let through, but no command may begin
+
 }  // namespace
+
+bool PostedOn(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_COMMAND:
+        case WM_QUERYENDSESSION:  // is always sent, and wants its answer at once when there can be one
+            if (!onlyPainting) return false;
+            break;
+        case WM_CLOSE:
+        case WM_DROPFILES:
+        case kTrayMessage:
+            if (!onlyPainting && !InSendMessage()) return false;
+            break;
+        default: return false;
+    }
+    return PostMessageA(window, message, wParam, lParam) != FALSE;
+}
 
 bool RunOneEvent() {
     MSG message;
@@ -98,6 +123,14 @@ bool RunOneEvent() {
     return true;
 }
 
+void RunUntil(const std::function<bool()>& done) {
+    while (!done()) {
+        // A message that was sent has been handled inside of looking for one, and may have made it done.
+        if (RunOneEvent() || done()) continue;
+        MsgWaitForMultipleObjectsEx(0, nullptr, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+    }
+}
+
 }  // namespace win32
 
 void DoEvents() {
@@ -106,9 +139,11 @@ void DoEvents() {
 }
 
 void DoPaintEvents() {
+    win32::onlyPainting = true;
     MSG message{};
     while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE | PM_QS_PAINT | PM_QS_SENDMESSAGE))
         DispatchMessageA(&message);
+    win32::onlyPainting = false;
 }
 
 void WaitForEvents(int milliseconds) {

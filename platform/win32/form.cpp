@@ -100,14 +100,20 @@ void DropFile(Form& form, HDROP drop) {
     std::string path(DragQueryFileA(drop, 0, nullptr, 0), '\0');
     DragQueryFileA(drop, 0, path.data(), static_cast<UINT>(path.size() + 1));
     DragFinish(drop);
-    if (form.onDropFile && !path.empty() && !form.IsBlocked()) CallHandler([&] { form.onDropFile(path); });
+    if (!form.onDropFile || path.empty() || form.IsBlocked()) return;
+    // The program that the file came from is in front. What the form may ask must find it active, or it would stay
+    // usable behind its own question.
+    SetForegroundWindow(WindowOf(form));
+    SetActiveWindow(WindowOf(form));
+    CallHandler([&] { form.onDropFile(path); });
 }
 
 // The window itself has the keyboard only when it has just been activated; the control that had it gets it back.
-void RestoreFocus(const Form& form) {
+void RestoreFocus(Form& form) {
     const Control* active = form.ActiveControl();
-    if (active != nullptr && active->window != nullptr && IsWindowVisible(WindowOf(*active)))
-        SetFocus(WindowOf(*active));
+    if (active == nullptr) return;
+    if (active->window != nullptr && active->CanFocus()) SetFocus(WindowOf(*active));
+    else form.FocusNext(nullptr);
 }
 
 // A form that waits for a dialog gives the keyboard to that one. False when nothing of the kind is in sight.
@@ -127,6 +133,12 @@ bool MakeControls(Form& form) {
     return true;
 }
 
+// A window that is maximised stays so.
+int HowToShow(HWND window) {
+    if (IsIconic(window)) return SW_RESTORE;
+    return IsZoomed(window) ? SW_SHOW : SW_SHOWNORMAL;
+}
+
 void PaintBackground(HWND window, HDC device, Color color) {
     RECT area{};
     GetClientRect(window, &area);
@@ -137,6 +149,7 @@ void PaintBackground(HWND window, HDC device, Color color) {
 LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     auto* form = reinterpret_cast<Form*>(GetWindowLongPtrA(window, GWLP_USERDATA));
     if (form == nullptr) return DefWindowProcA(window, message, wParam, lParam);
+    if (PostedOn(window, message, wParam, lParam)) return FALSE;  // to the end of the session: not now
     if (const auto result = NotificationFromControl(*form, message, wParam, lParam)) return *result;
     if (TrayMessage(*form, message, wParam, lParam)) return 0;
     switch (message) {
@@ -233,8 +246,7 @@ Bounds WorkArea(const Form& form) {
 }
 
 void RunEventLoop() {
-    while (!win32::loadedForms.empty())
-        if (!win32::RunOneEvent()) WaitMessage();
+    win32::RunUntil([] { return win32::loadedForms.empty(); });
 }
 
 namespace native {
@@ -291,7 +303,7 @@ void FormChanged(Form& form, Aspect aspect) {
 void ShowForm(Form& form, bool visible) {
     if (!visible) EndModal(form);
     if (visible) MakeControls(form);
-    ShowWindow(WindowOf(form), visible ? SW_SHOWNORMAL : SW_HIDE);
+    ShowWindow(WindowOf(form), visible ? HowToShow(WindowOf(form)) : SW_HIDE);
 }
 
 bool IsBlocked(const Form& form) {

@@ -31,8 +31,7 @@ void RunModal(Form& form, Form& owner) {
         }
     }
     form.Show();
-    while (form.IsLoaded() && form.Visible())
-        if (!RunOneEvent()) WaitMessage();
+    RunUntil([&] { return !form.IsLoaded() || !form.Visible(); });
 }
 
 }  // namespace native

@@ -134,6 +134,7 @@ std::optional<LRESULT> NotificationFromControl(Form& form, UINT message, WPARAM 
     switch (message) {
         case WM_COMMAND:
             if (window == nullptr) return std::nullopt;
+            if (PostedOn(WindowOf(form), message, wParam, lParam)) return 0;
             if (Control* control = ControlOf(window)) Command(*control, HIWORD(wParam));
             return 0;
         case WM_NOTIFY: return Notify(*reinterpret_cast<const NMHDR*>(lParam));

@@ -19,7 +19,6 @@ namespace win32 {
 namespace {
 
 constexpr UINT kIconId = 100;
-constexpr UINT kCallbackMessage = 1124;
 constexpr char kTip[] = "Nothing here yet.";
 
 // The 32-bit record is 88 bytes long in its first form; 152, the size with a wide tip, is what this program has always
@@ -39,7 +38,7 @@ void Tell(DWORD mode, const TrayIcon& icon) {
     record.hWnd = WindowOf(icon.Owner());
     record.uID = kIconId;
     record.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP;
-    record.uCallbackMessage = kCallbackMessage;
+    record.uCallbackMessage = kTrayMessage;
     record.hIcon = picture;
     std::memcpy(record.szTip, kTip, sizeof(kTip));
     Shell_NotifyIconA(mode, &record);
@@ -53,7 +52,7 @@ UINT TaskbarCreated() {
 }  // namespace
 
 bool TrayMessage(Form& form, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message != kCallbackMessage && (icons.empty() || message != TaskbarCreated())) return false;
+    if (message != kTrayMessage && (icons.empty() || message != TaskbarCreated())) return false;
     const auto found =
         std::find_if(icons.begin(), icons.end(), [&](const TrayIcon* icon) { return &icon->Owner() == &form; });
     if (found == icons.end()) return false;

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <optional>
 #include <set>
 
@@ -99,9 +100,19 @@ void MenuHighlighted(Form& form, WPARAM wParam, LPARAM lParam);
 void EndModal(Form& form);
 
 // tray.cpp: true when the message was the tray's.
+inline constexpr UINT kTrayMessage = 1124;
 bool TrayMessage(Form& form, UINT message, WPARAM wParam, LPARAM lParam);
 
 // events.cpp
 bool RunOneEvent();  // false: there is none
+
+// Runs events until it is done. That is asked after every wake-up, since a loop inside of this one (of a dialog) may
+// have eaten the message that was to wake this one.
+void RunUntil(const std::function<bool()>& done);
+
+// What the player asks for may come as a message that another program sends (the shell does, for the icon in the tray):
+// in the middle of whatever this thread does. Such a message is posted to its window, and comes again when nothing else
+// is under way. False when it may be handled now.
+bool PostedOn(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
 }  // namespace quirn::win32

@@ -236,6 +236,16 @@ TEST_F(ControlsTest, TheFocusGoesWhereItIsSeen) {
     EXPECT_EQ(form.Take(), (Log{"page 1", "page 0"}));
 }
 
+TEST_F(ControlsTest, AMinimisedFormTurnsNoPageAndKeepsNoFocusInAHiddenOne) {
+    TestForm form;
+    form.Show();
+    form.name.SetFocus();
+    form.WindowMinimized(true);
+    EXPECT_FALSE(form.UserTurnsPage(1));
+    form.strip.SetTab(1);
+    EXPECT_TRUE(form.later.HasFocus());
+}
+
 TEST_F(ControlsTest, MenusTellOfItemsOnlyAndEnterAndEscapeAreNoCommands) {
     TestForm form;
     form.menu.SetVisible(4, false);

@@ -1,0 +1,121 @@
+#include <windows.h>
+
+#include <shellapi.h>  // these need windows.h first
+#include <shlobj.h>
+
+#include <array>
+#include <cstring>
+#include <thread>
+
+#include "platform/form.h"
+#include "platform/tray.h"
+#include "platform/win32/window.h"
+#include "tests/testing/world.h"
+
+// What other programs send to the windows, and keys that only the system's own dialog keys know.
+namespace quirn::test {
+namespace {
+
+constexpr MenuRow kRows[] = {{1, 0, "&File"}, {2, 1, "&New"}};
+
+class EventsTest : public WorldTest {
+protected:
+    EventsTest() {
+        form_.SetMenu(menu_, {});
+        menu_.onCommand = [this](int command) { commands_ += std::to_string(command); };
+        form_.onDropFile = [this](const std::string& path) { dropped_ = path; };
+        form_.Show();
+        DoEvents();
+    }
+
+    HWND Window() const { return win32::WindowOf(form_); }
+
+    // As another program's thread sends it; returns when it has been answered.
+    template <class Wait>
+    void Sent(UINT message, WPARAM wParam, LPARAM lParam, Wait wait) {
+        std::thread other([=, window = Window()] {
+            SendMessageTimeoutA(window, message, wParam, lParam, SMTO_NORMAL, 5000, nullptr);
+            PostMessageA(window, WM_NULL, 0, 0);
+        });
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 5000, QS_SENDMESSAGE);
+        wait();
+        other.join();
+    }
+
+    Form form_{FormBorder::Fixed, 6000, 4000};
+    Menu menu_{kRows};
+    TextBox box_{form_, {0, 0, 1500, 315}};
+    std::string commands_, dropped_;
+};
+
+TEST_F(EventsTest, WhatIsSentWaitsUntilNothingElseIsUnderWay) {
+    TrayIcon icon(form_);
+    icon.Add();
+    int pointed = 0;
+    bool inTheMiddle = false;
+    icon.onMouse = [&](unsigned) {
+        ++pointed;
+        inTheMiddle |= InSendMessage() != FALSE;
+    };
+    Sent(win32::kTrayMessage, 100, kMouseLeftDoubleClick, DoPaintEvents);
+    EXPECT_EQ(pointed, 0) << "in the middle of painting";
+    DoEvents();
+    EXPECT_EQ(pointed, 1);
+    Sent(win32::kTrayMessage, 100, kMouseLeftDoubleClick, DoEvents);
+    DoEvents();
+    EXPECT_EQ(pointed, 2);
+    EXPECT_FALSE(inTheMiddle);
+
+    Sent(WM_COMMAND, 2, 0, DoPaintEvents);
+    EXPECT_EQ(commands_, "");
+    DoEvents();
+    EXPECT_EQ(commands_, "2");
+    Sent(WM_QUERYENDSESSION, 0, 0, DoPaintEvents);
+    EXPECT_TRUE(form_.IsLoaded());
+    DoEvents();
+    EXPECT_FALSE(form_.IsLoaded());
+}
+
+TEST_F(EventsTest, ADropActivatesItsFormForWhatThatMayAsk) {
+    Form other(FormBorder::Fixed, 3000, 2000);
+    other.Show();
+    DoEvents();
+    const char path[] = "C:\\x.qrn\0";
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(DROPFILES) + sizeof(path));
+    auto* files = static_cast<DROPFILES*>(GlobalLock(memory));
+    files->pFiles = sizeof(DROPFILES);
+    std::memcpy(files + 1, path, sizeof(path));
+    GlobalUnlock(memory);
+    HWND active = nullptr;
+    form_.onDropFile = [&](const std::string& dropped) {
+        dropped_ = dropped;
+        active = GetActiveWindow();
+    };
+    PostMessageA(Window(), WM_DROPFILES, reinterpret_cast<WPARAM>(memory), 0);
+    DoEvents();
+    EXPECT_EQ(dropped_, "C:\\x.qrn");
+    EXPECT_EQ(active, Window());
+}
+
+TEST_F(EventsTest, EscapeIsNoCommandWhateverIsHeldWithIt) {
+    std::array<BYTE, 256> keys{};
+    keys[VK_CONTROL] = keys[VK_MENU] = 0x80;
+    SetKeyboardState(keys.data());
+    for (const WPARAM key : {VK_ESCAPE, VK_RETURN, VK_CANCEL, VK_EXECUTE})
+        PostMessageA(win32::WindowOf(box_), WM_KEYDOWN, key, 0);
+    DoEvents();
+    keys.fill(0);
+    SetKeyboardState(keys.data());
+    EXPECT_EQ(commands_, "");
+}
+
+TEST_F(EventsTest, AMaximisedWindowThatIsShownAgainStaysSo) {
+    Form sizable(FormBorder::Sizable, 6000, 4000);
+    sizable.Show();
+    ShowWindow(win32::WindowOf(sizable), SW_MAXIMIZE);
+    sizable.Show();
+    EXPECT_TRUE(IsZoomed(win32::WindowOf(sizable)));
+}
+
+}  // namespace
+}  // namespace quirn::test
