@@ -138,8 +138,16 @@ void frmMain::CenterControls() {
 // The close box only hides the window: the program stays in the tray.
 bool frmMain::Form_QueryUnload(UnloadMode mode) {
     if (mode != UnloadMode::CloseBox) return true;
-    Hide();
+    mnuFile_Close_Click();
     return false;
+}
+
+// The icon is gone for good once the player has stayed at the question of an exit: then he must hear how to come back.
+void frmMain::mnuFile_Close_Click() {
+    Hide();
+    if (!trayCommands_.Icon().IsThere())
+        ShowMessage("QUIRN is still running, but its icon has gone from the tray. Start QUIRN again to see its window.",
+                    kInformation);
 }
 
 bool frmMain::Form_Unload() {

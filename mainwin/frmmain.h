@@ -34,7 +34,7 @@ private:
 
     void MenuCommand(int command);
     void mnuFile_Print_Click();
-    void mnuFile_Close_Click() { Hide(); }
+    void mnuFile_Close_Click();
     void mnuFile_Exit_Click() { Unload(); }
     void mnuOptions_Set_Click();
     void mnuLog_Click();
@@ -70,7 +70,8 @@ private:
     StatusBar StatusBar1;
 
     LogEdit logEdit_;
-    std::unique_ptr<frmLogEdit> logEditor_;  // made when it is first asked for, and kept: it may be in use when it closes
+    std::unique_ptr<frmLogEdit>
+        logEditor_;  // made when first asked for; kept, since it may close in the middle of work
 };
 
 }  // namespace quirn

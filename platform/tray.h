@@ -16,6 +16,7 @@ public:
 
     void Add();  // the form must be loaded; the icon comes back by itself when the shell restarts
     void Remove();
+    bool IsThere() const { return there_; }
     Form& Owner() const { return *form_; }
 
     std::function<void(unsigned)> onMouse;  // a mouse message (WM_...) on the icon

@@ -158,6 +158,13 @@ TEST_F(FrmMainTest, ClosesToTheTrayAndEndsByExitAlone) {
     EXPECT_FALSE(window.Unload());
     EXPECT_EQ(GetSetting("File Locations", "SubSpace", "none"), "none");
 
+    // The icon went with that question: the window would be gone without a trace.
+    window.Show();
+    ExpectMessage("QUIRN is still running, but its icon has gone from the tray. Start QUIRN again to see its window.",
+                  kInformation);
+    window.UserCloses(UnloadMode::CloseBox);
+    EXPECT_FALSE(window.Visible());
+
     program_.recentFiles[0] = "C:\\a.qrn";
     ExpectMessage("Save changes to <current SS settings>", kYesNoCancel | kQuestion, Answer::No, "Save Changes?");
     EXPECT_TRUE(window.Unload());
