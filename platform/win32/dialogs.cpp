@@ -11,6 +11,7 @@
 #include "platform/version.h"
 #include "platform/win32/handle.h"
 #include "platform/win32/metrics.h"
+#include "platform/win32/window.h"
 
 namespace quirn {
 
@@ -30,17 +31,8 @@ std::string CurrentFolder() {
 // The window that waits for a dialog: the active one of this program or, while another program is in front, the
 // foremost that can be used.
 HWND DialogOwner() {
-    if (const HWND active = GetActiveWindow()) return active;
-    HWND owner = nullptr;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM found) -> BOOL {
-            if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
-            *reinterpret_cast<HWND*>(found) = window;
-            return FALSE;
-        },
-        reinterpret_cast<LPARAM>(&owner));
-    return owner;
+    const HWND active = GetActiveWindow();
+    return active != nullptr ? active : win32::ForemostAnswerable(GetCurrentThreadId());
 }
 
 using FileFunction = BOOL(WINAPI*)(OPENFILENAMEA*);
@@ -62,6 +54,7 @@ std::optional<std::string> AskFile(const FileDialog& dialog, FileFunction ask) {
     record.Flags = dialog.flags | OFN_EXPLORER | OFN_NOCHANGEDIR;
     // The system promises to leave the current folder alone only in the dialog to save.
     const std::string folder = CurrentFolder();
+    const win32::OneQuestion question(record.hwndOwner);
     BOOL chosen = ask(&record);
     if (!chosen && CommDlgExtendedError() == FNERR_INVALIDFILENAME) {
         path[0] = '\0';
@@ -85,6 +78,7 @@ Answer ShowMessage(const std::string& text, unsigned style, const std::string& c
     const HWND owner = GetActiveWindow();
     // Without an owner the box would open behind other programs and leave hidden windows of this one usable.
     if (owner == nullptr) style |= MB_SETFOREGROUND | MB_TASKMODAL;
+    const win32::OneQuestion question(owner);
     switch (MessageBoxA(owner, text.c_str(), caption.empty() ? kTitle : caption.c_str(), style)) {
         case IDOK: return Answer::Ok;
         case IDYES: return Answer::Yes;
@@ -122,6 +116,7 @@ std::optional<Font> AskFont(const Font& current) {
     record.lpLogFont = &description;
     record.Flags = CF_SCREENFONTS | CF_EFFECTS | CF_INITTOLOGFONTSTRUCT | CF_FORCEFONTEXIST | CF_ENABLEHOOK;
     record.lpfnHook = HideColors;
+    const win32::OneQuestion question(record.hwndOwner);
     if (!ChooseFontA(&record)) return std::nullopt;
     return Font{.face = description.lfFaceName,
                 .points = std::max(record.iPointSize / kTenthsPerPoint, 1),
@@ -139,6 +134,7 @@ std::optional<Color> AskColor(Color current) {
     record.rgbResult = current;
     record.lpCustColors = custom;
     record.Flags = CC_RGBINIT | CC_FULLOPEN;
+    const win32::OneQuestion question(record.hwndOwner);
     if (!ChooseColorA(&record)) return std::nullopt;
     return record.rgbResult;
 }

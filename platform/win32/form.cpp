@@ -119,8 +119,8 @@ void RestoreFocus(Form& form) {
 // A form that waits for a dialog gives the keyboard to that one. False when nothing of the kind is in sight.
 bool PassOnActivation(const Form& form) {
     if (!form.IsBlocked()) return false;
-    const HWND dialog = GetLastActivePopup(WindowOf(form));
-    if (dialog == WindowOf(form) || !IsWindowVisible(dialog) || !IsWindowEnabled(dialog)) return false;
+    const HWND dialog = AnswerableFor(WindowOf(form));
+    if (dialog == WindowOf(form)) return false;
     SetActiveWindow(dialog);
     return true;
 }
@@ -312,7 +312,7 @@ bool IsBlocked(const Form& form) {
 
 void BringToFront(Form& form) {
     if (form.IsMinimized()) ShowWindow(WindowOf(form), SW_RESTORE);
-    SetForegroundWindow(IsBlocked(form) ? GetLastActivePopup(WindowOf(form)) : WindowOf(form));
+    SetForegroundWindow(AnswerableFor(WindowOf(form)));
 }
 
 void Repaint(Form& form) {

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "platform/win32/handle.h"
+#include "platform/win32/window.h"
 
 namespace quirn {
 
@@ -15,26 +16,6 @@ HWND ToWindow(WindowHandle window) {
 }
 WindowHandle FromWindow(HWND window) {
     return reinterpret_cast<WindowHandle>(window);
-}
-
-bool CanAnswer(HWND window) {
-    return IsWindowVisible(window) && IsWindowEnabled(window);
-}
-
-BOOL CALLBACK FindAnswerable(HWND window, LPARAM found) {
-    if (!CanAnswer(window)) return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
-}
-
-// The box or dialog that a disabled window waits for. A box that is nobody's, because it came before its program had a
-// window to show, is the foremost that the player can use; null when there is none.
-HWND WaitedFor(HWND window) {
-    const HWND dialog = GetLastActivePopup(window);
-    if (CanAnswer(dialog)) return dialog;
-    HWND found = nullptr;
-    EnumThreadWindows(GetWindowThreadProcessId(window, nullptr), FindAnswerable, reinterpret_cast<LPARAM>(&found));
-    return found;
 }
 
 }  // namespace
@@ -107,8 +88,7 @@ bool ShowNormal(WindowHandle window) {
 }
 
 void BringToFront(WindowHandle window) {
-    const HWND waitedFor = IsWindowEnabled(ToWindow(window)) ? nullptr : WaitedFor(ToWindow(window));
-    SetForegroundWindow(waitedFor != nullptr ? waitedFor : ToWindow(window));
+    SetForegroundWindow(win32::AnswerableFor(ToWindow(window)));
 }
 
 }  // namespace quirn

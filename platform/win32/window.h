@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <set>
+#include <vector>
 
 #include "platform/controls.h"
 #include "platform/form.h"
@@ -98,6 +99,27 @@ void MenuHighlighted(Form& form, WPARAM wParam, LPARAM lParam);
 
 // modal.cpp
 void EndModal(Form& form);
+
+// The foremost window of a thread that the player can see and use; null when there is none.
+HWND ForemostAnswerable(DWORD thread);
+
+// A window of any program or, when it is disabled, the box or dialog that it waits for. That need not be its own: a box
+// that came before its program had a window to show is nobody's.
+HWND AnswerableFor(HWND window);
+
+// While a box or dialog waits for its answer all forms wait, not only the one that asks: no second question opens
+// beside the first, and no command begins in the middle of another. The owner is left to the box itself, as all are
+// when there is no owner.
+class OneQuestion {
+public:
+    explicit OneQuestion(HWND owner);
+    ~OneQuestion();
+    OneQuestion(const OneQuestion&) = delete;
+    OneQuestion& operator=(const OneQuestion&) = delete;
+
+private:
+    std::vector<HWND> waiting_;
+};
 
 // tray.cpp: true when the message was the tray's.
 inline constexpr UINT kTrayMessage = 1124;
