@@ -71,7 +71,7 @@ private:
     [[maybe_unused]] void* handle_ = nullptr;
 };
 
-// True when the disk that holds the path has no room for so many more bytes.
+// True when the disk that holds the path says that it has no room for so many more bytes.
 bool DiskIsFull(const std::string& path, size_t bytes);
 
 // The path from the drive on, "." and ".." resolved; the path as it is when the system cannot tell.

@@ -233,7 +233,9 @@ bool DiskIsFull(const std::string& path, size_t bytes) {
     const std::string whole = AbsolutePath(path);
     const std::string folder = whole.substr(0, whole.rfind('\\') + 1);
     ULARGE_INTEGER room{};
-    return GetDiskFreeSpaceExA(folder.c_str(), &room, nullptr, nullptr) && room.QuadPart < bytes;
+    ULARGE_INTEGER total{};
+    // Some network and user-space file systems count nothing: a disk of 0 bytes does not tell.
+    return GetDiskFreeSpaceExA(folder.c_str(), &room, &total, nullptr) && total.QuadPart > 0 && room.QuadPart < bytes;
 }
 
 std::string AbsolutePath(const std::string& path) {
