@@ -55,25 +55,28 @@ void FileCommands::mnuFile_Open_Click() {
                                    .folder = program_.qrnFolder,
                                    .fileName = "",
                                    .flags = kFileMustExist | kHideReadOnly});
-    if (path) OpenProfile(*path);
+    if (!path) return;
+    // Before loading, on purpose: a later Save writes to the file that could not be loaded.
+    program_.CurrentFile = *path;
+    OpenProfile(*path);
 }
 
 void FileCommands::OpenDropped(const std::string& path) {
-    if (MayDiscard()) OpenProfile(path);
+    // Not as Open: whatever was dropped by mistake must survive the next Save.
+    if (MayDiscard() && OpenProfile(path)) program_.CurrentFile = path;
 }
 
-void FileCommands::OpenProfile(const std::string& path) {
-    // Before loading, on purpose: a later Save writes to the file that could not be loaded.
-    program_.CurrentFile = path;
+bool FileCommands::OpenProfile(const std::string& path) {
     if (!LoadProfileAndTell(program_.profile, path)) {
         view_.SetStatus(kLoadFailed);
-        return;
+        return false;
     }
     AddToRecentFiles(path);
     ShowTitle(path);
     view_.ShowProfile();
     view_.SetStatus(kLoaded);
     program_.dirty = false;
+    return true;
 }
 
 // This and Save As show their own error, on purpose: the player must know before the next command runs.

@@ -30,7 +30,7 @@ public:
 
     void mnuFile_New_Click();
     void mnuFile_Open_Click();
-    void OpenDropped(const std::string& path);  // as Open does, with this file
+    void OpenDropped(const std::string& path);  // as Open, but current is only a file that loaded
     void mnuFile_Save_Click();
     bool mnuFile_SaveAs_Click();  // true when a file has been chosen and saved
     void mnuFileMRU_Click(size_t index);
@@ -38,7 +38,7 @@ public:
 
 private:
     bool MayDiscard() { return !program_.dirty || AskSaveChanges(); }
-    void OpenProfile(const std::string& path);
+    bool OpenProfile(const std::string& path);
     void AddToRecentFiles(const std::string& path);
     void ShowTitle(const std::string& file);
 

@@ -120,6 +120,9 @@ TEST_F(FileCommandsTest, OpenAsksFirstAndKeepsANameThatFailed) {
     commands_.OpenDropped(old_);
     EXPECT_EQ(program_.CurrentFile, old_);
     EXPECT_FALSE(program_.dirty);
+    ExpectMessage("ERROR - Could not find profile named '" + new_ + "'", kCritical);
+    commands_.OpenDropped(new_);
+    EXPECT_EQ(program_.CurrentFile, old_);  // and what was dropped by mistake survives the next Save
 }
 
 TEST_F(FileCommandsTest, SaveAsTakesNameTitleAndPlaceInTheList) {
