@@ -7,16 +7,14 @@
 
 #include "platform/files.h"
 #include "platform/headless/headless.h"
+#include "platform/initext.h"
 
-// The rules of the system's private-profile functions, as measured, over files in memory. Like Windows it changes lines
-// in place and leaves all others, blank ones too, byte for byte.
+// The system's private-profile functions over files in memory.
 namespace quirn {
 
 namespace {
 
 using headless::File;
-
-constexpr std::string_view kLineEnd = "\r\n";
 
 // --- Encodings: a file that starts with a byte order mark is Unicode
 // --------------------------------------------------
@@ -93,102 +91,6 @@ std::string Encode(std::string_view text, Encoding encoding) {
     return bytes;
 }
 
-// --- Lines
-// ------------------------------------------------------------------------------------------------------------
-
-// What counts as a blank at the ends of a line, a name or a value. 0x1A does at the ends of a line only in effect:
-// nobody writes it elsewhere.
-constexpr std::string_view kBlanks = " \t\v\f\x1A";
-
-std::string_view TrimStart(std::string_view text) {
-    return text.substr(std::min(text.find_first_not_of(kBlanks), text.size()));
-}
-
-std::string_view TrimBlanks(std::string_view text) {
-    text = TrimStart(text);
-    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
-}
-
-enum class LineKind { Blank, Comment, Section, Entry, Bare };
-
-struct Line {
-    std::string raw;  // with its line end
-    LineKind kind;
-    std::string name;   // of a section or an entry; the whole text of a bare line
-    std::string value;  // of an entry, quotes and all
-};
-
-Line ParseLine(std::string_view raw) {
-    Line line{std::string(raw), LineKind::Blank, {}, {}};
-    const std::string_view text = TrimBlanks(raw.substr(0, raw.find_first_of(std::string_view("\r\n\0", 3))));
-    if (text.empty()) return line;
-    const size_t bracket = text.find(']');
-    const size_t equals = text.find('=');
-    if (text.starts_with(';')) {
-        line.kind = LineKind::Comment;
-    } else if (text.starts_with('[') && bracket != std::string_view::npos) {
-        line.kind = LineKind::Section;
-        line.name = TrimBlanks(text.substr(1, bracket - 1));
-    } else if (equals != std::string_view::npos) {
-        line.kind = LineKind::Entry;
-        line.name = TrimBlanks(text.substr(0, equals));
-        line.value = TrimBlanks(text.substr(equals + 1));
-    } else {
-        line.kind = LineKind::Bare;
-        line.name = text;
-    }
-    return line;
-}
-
-using Lines = std::vector<Line>;
-
-Lines Parse(std::string_view text) {
-    Lines lines;
-    while (!text.empty()) {
-        const size_t end = text.find_first_of(kLineEnd);
-        const size_t length = end == std::string_view::npos            ? text.size()
-                              : text.substr(end).starts_with(kLineEnd) ? end + 2
-                                                                       : end + 1;
-        lines.push_back(ParseLine(text.substr(0, length)));
-        text.remove_prefix(length);
-    }
-    return lines;
-}
-
-// --- Sections
-// ---------------------------------------------------------------------------------------------------------
-
-// A section's lines without its header. Lines before the first header belong to the section without a name.
-struct Range {
-    size_t begin;
-    size_t end;
-};
-
-std::optional<Range> FindSection(const Lines& lines, std::string_view section) {
-    size_t begin = 0;
-    if (!section.empty()) {
-        const auto header = std::find_if(lines.begin(), lines.end(), [&](const Line& line) {
-            return line.kind == LineKind::Section && EqualNoCase(line.name, section);
-        });
-        if (header == lines.end()) return std::nullopt;
-        begin = static_cast<size_t>(header - lines.begin()) + 1;
-    }
-    size_t end = begin;
-    while (end < lines.size() && lines[end].kind != LineKind::Section) ++end;
-    return Range{begin, end};
-}
-
-std::optional<size_t> FindKey(const Lines& lines, Range range, LineKind kind, std::string_view key) {
-    for (size_t i = range.begin; i < range.end; ++i)
-        if (lines[i].kind == kind && EqualNoCase(lines[i].name, key)) return i;
-    return std::nullopt;
-}
-
-std::string_view WithoutQuotes(std::string_view value) {
-    const bool quoted = value.size() >= 2 && value.front() == value.back() && (value[0] == '"' || value[0] == '\'');
-    return quoted ? value.substr(1, value.size() - 2) : value;
-}
-
 // --- Files
 // ------------------------------------------------------------------------------------------------------------
 
@@ -197,12 +99,12 @@ std::string PathOf(const std::string& file) {
     return file.find_first_of("\\/:") == std::string::npos ? "C:\\Windows\\" + file : file;
 }
 
-Lines Load(const std::string& file) {
+std::string Load(const std::string& file) {
     const Result<std::string> bytes = ReadWholeFile(PathOf(file));
-    return bytes.Failed() ? Lines() : Parse(Decode(bytes.Value()));
+    return bytes.Failed() ? std::string() : Decode(bytes.Value());
 }
 
-// Lets a change work on a file's lines and stores them.
+// Lets a change make a file's new text of the old one and stores it.
 template <class Change>
 bool ChangeFile(const std::string& file, Change change) {
     const std::string path = PathOf(file);
@@ -210,26 +112,9 @@ bool ChangeFile(const std::string& file, Change change) {
     File* stored = headless::FindFile(path);
     if (stored != nullptr && (stored->readOnly || stored->holders > 0)) return false;
     if (stored == nullptr) stored = &headless::PutFile(path, {});
-    const Encoding encoding = EncodingOf(stored->bytes);
-    Lines lines = Parse(Decode(stored->bytes));
-    change(lines);
-    std::string text;
-    for (const Line& line : lines) text += line.raw;
     // The system's functions report success on a full disk and leave the file cut, and so does this.
-    headless::Store(*stored, Encode(text, encoding));
+    headless::Store(*stored, Encode(change(Decode(stored->bytes)), EncodingOf(stored->bytes)));
     return true;
-}
-
-void Insert(Lines& lines, size_t at, const std::string& text) {
-    if (at > 0 && !lines[at - 1].raw.ends_with('\n') && !lines[at - 1].raw.ends_with('\r'))
-        lines[at - 1].raw += kLineEnd;
-    lines.insert(lines.begin() + static_cast<Lines::difference_type>(at), ParseLine(text + std::string(kLineEnd)));
-}
-
-Range FindOrMakeSection(Lines& lines, const std::string& section) {
-    if (const auto found = FindSection(lines, TrimBlanks(section))) return *found;
-    Insert(lines, lines.size(), "[" + std::string(TrimStart(section)) + "]");
-    return {lines.size(), lines.size()};
 }
 
 }  // namespace
@@ -237,70 +122,33 @@ Range FindOrMakeSection(Lines& lines, const std::string& section) {
 std::string ReadIniValue(const std::string& file, const std::string& section, const std::string& key,
                          const std::string& defaultValue, size_t size) {
     if (size == 0) return {};
-    const Lines lines = Load(file);
-    std::optional<size_t> found;
-    if (const auto range = FindSection(lines, TrimBlanks(section.c_str())))
-        found = FindKey(lines, *range, LineKind::Entry, TrimBlanks(key.c_str()));
-    std::string_view value;
-    if (found) {
-        value = lines[*found].value;
-    } else {
-        value = defaultValue.c_str();
-        value = value.substr(0, value.find_last_not_of(' ') + 1);
-    }
+    std::string value = defaultValue.c_str();
+    value.resize(value.find_last_not_of(' ') + 1);
+    if (auto found = FindIniValue(Load(file), section.c_str(), key.c_str())) value = *std::move(found);
     return std::string(WithoutQuotes(value).substr(0, size - 1));
 }
 
 std::string ReadIniSection(const std::string& file, const std::string& section, size_t size) {
     if (size < 3) return {};
-    const Lines lines = Load(file);
-    const auto range = FindSection(lines, TrimBlanks(section.c_str()));
-    if (!range) return {};
-    std::string entries;
-    for (size_t i = range->begin; i < range->end; ++i) {
-        const Line& line = lines[i];
-        if (line.kind == LineKind::Entry) entries += line.name + "=" + line.value + '\0';
-        else if (line.kind == LineKind::Bare) entries += line.name + '\0';
-    }
-    return entries.substr(0, size - 2);
+    return FindIniSection(Load(file), section.c_str()).value_or("").substr(0, size - 2);
 }
 
 bool WriteIniValue(const std::string& file, const std::string& section, const std::string& key,
                    const std::string& value) {
-    return ChangeFile(file, [&](Lines& lines) {
-        const Range range = FindOrMakeSection(lines, section.c_str());
-        const std::string_view name = TrimBlanks(key.c_str());
-        const std::string content = "=" + std::string(TrimStart(value.c_str()));
-        auto found = FindKey(lines, range, LineKind::Entry, name);
-        if (!found) found = FindKey(lines, range, LineKind::Bare, name);
-        if (found) {
-            Line& line = lines[*found];
-            const size_t end = std::min(line.raw.find_first_of(kLineEnd), line.raw.size());
-            line.raw = line.name + content + line.raw.substr(end);
-            return;
-        }
-        size_t at = range.end;
-        while (at > range.begin && lines[at - 1].kind == LineKind::Blank) --at;
-        Insert(lines, at, std::string(TrimStart(key.c_str())) + content);
+    return ChangeFile(file, [&](const std::string& text) {
+        return WithIniKeys(text, section.c_str(), {{key.c_str(), value}});
     });
 }
 
 bool WriteIniSection(const std::string& file, const std::string& section, const std::string& entries) {
-    return ChangeFile(file, [&](Lines& lines) {
-        const Range range = FindOrMakeSection(lines, section.c_str());
-        const auto place = [&](size_t at) { return lines.begin() + static_cast<Lines::difference_type>(at); };
-        lines.erase(place(range.begin), place(range.end));
-        size_t at = range.begin;
-        for (size_t from = 0; from < entries.size() && entries[from] != '\0';) {
-            const std::string entry = entries.c_str() + from;
-            from += entry.size() + 1;
-            const size_t equals = entry.find('=');
-            if (equals == std::string::npos) continue;
-            Insert(lines, at++,
-                   std::string(TrimStart(entry.substr(0, equals))) + "=" +
-                       std::string(TrimStart(std::string_view(entry).substr(equals + 1))));
-        }
-    });
+    std::vector<IniEntry> list;
+    for (size_t from = 0; from < entries.size() && entries[from] != '\0';) {
+        const std::string entry = entries.c_str() + from;
+        from += entry.size() + 1;
+        if (const size_t equals = entry.find('='); equals != std::string::npos)
+            list.push_back({entry.substr(0, equals), entry.substr(equals + 1)});
+    }
+    return ChangeFile(file, [&](const std::string& text) { return WithIniSection(text, section.c_str(), list); });
 }
 
 }  // namespace quirn

@@ -1,7 +1,9 @@
 #include "platform/inifile.h"
 
+#include <random>
 #include <vector>
 
+#include "platform/initext.h"
 #include "platform/text.h"
 #include "tests/testing/world.h"
 
@@ -148,6 +150,25 @@ TEST_F(IniFileTest, WritesSections) {
         PutFile(file_, row.before);
         EXPECT_TRUE(WriteIniSection(file_, "s", row.entries)) << row.before;
         EXPECT_EQ(LinesAfter(), row.after) << row.before;
+    }
+}
+
+// What the program writes itself, the system's functions would have written.
+TEST_F(IniFileTest, ManyKeysAtOnceAreAsOneByOne) {
+    std::mt19937 random(9);
+    const char* const lines[] = {
+        "[s]", "[ S ] x", "[t]", "k=1", " K = 2", "x=", ";c", ";k=3", "bare", "y='q'", "", " "};
+    const char* const ends[] = {"\r\n", "\r\n", "\n", "\r"};
+    const std::vector<IniEntry> entries{{"k", "new"}, {"fresh", " 1"}, {"x", "\"q\""}, {"FRESH", "2"}, {"bare", "3"}};
+    for (int round = 0; round < 60; ++round) {
+        std::string text;
+        for (auto i = random() % 12; i > 0; --i) text += std::string(lines[random() % 12]) + ends[random() % 4];
+        PutFile(file_, text);
+        for (const IniEntry& entry : entries) ASSERT_TRUE(WriteIniValue(file_, "s", entry.key, entry.value));
+        const auto sections = [&] { return ReadIniSection(file_, "s", 999) + "|" + ReadIniSection(file_, "t", 999); };
+        const std::string oneByOne = sections();
+        PutFile(file_, WithIniKeys(text, "s", entries));
+        EXPECT_EQ(sections(), oneByOne) << text;
     }
 }
 
