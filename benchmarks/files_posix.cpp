@@ -48,13 +48,18 @@ Result<size_t> FileReader::Read(char* buffer, size_t bytes) {
 }
 
 FileReplacer::~FileReplacer() {
+    Abandon();
+}
+
+void FileReplacer::Abandon() {
     if (handle_ != nullptr) close(Descriptor(handle_));
-    if (!path_.empty()) unlink((path_ + kUnfinishedSuffix).c_str());
+    if (!path_.empty()) unlink(unfinished_.c_str());
 }
 
 Failure FileReplacer::Open(const std::string& path) {
     path_ = path;
-    const int file = open((path + kUnfinishedSuffix).c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    unfinished_ = path + kUnfinishedSuffix;
+    const int file = open(unfinished_.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
     if (file < 0) return LastError();
     handle_ = HandleOf(file);
     return {};
@@ -71,7 +76,7 @@ Failure FileReplacer::Write(std::string_view bytes) {
 
 Failure FileReplacer::Finish() {
     if (fsync(Descriptor(handle_)) != 0) return LastError();
-    if (rename((path_ + kUnfinishedSuffix).c_str(), path_.c_str()) != 0) return LastError();
+    if (rename(unfinished_.c_str(), path_.c_str()) != 0) return LastError();
     path_.clear();
     return {};
 }

@@ -18,20 +18,6 @@ bool FolderExists(const std::string& path);
 // The whole file. Opens files that another program still has open for writing.
 Result<std::string> ReadWholeFile(const std::string& path);
 
-// Creates or replaces the file in one step: the bytes go into a file of a fixed name beside it (the path with
-// kUnfinishedSuffix), which is flushed to the disk and then put in the old one's place. On failure the old file
-// is whole. A read-only file is not replaced (75), nor one that another program holds (70).
-Failure WriteWholeFile(const std::string& path, std::string_view bytes);
-
-// The steps of that, for files that other functions write:
-// BeginReplacement checks that the file may be replaced and makes the file beside it, a copy of the old one or
-// empty; its path is the result. FinishReplacement flushes that file and puts it in place. AbandonReplacement
-// deletes it.
-inline constexpr char kUnfinishedSuffix[] = ".quirn-unfinished";
-Result<std::string> BeginReplacement(const std::string& path);
-Failure FinishReplacement(const std::string& path);
-void AbandonReplacement(const std::string& path);
-
 // Reads a file piece by piece, from its start on. Opens files that another program still has open for writing.
 class FileReader {
 public:
@@ -52,9 +38,10 @@ private:
     [[maybe_unused]] uint64_t position_ = 0;  // where the system does not keep it
 };
 
-// Creates or replaces a file in one step as WriteWholeFile does, for content that comes piece by piece: Open makes the
-// file beside it, Finish flushes that and puts it in place. Without Finish (or when that fails) the old file is whole
-// and the unfinished one is deleted at the end of this object's life.
+// Creates or replaces a file in one step: Open makes an empty file beside it, Write fills that, Finish flushes it to
+// the disk and puts it in the old one's place. Without Finish (or when that fails) the old file is whole and the
+// unfinished one is deleted. A link's target is replaced, not the link. Open refuses a read-only file (75) and one that
+// another program holds (70).
 class FileReplacer {
 public:
     FileReplacer() = default;
@@ -66,10 +53,32 @@ public:
     Failure Write(std::string_view bytes);
     Failure Finish();
 
+    // The unfinished file. Until Finish, others may read and change it, but not delete it.
+    const std::string& Unfinished() const { return unfinished_; }
+
 private:
+    void Abandon();
+
     std::string path_;  // of the target; empty while nothing is open
+    std::string unfinished_;
     [[maybe_unused]] void* handle_ = nullptr;
 };
+
+// The same for content that is there already.
+Failure WriteWholeFile(const std::string& path, std::string_view bytes);
+
+// Where a file is written before it takes the place of the file at this path: the path with kUnfinishedSuffix, the name
+// cut at its front where the whole would be too long for the system.
+inline constexpr char kUnfinishedSuffix[] = "~quirn";
+std::string UnfinishedPath(const std::string& path);
+
+// Deletes the unfinished files that a program which was cut off has left: that of one file, or those of a folder on a
+// disk of this machine (elsewhere asking may take long). A file that is being written stays.
+void SweepUnfinished(const std::string& path);
+void SweepFolder(const std::string& folder);
+
+// False when there is none or it is held.
+bool RemoveFile(const std::string& path);
 
 // True when the disk that holds the path says that it has no room for so many more bytes.
 bool DiskIsFull(const std::string& path, size_t bytes);

@@ -9,7 +9,6 @@ namespace quirn {
 namespace {
 
 constexpr size_t kShortestFileName = 6;
-constexpr size_t kValueBuffer = 255;
 constexpr size_t kSectionBuffer = 4096;
 
 }  // namespace

@@ -4,6 +4,8 @@
 
 namespace quirn {
 
+inline constexpr size_t kValueBuffer = 255;  // bytes that a value is read into, its NUL included
+
 // Reads and writes one section of one INI file at a time, through the private-profile functions and without a cache.
 // No operation reports an error: a missing file reads as empty, writing makes it. Who must know what the disk holds
 // reads it back.

@@ -5,107 +5,140 @@
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/inifile.h"
+#include "platform/initext.h"
 #include "platform/text.h"
 #include "platform/version.h"
 #include "profile/initfiles.h"
+#include "profile/sectionreader.h"
 #include "profile/splitpath.h"
 
 namespace quirn {
 
 namespace {
 
+constexpr char kIgnoreList[] = "IgnoreList";
 constexpr const char* kWaveKeys[] = {"WaveFileF11", "WaveFileF12"};
 
 std::string IgnoreKey(size_t number) {
     return "Ignore" + std::to_string(number);
 }
 
-void ReadSection(clsIniTFiles& file, Section& section, const char* defaultValue) {
-    file.SectionName = section.name;
-    for (int i = 1; i <= section.Count(); ++i) section.Value(i) = file.ReadKey(section.Name(i), defaultValue);
+void ReadSection(const SectionReader& file, Section& section, const char* defaultValue) {
+    for (int i = 1; i <= section.Count(); ++i)
+        section.Value(i) = file.Read(section.Name(i), defaultValue, kValueBuffer);
 }
 
-void ReadIgnoreList(clsIniTFiles& file, std::vector<std::string>& list) {
-    file.SectionName = "IgnoreList";
-    list.clear();
+std::vector<std::string> ReadIgnoreList(const SectionReader& file) {
+    std::vector<std::string> list;
     for (;;) {
-        std::string name = file.ReadKey(IgnoreKey(list.size() + 1), "");
-        if (name.empty()) return;
+        std::string name = file.Read(IgnoreKey(list.size() + 1), "", kValueBuffer);
+        if (name.empty()) return list;
         list.push_back(std::move(name));
     }
 }
 
-// Writes keys and remembers them, so that they can be compared with what the disk holds.
-class CheckedWriter {
-public:
-    explicit CheckedWriter(const std::string& path) { file_.InitFileName = path; }
+std::string_view WithoutBlanks(std::string_view text) {
+    const auto isBlank = [](char c) { return static_cast<unsigned char>(c) <= ' '; };
+    while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+    return text;
+}
 
-    void Section(const std::string& name) { file_.SectionName = name; }
+// What reading gives for a written text: the blanks around it and one pair of quotes are lost, and a text ends with its
+// line.
+std::string_view AsRead(std::string_view text) {
+    return WithoutBlanks(
+        WithoutQuotes(WithoutBlanks(text.substr(0, text.find_first_of(std::string_view("\r\n\0", 3))))));
+}
 
-    void Key(const std::string& key, const std::string& value) {
-        file_.WriteKey(key, value);
-        written_.push_back({file_.SectionName, key, value});
-        size_ += key.size() + value.size() + 3;
-    }
-
-    void All(const quirn::Section& section) {
-        Section(section.name);
-        for (int i = 1; i <= section.Count(); ++i) Key(section.Name(i), section.Value(i));
-    }
-
-    // The private-profile functions report success on a full disk; only reading back tells.
-    // Checks what has been written since the last check.
-    Failure Check() {
-        for (const Entry& entry : written_) {
-            const std::string found =
-                ReadIniValue(file_.InitFileName, entry.section, entry.key, "", entry.value.size() + kRoomForQuotes);
-            if (WithoutBlanks(found) != AsRead(entry.value))
-                return MakeError(DiskIsFull(file_.InitFileName, size_) ? ErrorNumber::DiskFull
-                                                                       : ErrorNumber::PathFileAccess);
-        }
-        written_.clear();
-        return {};
-    }
-
-    // What reading gives for a written text: the blanks around it and one pair of quotes are lost, and a text ends with
-    // its line.
-    static std::string_view AsRead(std::string_view text) {
-        text = WithoutBlanks(text.substr(0, text.find_first_of(std::string_view("\r\n\0", 3))));
-        const bool quoted =
-            text.size() >= 2 && text.front() == text.back() && (text.front() == '"' || text.front() == '\'');
-        return quoted ? WithoutBlanks(text.substr(1, text.size() - 2)) : text;
-    }
-
-private:
-    struct Entry {
-        std::string section, key, value;
-    };
-
-    static constexpr size_t kRoomForQuotes = 4;
-
-    static std::string_view WithoutBlanks(std::string_view text) {
-        const auto isBlank = [](char c) { return static_cast<unsigned char>(c) <= ' '; };
-        while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
-        while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
-        return text;
-    }
-
-    clsIniTFiles file_;
-    std::vector<Entry> written_;
-    size_t size_ = 0;
+struct SavedSection {
+    std::string name;
+    std::vector<IniEntry> entries;
 };
 
-// An upper bound of the bytes that saving may add to the two files.
-size_t RoomNeeded(const Profile& profile) {
-    constexpr size_t kEnoughForHeaders = 1024;
-    size_t room = kEnoughForHeaders;
-    for (const Section* section : profile.Sections()) {
-        for (int i = 1; i <= section->Count(); ++i) room += section->Name(i).size() + 2 * section->Value(i).size() + 5;
+SavedSection Saved(const Section& section) {
+    SavedSection saved{section.name, {}};
+    for (int i = 1; i <= section.Count(); ++i) saved.entries.push_back({section.Name(i), section.Value(i)});
+    return saved;
+}
+
+SavedSection SavedIgnoreList(const std::vector<std::string>& list) {
+    SavedSection saved{kIgnoreList, {}};
+    for (const std::string& name : list) {
+        // What reads back as nothing would end the list for the reader, and the names after it would be lost.
+        if (!AsRead(name).empty()) saved.entries.push_back({IgnoreKey(saved.entries.size() + 1), name});
     }
-    for (const std::string& path : profile.WaveFiles) room += path.size();
-    for (const std::string& name : profile.IgnoreList)
-        room += name.size() + IgnoreKey(profile.IgnoreList.size()).size() + 3;
-    return room;
+    // Ends the list on purpose: names of an older, longer list in the same file are never read.
+    saved.entries.push_back({IgnoreKey(saved.entries.size() + 1), ""});
+    return saved;
+}
+
+// In the order of the file.
+std::vector<SavedSection> SavedSections(const Profile& profile) {
+    const SavedSection header{kTitle, {{"Version", VersionText()}, {"Modified", ShortDateAndTime()}}};
+    SavedSection dialog = Saved(profile.Dialog);
+    for (size_t i = 0; i < profile.WaveFiles.size(); ++i)
+        dialog.entries.push_back({kWaveKeys[i], profile.WaveFiles[i]});
+    return {header,
+            dialog,
+            Saved(profile.Messages),
+            Saved(profile.Options),
+            Saved(profile.Advanced),
+            SavedIgnoreList(profile.IgnoreList),
+            Saved(profile.HiddenOptions)};
+}
+
+// An upper bound of the bytes that saving adds to a file, in the widest of the encodings.
+size_t RoomNeeded(const std::vector<SavedSection>& sections) {
+    size_t room = 0;
+    for (const SavedSection& section : sections) {
+        room += section.name.size() + 6;
+        for (const IniEntry& entry : section.entries) room += entry.key.size() + entry.value.size() + 3;
+    }
+    return 3 * room;
+}
+
+bool ReadsBack(const std::string& path, const std::vector<SavedSection>& sections) {
+    constexpr size_t kRoomForQuotes = 4;
+    for (const SavedSection& section : sections) {
+        const SectionReader file(path, section.name);
+        for (const IniEntry& entry : section.entries) {
+            const std::string found = file.Read(entry.key, "", entry.value.size() + kRoomForQuotes);
+            if (WithoutBlanks(found) != AsRead(entry.value)) return false;
+        }
+    }
+    return true;
+}
+
+bool IsUnicode(std::string_view bytes) {
+    return bytes.starts_with("\xEF\xBB\xBF") || bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
+}
+
+// Makes the unfinished file: the sections written over what the path holds.
+Failure WriteSections(FileReplacer& file, const std::string& path, const std::vector<SavedSection>& sections) {
+    if (Failure failure = file.Open(path)) return failure;
+    const Result<std::string> read = ReadWholeFile(path);
+    if (read.Failed() && read.Error().number != static_cast<int>(ErrorNumber::FileNotFound)) return read.Error();
+    const std::string old = read.Failed() ? std::string() : read.Value();
+    // Also for the macro file, which is smaller than one section: both are saved or none.
+    if (DiskIsFull(path, old.size() + RoomNeeded(sections))) return MakeError(ErrorNumber::DiskFull);
+
+    if (!IsUnicode(old)) {
+        std::string text = old;
+        for (const SavedSection& section : sections) text = WithIniKeys(text, section.name, section.entries);
+        if (Failure failure = file.Write(text)) return failure;
+        if (ReadsBack(file.Unfinished(), sections)) return {};
+        if (Failure failure = file.Open(path)) return failure;
+    }
+    // The system reads Unicode files, and a freak among the others, in its own way, so its functions write them: key by
+    // key, and each goes through the whole file. They report success on a full disk; only reading back tells.
+    if (Failure failure = file.Write(old)) return failure;
+    for (const SavedSection& section : sections)
+        for (const IniEntry& entry : section.entries)
+            WriteIniValue(file.Unfinished(), section.name, entry.key, entry.value);
+    if (ReadsBack(file.Unfinished(), sections)) return {};
+    return MakeError(DiskIsFull(path, old.size() + RoomNeeded(sections)) ? ErrorNumber::DiskFull
+                                                                         : ErrorNumber::PathFileAccess);
 }
 
 // The game's own macro format: sixteen lines.
@@ -127,66 +160,34 @@ LoadResult LoadProfile(Profile& profile, const std::string& fileName) {
 
     file.SectionName = kTitle;
     const bool earlier = Val(VersionText()) > Val(file.ReadKey("Version", "0.00"));
-    ReadSection(file, profile.Dialog, "0");
-    for (size_t i = 0; i < profile.WaveFiles.size(); ++i) profile.WaveFiles[i] = file.ReadKey(kWaveKeys[i], kNotSet);
-    ReadSection(file, profile.Messages, "");
-    ReadSection(file, profile.Options, "0");
-    ReadSection(file, profile.Advanced, "0");
+    for (Section* section : profile.Sections()) {
+        const SectionReader reader(file.InitFileName, section->name);
+        ReadSection(reader, *section, section == &profile.Messages ? "" : "0");
+        if (section != &profile.Dialog) continue;
+        for (size_t i = 0; i < profile.WaveFiles.size(); ++i)
+            profile.WaveFiles[i] = reader.Read(kWaveKeys[i], kNotSet, kValueBuffer);
+    }
     if (Val(profile.Advanced.Value(kGammaPercent)) == 0) profile.Advanced.Value(kGammaPercent) = "100";
-    ReadIgnoreList(file, profile.IgnoreList);
+    profile.IgnoreList = ReadIgnoreList(SectionReader(file.InitFileName, kIgnoreList));
     profile.ignoreFileUnread = false;
-    ReadSection(file, profile.HiddenOptions, "0");
     return earlier ? LoadResult::LoadedFromEarlierVersion : LoadResult::Loaded;
 }
 
 Failure SaveProfile(const Profile& profile, const std::string& gameFolder, const std::string& fileName) {
     const std::string path = AbsolutePath(fileName);
-    const Result<std::string> unfinished = BeginReplacement(path);
-    if (unfinished.Failed()) return unfinished.Error();
+    std::vector<SavedSection> sections = SavedSections(profile);
+    FileReplacer file;
+    if (Failure failure = WriteSections(file, path, sections)) return failure;
 
-    // On a disk that fills up, the file is cut at its end, where it may hold lines that are not this program's and that
-    // reading back would not miss.
-    if (DiskIsFull(path, RoomNeeded(profile))) {
-        AbandonReplacement(path);
-        return MakeError(ErrorNumber::DiskFull);
-    }
-
-    CheckedWriter writer(unfinished.Value());
-    writer.Section(kTitle);
-    writer.Key("Version", VersionText());
-    writer.Key("Modified", ShortDateAndTime());
-    writer.All(profile.Dialog);
-    for (size_t i = 0; i < profile.WaveFiles.size(); ++i) writer.Key(kWaveKeys[i], profile.WaveFiles[i]);
-    writer.All(profile.Messages);
-    writer.All(profile.Options);
-    writer.All(profile.Advanced);
-
-    writer.Section("IgnoreList");
-    size_t count = 0;
-    for (const std::string& name : profile.IgnoreList) {
-        // What reads back as nothing would end the list for the reader, and the names after it would be lost.
-        if (!CheckedWriter::AsRead(name).empty()) writer.Key(IgnoreKey(++count), name);
-    }
-    // Ends the list on purpose: names of an older, longer list in the same file are never read.
-    writer.Key(IgnoreKey(count + 1), "");
-
-    // The macro file is replaced only when all before it is safe. A profile that has got this very name goes before.
-    Failure failure = writer.Check();
+    // The macro file is replaced only when the profile is safe. A profile that has got this very name goes before.
+    const std::string macroFile = gameFolder + "\\" + SplitPath(path).name + ".ssm";
     Failure macroFailure;
-    if (!failure) {
-        const std::string macroFile = gameFolder + "\\" + SplitPath(path).name + ".ssm";
-        if (!EqualNoCase(AbsolutePath(macroFile), path))
-            macroFailure = WriteWholeFile(macroFile, MacroFileText(profile));
-        if (!macroFailure) {
-            writer.All(profile.HiddenOptions);
-            failure = writer.Check();
-        }
+    if (!EqualNoCase(AbsolutePath(macroFile), path)) macroFailure = WriteWholeFile(macroFile, MacroFileText(profile));
+    if (macroFailure) {
+        sections.pop_back();  // HiddenOptions come after the macro file
+        if (Failure failure = WriteSections(file, path, sections)) return failure;
     }
-    if (failure) {
-        AbandonReplacement(path);
-        return failure;
-    }
-    if ((failure = FinishReplacement(path))) return failure;
+    if (Failure failure = file.Finish()) return failure;
     return macroFailure;
 }
 

@@ -1,14 +1,30 @@
 #include "startup/main.h"
 
+#include <set>
+
 #include "auxiliary/frmsplash.h"
 #include "mainwin/appsettings.h"
 #include "mainwin/frmmain.h"
 #include "platform/files.h"
 #include "platform/process.h"
+#include "platform/text.h"
 #include "startup/commandline.h"
 #include "startup/instance.h"
 
 namespace quirn {
+
+namespace {
+
+// Programs that were cut off leave unfinished files, and that of a profile may hold a password.
+void SweepFolders(const Program& program) {
+    std::set<std::string, LessNoCase> folders{program.qrnFolder, program.gameFolder};
+    const auto addFolderOf = [&](const std::string& file) { folders.insert(file.substr(0, file.rfind('\\'))); };
+    for (const std::string& file : program.recentFiles) addFolderOf(file);
+    for (const Favourite& favourite : program.favourites) addFolderOf(favourite.path);
+    for (const std::string& folder : folders) SweepFolder(folder);
+}
+
+}  // namespace
 
 void Main() {
     if (!ClaimSingleInstance()) {
@@ -41,6 +57,7 @@ void Main() {
     }
     // Loading has filled the controls, which is no change that anyone would want to save.
     program.dirty = false;
+    SweepFolders(program);
     RunEventLoop();
 }
 

@@ -7,32 +7,21 @@
 namespace quirn {
 
 using headless::File;
+using headless::FolderOf;
+using headless::KeyOf;
 using headless::TheWorld;
 
 namespace {
 
-std::string UnfinishedPath(const std::string& path) {
-    return path + kUnfinishedSuffix;
-}
-
-// An absolute path as the maps hold it.
-std::string KeyOf(const std::string& path) {
-    std::string key = AbsolutePath(path);
-    if (key.ends_with('\\')) key.pop_back();
-    return key;
-}
-
-std::string FolderOf(const std::string& key) {
-    const size_t end = key.rfind('\\');
-    return end == std::string::npos ? std::string() : key.substr(0, end);
-}
+constexpr size_t kLongestPath = 259;
 
 // What opening a path for reading or writing meets before it comes to the file itself.
 Failure CheckPath(const std::string& path) {
     const std::string key = KeyOf(path);
     if (TheWorld().folders.contains(key)) return MakeError(ErrorNumber::PathFileAccess);
     if (path.empty() || path.ends_with('\\') || !TheWorld().folders.contains(FolderOf(key)) ||
-        key.find_first_of("<>\"|?*") != std::string::npos || key.find(':', 2) != std::string::npos)
+        key.size() > kLongestPath || key.find_first_of("<>\"|?*") != std::string::npos ||
+        key.find(':', 2) != std::string::npos)
         return MakeError(ErrorNumber::PathNotFound);
     return {};
 }
@@ -44,21 +33,6 @@ Failure CheckReplaceable(const std::string& path) {
     if (file->readOnly) return MakeError(ErrorNumber::PathFileAccess);
     if (file->holders > 0) return MakeError(ErrorNumber::PermissionDenied);
     return {};
-}
-
-void Remove(const std::string& path) {
-    if (File* file = headless::FindFile(path)) {
-        headless::Store(*file, {});
-        TheWorld().files.erase(KeyOf(path));
-    }
-}
-
-Failure MakeUnfinished(const std::string& path, std::string_view bytes) {
-    Remove(UnfinishedPath(path));
-    File& file = TheWorld().files[KeyOf(UnfinishedPath(path))];
-    if (headless::Store(file, bytes)) return {};
-    Remove(UnfinishedPath(path));
-    return MakeError(ErrorNumber::DiskFull);
 }
 
 bool Matches(std::string_view name, std::string_view pattern) {
@@ -82,6 +56,17 @@ void ResetWorld() {
     TheWorld() = World();
 }
 
+std::string KeyOf(const std::string& path) {
+    std::string key = AbsolutePath(path);
+    if (key.ends_with('\\')) key.pop_back();
+    return key;
+}
+
+std::string FolderOf(const std::string& key) {
+    const size_t end = key.rfind('\\');
+    return end == std::string::npos ? std::string() : key.substr(0, end);
+}
+
 void MakeFolder(const std::string& path) {
     for (std::string key = KeyOf(path); !key.empty(); key = FolderOf(key)) TheWorld().folders.insert(key);
 }
@@ -99,6 +84,7 @@ File* FindFile(const std::string& path) {
 }
 
 bool Store(File& file, std::string_view bytes) {
+    file.writtenLast = ++TheWorld().writes;
     std::optional<size_t>& room = TheWorld().diskRoom;
     if (!room) {
         file.bytes = bytes;
@@ -139,38 +125,6 @@ Result<std::string> ReadWholeFile(const std::string& path) {
     return file->bytes;
 }
 
-Failure WriteWholeFile(const std::string& path, std::string_view bytes) {
-    if (Failure failure = CheckReplaceable(path)) return failure;
-    if (Failure failure = MakeUnfinished(path, bytes)) return failure;
-    return FinishReplacement(path);
-}
-
-Result<std::string> BeginReplacement(const std::string& path) {
-    if (Failure failure = CheckReplaceable(path)) return *failure;
-    const File* old = headless::FindFile(path);
-    if (Failure failure = MakeUnfinished(path, old == nullptr ? std::string() : old->bytes)) return *failure;
-    return UnfinishedPath(path);
-}
-
-Failure FinishReplacement(const std::string& path) {
-    Failure failure = CheckReplaceable(path);
-    const File* unfinished = headless::FindFile(UnfinishedPath(path));
-    if (!failure && unfinished == nullptr) failure = MakeError(ErrorNumber::FileNotFound);
-    if (failure) {
-        AbandonReplacement(path);
-        return failure;
-    }
-    Remove(path);
-    auto entry = TheWorld().files.extract(KeyOf(UnfinishedPath(path)));
-    entry.key() = KeyOf(path);
-    TheWorld().files.insert(std::move(entry));
-    return {};
-}
-
-void AbandonReplacement(const std::string& path) {
-    Remove(UnfinishedPath(path));
-}
-
 FileReader::~FileReader() {
     delete static_cast<std::string*>(handle_);
 }
@@ -194,17 +148,29 @@ Result<size_t> FileReader::Read(char* buffer, size_t bytes) {
 }
 
 FileReplacer::~FileReplacer() {
-    if (!path_.empty()) AbandonReplacement(path_);
+    Abandon();
+}
+
+void FileReplacer::Abandon() {
+    if (path_.empty()) return;
+    if (File* file = headless::FindFile(unfinished_)) file->beingWritten = false;
+    RemoveFile(unfinished_);
+    path_.clear();
 }
 
 Failure FileReplacer::Open(const std::string& path) {
+    Abandon();
     if (Failure failure = CheckReplaceable(path)) return failure;
+    SweepUnfinished(path);
+    unfinished_ = UnfinishedPath(path);
+    if (headless::FindFile(unfinished_) != nullptr) return MakeError(ErrorNumber::PermissionDenied);
     path_ = AbsolutePath(path);
-    return MakeUnfinished(path_, {});
+    TheWorld().files[KeyOf(unfinished_)].beingWritten = true;
+    return {};
 }
 
 Failure FileReplacer::Write(std::string_view bytes) {
-    File* file = headless::FindFile(UnfinishedPath(path_));
+    File* file = headless::FindFile(unfinished_);
     if (file == nullptr) return MakeError(ErrorNumber::DeviceIo);
     const std::optional<size_t>& room = TheWorld().diskRoom;
     // The whole content anew at each piece would take a big file a long time.
@@ -214,9 +180,25 @@ Failure FileReplacer::Write(std::string_view bytes) {
 }
 
 Failure FileReplacer::Finish() {
-    const Failure failure = FinishReplacement(path_);
-    path_.clear();
+    Failure failure = CheckReplaceable(path_);
+    if (!failure) {
+        RemoveFile(path_);
+        auto entry = TheWorld().files.extract(KeyOf(unfinished_));
+        entry.key() = KeyOf(path_);
+        entry.mapped().beingWritten = false;
+        TheWorld().files.insert(std::move(entry));
+        path_.clear();
+    }
+    Abandon();
     return failure;
+}
+
+bool RemoveFile(const std::string& path) {
+    File* file = headless::FindFile(path);
+    if (file == nullptr || file->beingWritten || file->holders > 0) return false;
+    headless::Store(*file, {});
+    TheWorld().files.erase(KeyOf(path));
+    return true;
 }
 
 bool DiskIsFull(const std::string&, size_t bytes) {

@@ -25,8 +25,10 @@ struct File {
     bool readOnly = false;
     bool hidden = false;
     bool system = false;
-    uint64_t hollow = 0;  // bytes that its size counts and nobody can read: a huge file that takes no memory
-    int holders = 0;      // handles of other programs, which share nothing
+    uint64_t hollow = 0;        // bytes that its size counts and nobody can read: a huge file that takes no memory
+    int holders = 0;            // handles of other programs, which share nothing
+    bool beingWritten = false;  // by a FileReplacer
+    uint64_t writtenLast = 0;   // in the order of the writes
 };
 
 struct RegistryValue {
@@ -60,6 +62,8 @@ struct World {
     std::set<std::string, LessNoCase> folders{"C:", "C:\\Windows", "C:\\Program"};
     std::string currentFolder = "C:\\Program";
     std::string programFolder = "C:\\Program";
+    std::string localDataFolder = "C:\\LocalData";
+    uint64_t writes = 0;             // to all files
     std::optional<size_t> diskRoom;  // bytes that the disk still takes; without a limit when empty
 
     // Keys below the current user's root.
@@ -90,6 +94,10 @@ struct World {
 
 World& TheWorld();
 void ResetWorld();
+
+// An absolute path as the maps of the world hold it, and the same of the folder that it is in.
+std::string KeyOf(const std::string& path);
+std::string FolderOf(const std::string& key);
 
 // Both make the folders above as well.
 void MakeFolder(const std::string& path);

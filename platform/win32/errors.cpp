@@ -16,6 +16,9 @@ RuntimeError ErrorFrom(DWORD code) {
         case ERROR_NOT_READY: return MakeError(ErrorNumber::PathNotFound);
         case ERROR_SHARING_VIOLATION:
         case ERROR_LOCK_VIOLATION: return MakeError(ErrorNumber::PermissionDenied);
+        case ERROR_ALREADY_EXISTS:
+        case ERROR_FILE_EXISTS:
+        case ERROR_DIR_NOT_EMPTY:
         case ERROR_WRITE_PROTECT:
         case ERROR_ACCESS_DENIED: return MakeError(ErrorNumber::PathFileAccess);
         case ERROR_DISK_FULL:

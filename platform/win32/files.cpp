@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <new>
 
+#include "platform/text.h"
 #include "platform/win32/errors.h"
 #include "platform/win32/handle.h"
 
@@ -17,22 +18,33 @@ using win32::LastError;
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-std::string UnfinishedPath(const std::string& path) {
-    return path + kUnfinishedSuffix;
-}
-
 bool IsFolder(const std::string& path) {
     const DWORD attributes = GetFileAttributesA(path.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
-// The existing file that is about to be replaced: true when there is one. The read-only attribute is checked here
+// The path that an open file has when every link in it is followed; the path as it was given where that has no ANSI
+// name or would be too long.
+std::string FinalPath(HANDLE file, const std::string& path) {
+    std::string whole(kLongestPath, '\0');
+    const DWORD length = GetFinalPathNameByHandleA(file, whole.data(), kLongestPath, FILE_NAME_NORMALIZED);
+    if (length == 0 || length >= kLongestPath) return path;
+    whole.resize(length);
+    constexpr std::string_view kNetwork = "\\\\?\\UNC\\";
+    constexpr std::string_view kPrefix = "\\\\?\\";
+    if (whole.starts_with(kNetwork)) whole.replace(0, kNetwork.size(), "\\\\");
+    else if (whole.starts_with(kPrefix)) whole.erase(0, kPrefix.size());
+    if (EqualNoCase(whole, path)) return path;
+    return whole.size() < MAX_PATH && GetFileAttributesA(whole.c_str()) != INVALID_FILE_ATTRIBUTES ? whole : path;
+}
+
+// Checks that the file may be made or replaced. The result is where it really is. The read-only attribute is checked
 // because replacing a file by a move does not mind it everywhere.
-Result<bool> CheckReplaceable(const std::string& path) {
+Result<std::string> CheckReplaceable(const std::string& path) {
     const DWORD attributes = GetFileAttributesA(path.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) {
         const DWORD code = GetLastError();
-        if (code == ERROR_FILE_NOT_FOUND) return false;
+        if (code == ERROR_FILE_NOT_FOUND) return AbsolutePath(path);
         return ErrorFrom(code);
     }
     if ((attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) != 0) return ErrorNumber::PathFileAccess;
@@ -40,17 +52,7 @@ Result<bool> CheckReplaceable(const std::string& path) {
     const KernelHandle file(
         CreateFileA(path.c_str(), GENERIC_WRITE | DELETE, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr));
     if (!file) return LastError();
-    return true;
-}
-
-void DeleteUnfinished(const std::string& path) {
-    SetFileAttributesA(UnfinishedPath(path).c_str(), FILE_ATTRIBUTE_NORMAL);
-    DeleteFileA(UnfinishedPath(path).c_str());
-}
-
-KernelHandle CreateAlways(const std::string& path) {
-    return KernelHandle(CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr));
+    return FinalPath(file.Get(), AbsolutePath(path));
 }
 
 Failure WriteTo(HANDLE file, std::string_view bytes) {
@@ -64,10 +66,17 @@ Failure WriteTo(HANDLE file, std::string_view bytes) {
     return {};
 }
 
-Failure WriteAll(const std::string& path, std::string_view bytes) {
-    const KernelHandle file = CreateAlways(path);
-    if (!file) return LastError();
-    return WriteTo(file.Get(), bytes);
+Failure MoveOver(const std::string& from, const std::string& to) {
+    // A virus scanner or an indexer likes to open a file that has just been written, for some milliseconds.
+    constexpr int kTries = 5;
+    constexpr DWORD kPause = 20;  // milliseconds
+    Failure failure;
+    for (int i = 0; i < kTries; ++i) {
+        if (i > 0) Sleep(kPause);
+        if (MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return {};
+        failure = LastError();
+    }
+    return failure;
 }
 
 // Opens a plain file for reading and finds its size; the size in bytes goes into the last argument.
@@ -83,20 +92,6 @@ Failure OpenForReading(const std::string& path, KernelHandle& file, uint64_t& si
     LARGE_INTEGER bytes{};
     if (!GetFileSizeEx(file.Get(), &bytes)) return LastError();
     size = static_cast<uint64_t>(bytes.QuadPart);
-    return {};
-}
-
-Failure CopyFrom(const std::string& from, const std::string& to) {
-    if (!CopyFileA(from.c_str(), to.c_str(), FALSE)) return LastError();
-    // A copy has its source's attributes; a read-only one could not be finished nor replaced the next time.
-    SetFileAttributesA(to.c_str(), FILE_ATTRIBUTE_NORMAL);
-    return {};
-}
-
-Failure Flush(const std::string& path) {
-    const KernelHandle file(
-        CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
-    if (!file || !FlushFileBuffers(file.Get())) return LastError();
     return {};
 }
 
@@ -140,51 +135,6 @@ Result<std::string> ReadWholeFile(const std::string& path) {
     }
 }
 
-Failure WriteWholeFile(const std::string& path, std::string_view bytes) {
-    const Result<bool> old = CheckReplaceable(path);
-    if (old.Failed()) return old.Error();
-    DeleteUnfinished(path);
-    if (Failure failure = WriteAll(UnfinishedPath(path), bytes)) {
-        DeleteUnfinished(path);
-        return failure;
-    }
-    return FinishReplacement(path);
-}
-
-Result<std::string> BeginReplacement(const std::string& path) {
-    const Result<bool> old = CheckReplaceable(path);
-    if (old.Failed()) return old.Error();
-    DeleteUnfinished(path);
-    const std::string unfinished = UnfinishedPath(path);
-    if (Failure failure = old.Value() ? CopyFrom(path, unfinished) : WriteAll(unfinished, {})) {
-        DeleteUnfinished(path);
-        return *failure;
-    }
-    return unfinished;
-}
-
-Failure FinishReplacement(const std::string& path) {
-    // A virus scanner or an indexer likes to open a file that has just been written, for some milliseconds.
-    constexpr int kTries = 5;
-    constexpr DWORD kPause = 20;  // milliseconds
-    const std::string unfinished = UnfinishedPath(path);
-    Failure failure;
-    for (int i = 0; i < kTries; ++i) {
-        if (i > 0) Sleep(kPause);
-        failure = Flush(unfinished);
-        if (failure) continue;
-        if (MoveFileExA(unfinished.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-            return {};
-        failure = LastError();
-    }
-    DeleteUnfinished(path);
-    return failure;
-}
-
-void AbandonReplacement(const std::string& path) {
-    DeleteUnfinished(path);
-}
-
 FileReader::~FileReader() {
     KernelHandle(static_cast<HANDLE>(handle_)).Reset();
 }
@@ -204,17 +154,27 @@ Result<size_t> FileReader::Read(char* buffer, size_t bytes) {
 }
 
 FileReplacer::~FileReplacer() {
-    KernelHandle(static_cast<HANDLE>(handle_)).Reset();
-    if (!path_.empty()) DeleteUnfinished(path_);
+    Abandon();
+}
+
+void FileReplacer::Abandon() {
+    KernelHandle(static_cast<HANDLE>(std::exchange(handle_, nullptr))).Reset();
+    if (!path_.empty()) RemoveFile(unfinished_);
+    path_.clear();
 }
 
 Failure FileReplacer::Open(const std::string& path) {
-    const Result<bool> old = CheckReplaceable(path);
-    if (old.Failed()) return old.Error();
-    path_ = AbsolutePath(path);
-    DeleteUnfinished(path_);
-    handle_ = CreateAlways(UnfinishedPath(path_)).Release();
-    if (handle_ == nullptr) return LastError();
+    Abandon();
+    const Result<std::string> target = CheckReplaceable(path);
+    if (target.Failed()) return target.Error();
+    SweepUnfinished(target.Value());
+    unfinished_ = UnfinishedPath(target.Value());
+    // Nobody may delete it: that tells it from what a program that was cut off has left.
+    KernelHandle file(CreateFileA(unfinished_.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                  CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file) return GetLastError() == ERROR_FILE_EXISTS ? MakeError(ErrorNumber::PermissionDenied) : LastError();
+    handle_ = file.Release();
+    path_ = target.Value();
     return {};
 }
 
@@ -223,10 +183,21 @@ Failure FileReplacer::Write(std::string_view bytes) {
 }
 
 Failure FileReplacer::Finish() {
+    Failure failure;
+    if (!FlushFileBuffers(handle_)) failure = LastError();
+    // A file that nobody may delete cannot be moved either.
     KernelHandle(static_cast<HANDLE>(std::exchange(handle_, nullptr))).Reset();
-    const Failure failure = FinishReplacement(path_);
-    path_.clear();
+    if (!failure) failure = MoveOver(unfinished_, path_);
+    if (!failure) path_.clear();
+    Abandon();
     return failure;
+}
+
+bool RemoveFile(const std::string& path) {
+    if (DeleteFileA(path.c_str())) return true;
+    if (GetLastError() != ERROR_ACCESS_DENIED || IsFolder(path)) return false;
+    SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+    return DeleteFileA(path.c_str()) != FALSE;
 }
 
 bool DiskIsFull(const std::string& path, size_t bytes) {

@@ -23,7 +23,7 @@ TEST_F(LogSaveOnAFullDisk, LeavesTheOldFileWhole) {
         const Failure failure = SaveFilteredLog(view, path);
         EXPECT_EQ(failure ? failure->number : 0, 61) << room;
         EXPECT_EQ(FileBytes(path), text);
-        EXPECT_EQ(FileBytes(path + kUnfinishedSuffix), std::nullopt);
+        EXPECT_EQ(FileBytes(UnfinishedPath(path)), std::nullopt);
         EXPECT_EQ(headless::TheWorld().diskRoom, room);
     }
 }

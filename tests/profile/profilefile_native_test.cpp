@@ -23,7 +23,7 @@ TEST_F(ProfileDiskTest, FullDiskKeepsTheOldFile) {
     for (size_t room = 0;; room += 97) {
         headless::TheWorld().diskRoom = room;
         const Failure failure = SaveProfile(profile, Scratch(), file);
-        EXPECT_FALSE(FileBytes(file + kUnfinishedSuffix));
+        EXPECT_FALSE(FileBytes(UnfinishedPath(file)));
         if (!failure) break;
         ++failed;
         EXPECT_EQ(failure->number, 61) << room;

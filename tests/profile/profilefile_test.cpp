@@ -1,8 +1,10 @@
 #include "profile/profilefile.h"
 
+#include <chrono>
 #include <random>
 
 #include "platform/files.h"
+#include "platform/inifile.h"
 #include "tests/testing/profiles.h"
 
 namespace quirn {
@@ -108,11 +110,32 @@ TEST_F(ProfileFileTest, AShorterIgnoreListHidesTheRestOfALongerOne) {
     EXPECT_EQ(Saved(profile_).IgnoreList, (std::vector<std::string>{"x", "z"}));
 }
 
+TEST_F(ProfileFileTest, LongIgnoreListsDoNotFreeze) {
+    profile_.IgnoreList.clear();
+    for (int i = 0; i < 20000; ++i) profile_.IgnoreList.push_back("Player " + std::to_string(i));
+    const auto start = std::chrono::steady_clock::now();
+    ExpectSame(Saved(profile_), profile_);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+}
+
+TEST_F(ProfileFileTest, AUnicodeFileStaysOne) {
+    std::string bytes = "\xFF\xFE";
+    for (const char c : std::string("[Dialog]\r\nPlayerName=Old\r\nColour=red\r\n")) bytes += {c, '\0'};
+    PutFile(file_, bytes);
+    ExpectSame(Saved(profile_), profile_);
+    EXPECT_TRUE(FileBytes(file_)->starts_with("\xFF\xFE"));
+    EXPECT_EQ(ReadIniValue(file_, "Dialog", "Colour", "", 99), "red");
+}
+
 TEST_F(ProfileFileTest, OtherKeysOfTheFileSurvive) {
-    PutFile(file_, "; my notes\r\n[Team]\r\nname=Nine\r\n[Dialog]\r\nColour=red\r\nplayername=Old\r\n");
+    PutFile(file_,
+            "; my notes\r\n[Team]\r\nname=Nine\r\n[Dialog]\r\nColour=red\r\nplayername=Old\r\n"
+            "[IgnoreList]\r\n; friends\r\nIgnore1=Old\r\nsince=May\r\n\r\n[Team 2]\r\n");
     EXPECT_FALSE(SaveProfile(profile_, game_, file_));
     const std::string bytes = FileBytes(file_).value_or("");
-    for (const char* part : {"; my notes\r\n", "[Team]\r\nname=Nine\r\n", "Colour=red\r\n", "playername=D1\r\n"})
+    for (const char* part :
+         {"; my notes\r\n", "[Team]\r\nname=Nine\r\n", "Colour=red\r\n", "playername=D1\r\n",
+          "; friends\r\nIgnore1=Mole\r\nsince=May\r\nIgnore2=Caf\xE9 Bot\r\nIgnore3=\r\n\r\n[Team 2]\r\n"})
         EXPECT_NE(bytes.find(part), std::string::npos) << part;
     EXPECT_EQ(bytes.find("PlayerName="), std::string::npos);
 }
@@ -134,7 +157,7 @@ TEST_F(ProfileFileTest, AFailingMacroFileStopsBeforeHiddenOptions) {
     const std::string fresh = Scratch() + "\\fresh.qrn";
     EXPECT_TRUE(SaveProfile(changed, Scratch() + "\\no game", fresh));
     EXPECT_EQ(FileBytes(fresh)->find("[HiddenOptions]"), std::string::npos);
-    EXPECT_FALSE(FileBytes(fresh + kUnfinishedSuffix));
+    EXPECT_FALSE(FileBytes(UnfinishedPath(fresh)));
 }
 
 TEST_F(ProfileFileTest, AProfileNamedAsItsMacroFileIsWhole) {
@@ -154,7 +177,7 @@ TEST_F(ProfileFileTest, AFileThatCannotBeReplacedStaysWhole) {
         const Failure failure = SaveProfile(profile_, game_, path);
         ASSERT_TRUE(failure) << path;
         EXPECT_EQ(failure->number, number) << path;
-        EXPECT_FALSE(FileBytes(path + kUnfinishedSuffix)) << path;
+        EXPECT_FALSE(FileBytes(UnfinishedPath(path))) << path;
     };
     expectFailure(76, Scratch() + "\\no folder\\a.qrn");
     expectFailure(75, game_);

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "platform/error.h"
+
+// Folders and what is in them. Paths as in files.h.
+namespace quirn {
+
+struct FolderEntry {
+    std::string name;
+    bool isFolder;
+    uint64_t size;         // bytes; 0 for a folder
+    uint64_t writtenLast;  // 100 nanoseconds each, for comparing; 0 where the system does not say
+};
+
+// Everything in the folder but "." and "..", hidden files too, in no order.
+Result<std::vector<FolderEntry>> ListFolder(const std::string& folder);
+
+// Makes the folder and those above it. One that is there already is no failure.
+Failure MakeFolders(const std::string& folder);
+
+// Removes an empty folder.
+Failure RemoveFolder(const std::string& folder);
+
+// Gives a folder another name or place on the same disk. The new one must not be there yet.
+Failure RenameFolder(const std::string& from, const std::string& to);
+
+// True for a folder on a disk of this machine. No network and no empty drive is asked.
+bool IsOnLocalDisk(const std::string& folder);
+
+// Where programs keep what belongs to this player on this machine, without a trailing "\"; empty when the system has no
+// such folder.
+std::string LocalDataFolder();
+
+}  // namespace quirn

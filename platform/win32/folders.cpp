@@ -1,0 +1,68 @@
+#include "platform/folders.h"
+
+#include <windows.h>
+// after it
+#include <shlobj.h>
+
+#include "platform/files.h"
+#include "platform/win32/errors.h"
+#include "platform/win32/handle.h"
+
+namespace quirn {
+
+using win32::LastError;
+
+Result<std::vector<FolderEntry>> ListFolder(const std::string& folder) {
+    WIN32_FIND_DATAA found;
+    const win32::SearchHandle search(FindFirstFileA((folder + "\\*").c_str(), &found));
+    if (!search) {
+        // The root of an empty disk has not even ".".
+        const DWORD code = GetLastError();
+        if (code == ERROR_FILE_NOT_FOUND && FolderExists(folder)) return std::vector<FolderEntry>();
+        return win32::ErrorFrom(code);
+    }
+    std::vector<FolderEntry> entries;
+    do {
+        const std::string name = found.cFileName;
+        if (name == "." || name == "..") continue;
+        const auto whole = [](DWORD high, DWORD low) { return uint64_t{high} << 32 | low; };
+        const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        entries.push_back({name, isFolder, isFolder ? 0 : whole(found.nFileSizeHigh, found.nFileSizeLow),
+                           whole(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime)});
+    } while (FindNextFileA(search.Get(), &found));
+    return entries;
+}
+
+Failure MakeFolders(const std::string& folder) {
+    std::string path = AbsolutePath(folder);
+    if (path.ends_with('\\')) path.pop_back();
+    if (FolderExists(path + "\\")) return {};
+    const size_t end = path.rfind('\\');
+    if (end == std::string::npos) return MakeError(ErrorNumber::PathNotFound);  // a drive that is not there
+    if (Failure failure = MakeFolders(path.substr(0, end))) return failure;
+    if (!CreateDirectoryA(path.c_str(), nullptr)) return LastError();
+    return {};
+}
+
+Failure RemoveFolder(const std::string& folder) {
+    if (!RemoveDirectoryA(folder.c_str())) return LastError();
+    return {};
+}
+
+Failure RenameFolder(const std::string& from, const std::string& to) {
+    if (!MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH)) return LastError();
+    return {};
+}
+
+bool IsOnLocalDisk(const std::string& folder) {
+    // The root of a share would be asked for over the network.
+    return folder.size() > 1 && folder[1] == ':' && GetDriveTypeA((folder.substr(0, 2) + "\\").c_str()) == DRIVE_FIXED;
+}
+
+std::string LocalDataFolder() {
+    char path[MAX_PATH] = {};
+    if (SHGetFolderPathA(nullptr, CSIDL_LOCAL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, path) != S_OK) return {};
+    return path;
+}
+
+}  // namespace quirn
