@@ -1,6 +1,7 @@
 #include "game/playerfiles.h"
 
 #include <algorithm>
+#include <set>
 
 #include "platform/files.h"
 #include "platform/text.h"
@@ -26,8 +27,18 @@ bool IsMissing(const RuntimeError& error) {
 // flushed to the disk takes longer than all the rest.
 Failure WriteGameFile(const std::string& path, const std::string& bytes) {
     const Result<std::string> old = ReadWholeFile(path);
-    if (!old.Failed() && old.Value() == bytes) return {};
-    return WriteWholeFile(path, bytes);
+    if (old.Failed() || old.Value() != bytes) return WriteWholeFile(path, bytes);
+    SweepUnfinished(path);
+    return {};
+}
+
+// The lines of an ignore file. A lone CR and a NUL end one too: a name that held them would be cut there in a QRN file.
+std::vector<std::string> NamesIn(std::string text) {
+    std::replace(text.begin(), text.end(), '\0', '\n');
+    for (size_t i = 0; i < text.size(); ++i)
+        if (text[i] == '\r' && text.compare(i, 2, "\r\n") != 0) text[i] = '\n';
+    const std::vector<std::string_view> lines = SplitLines(text);
+    return {lines.begin(), lines.end()};
 }
 
 // Copies the profile's wave file over the game's, unless it has none or already names the game's own.
@@ -51,12 +62,10 @@ Failure WriteIgnoreFile(const Profile& profile, const std::string& gameFolder) {
         if (!unread.Failed()) text = unread.Value();
         if (!text.empty() && !text.ends_with('\n')) text += "\r\n";
     }
-    const std::string before = text;
-    const std::vector<std::string_view> known = SplitLines(before);
-    for (const std::string& name : profile.IgnoreList) {
-        const auto isName = [&](std::string_view line) { return EqualNoCase(Trim(line), Trim(name)); };
-        if (!Trim(name).empty() && std::none_of(known.begin(), known.end(), isName)) text += name + "\r\n";
-    }
+    std::set<std::string, LessNoCase> known;
+    for (const std::string& line : NamesIn(text)) known.emplace(Trim(line));
+    for (const std::string& name : profile.IgnoreList)
+        if (!Trim(name).empty() && !known.contains(Trim(name))) text += name + "\r\n";
     return WriteGameFile(IgnorePath(gameFolder), text);
 }
 
@@ -69,9 +78,9 @@ Failure ReadIgnoreFile(Profile& profile, const std::string& gameFolder) {
         profile.ignoreFileUnread = true;
         return text.Error();
     }
-    for (std::string_view line : SplitLines(text.Value())) {
-        line = Trim(line);
-        if (!line.starts_with('#')) profile.IgnoreList.emplace_back(line);  // from element 0: no slot is left empty
+    for (const std::string& line : NamesIn(text.Value())) {
+        const std::string_view name = Trim(line);
+        if (!name.starts_with('#')) profile.IgnoreList.emplace_back(name);  // from element 0: no slot is left empty
     }
     return {};
 }

@@ -14,8 +14,8 @@ namespace quirn {
 // the folder is missing, the file is read-only or held.
 Failure WriteIgnoreFile(const Profile& profile, const std::string& gameFolder);
 
-// Replaces the ignore list by the lines of the file, trimmed, without its "#" comments; empty lines are kept as empty
-// entries. A missing file gives an empty list and is no failure.
+// Replaces the ignore list by the lines of the file (a lone CR or a NUL ends one too), trimmed, without its "#"
+// comments; empty lines are kept as empty entries. A missing file gives an empty list and is no failure.
 Failure ReadIgnoreFile(Profile& profile, const std::string& gameFolder);
 
 // The ignore list and the two waves, from the game or to it. What fails does not stop the rest.

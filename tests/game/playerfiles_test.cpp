@@ -25,6 +25,10 @@ TEST_F(PlayerFilesTest, ReadsTheIgnoreListWithoutComments) {
     PutFile(ignore_, " Mole \r\n\r\n  # not a player\r\n#x\nCaf\xE9 Bot");
     EXPECT_FALSE(ReadIgnoreFile(profile_, game_));
     EXPECT_EQ(profile_.IgnoreList, (std::vector<std::string>{"Mole", "", "Caf\xE9 Bot"}));
+    PutFile(ignore_, std::string("A\rB\r\nC\0D", 9));  // a QRN file would cut "A\rB" to "A"
+    EXPECT_FALSE(ReadIgnoreFile(profile_, game_));
+    EXPECT_EQ(profile_.IgnoreList, (std::vector<std::string>{"A", "B", "C", "D"}));
+    PutFile(ignore_, "1\r\n2\r\n3");
     SetHidden(ignore_);
     EXPECT_FALSE(ReadIgnoreFile(profile_, game_));
     EXPECT_EQ(profile_.IgnoreList.size(), 3u);
