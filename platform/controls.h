@@ -154,20 +154,22 @@ public:
     void Clear();  // back to the empty mask
 
     std::function<void()> onChange;
-    std::function<bool(char)> onKeyPress;  // true swallows the character
+    std::function<bool(char)> onKeyPress;             // true swallows the character
 
     // What typing does: a character goes into the first place (no fixed character) at or after the caret, over what
-    // stands there, and the caret moves on over the fixed characters; kBackspace and kDelete empty a place. Returns the
-    // new caret (0-based). With a digits-only mask digits are inserted and removed; nothing else changes anything.
+    // stands there, and the caret moves on over the fixed characters; one that is the fixed character under the caret
+    // or before it goes nowhere; kBackspace and kDelete empty a place. Returns the new caret (0-based). With a
+    // digits-only mask digits are inserted and removed; nothing else changes anything. What is selected goes first.
     static constexpr char kBackspace = 8;
     static constexpr char kDelete = 127;
-    size_t UserTypes(char character, size_t caret, size_t selectionEnd = 0);  // what is selected goes first
-    size_t UserPastes(std::string_view text, size_t caret);
-    size_t UserClears(size_t from, size_t to);  // removes a selection
-    void UserEdits(const std::string& text);    // the window's text after any other edit
+    size_t UserTypes(char character, size_t caret, size_t selectionEnd = 0);
+    size_t UserPastes(std::string_view text, size_t caret, size_t selectionEnd = 0);  // without blanks and line ends
+    size_t UserClears(size_t from, size_t to);                                        // removes a selection
+    void UserEdits(const std::string& text);  // the window's text after any other edit
 
 private:
     std::string EmptyText() const;
+    bool IsFixed(size_t at) const;
     size_t NextPlace(size_t at) const;
     bool Empty(size_t from, size_t to);
     bool Put(char character, size_t& caret);

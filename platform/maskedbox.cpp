@@ -40,6 +40,10 @@ void MaskedBox::Clear() {
     SetText(EmptyText());
 }
 
+bool MaskedBox::IsFixed(size_t at) const {
+    return at < mask_.size() && !IsPlace(mask_[at]);
+}
+
 // The first place of the mask at or after a position; the mask's end when there is none.
 size_t MaskedBox::NextPlace(size_t at) const {
     while (at < mask_.size() && !IsPlace(mask_[at])) ++at;
@@ -68,6 +72,12 @@ bool MaskedBox::Put(char character, size_t& caret) {
         text_.insert(text_.begin() + static_cast<std::string::difference_type>(caret++), character);
         return true;
     }
+    // A text is often typed or pasted as it is shown: a fixed character is there already.
+    if (IsFixed(caret) && mask_[caret] == character) {
+        ++caret;
+        return false;
+    }
+    if (caret > 0 && IsFixed(caret - 1) && mask_[caret - 1] == character) return false;
     const size_t at = NextPlace(caret);
     if (at >= mask_.size() || !Accepts(mask_[at], character)) return false;
     // A text that was set need not be as long as the mask.
@@ -114,21 +124,12 @@ size_t MaskedBox::UserTypes(char character, size_t caret, size_t selectionEnd) {
     return caret;
 }
 
-size_t MaskedBox::UserPastes(std::string_view text, size_t caret) {
+size_t MaskedBox::UserPastes(std::string_view text, size_t caret, size_t selectionEnd) {
+    if (selectionEnd > caret) caret = UserClears(caret, selectionEnd);
     bool changed = false;
-    bool skipped = false;  // the caret has moved on over fixed characters
     for (const char character : text) {
-        // A code is often copied with its fixed characters.
-        if (skipped && caret > 0 && character == mask_[caret - 1]) {
-            skipped = false;
-            continue;
-        }
-        if (caret < mask_.size() && !IsPlace(mask_[caret]) && character == mask_[caret]) {
-            ++caret;
-            continue;
-        }
-        if (Put(character, caret)) changed = true;
-        skipped = caret > 0 && caret <= mask_.size() && !IsPlace(mask_[caret - 1]);
+        const bool blank = static_cast<unsigned char>(character) <= ' ';
+        if (!blank && Put(character, caret)) changed = true;
     }
     if (changed) {
         Changed(Aspect::Text);

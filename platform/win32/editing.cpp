@@ -56,19 +56,23 @@ void Cut(MaskedBox& box) {
     Clear(box);
 }
 
+// An edit that may lead to another box; it leaves this one's selection alone then.
+template <class Edit>
+void EditAtCaret(MaskedBox& box, Edit edit) {
+    const Selection selection = SelectionIn(WindowOf(box));
+    const Control* const active = box.Holder().Owner().ActiveControl();
+    const size_t caret = edit(selection);
+    if (box.Holder().Owner().ActiveControl() == active) PutCaret(box, caret);
+}
+
 void Paste(MaskedBox& box) {
     const std::string text = ClipboardText(WindowOf(box));
     if (text.empty()) return;
-    Clear(box);
-    PutCaret(box, box.UserPastes(text, SelectionIn(WindowOf(box)).from));
+    EditAtCaret(box, [&](const Selection& at) { return box.UserPastes(text, at.from, at.to); });
 }
 
 void Type(MaskedBox& box, char character) {
-    const Selection selection = SelectionIn(WindowOf(box));
-    const Control* const active = box.Holder().Owner().ActiveControl();
-    const size_t caret = box.UserTypes(character, selection.from, selection.to);
-    // A key that went on to another box leaves this one's selection alone.
-    if (box.Holder().Owner().ActiveControl() == active) PutCaret(box, caret);
+    EditAtCaret(box, [&](const Selection& at) { return box.UserTypes(character, at.from, at.to); });
 }
 
 }  // namespace

@@ -165,6 +165,7 @@ TEST_F(ControlsTest, AMaskKeepsItsFixedCharacters) {
     const std::string back(1, MaskedBox::kBackspace), erase(1, MaskedBox::kDelete);
     for (const Case& c :
          {Case{empty, "abcde", 0, 6, "abcd-e___-____"}, Case{empty, "x", 4, 6, "____-x___-____"},
+          Case{empty, "GZZZ-ZZZZ-ZZZ0", 0, 14, "GZZZ-ZZZZ-ZZZ0"}, Case{empty, "-x", 4, 6, "____-x___-____"},
           Case{"abcd-efgh-ijkl", "z", 14, 14, "abcd-efgh-ijkl"}, Case{"abcd-efgh-ijkl", "z", 1, 2, "azcd-efgh-ijkl"},
           Case{"abcd-e___-____", back + back, 6, 3, "abc_-____-____"},
           Case{"abcd-efgh-ijkl", erase, 4, 4, "abcd-_fgh-ijkl"}, Case{empty, back, 0, 0, empty},
@@ -175,12 +176,12 @@ TEST_F(ControlsTest, AMaskKeepsItsFixedCharacters) {
         EXPECT_EQ(ShownText(form.code), c.after);
     }
     form.Take();
-    for (const char* text : {"abcd-efgh-ijkl", "abcdefghijkl", "abcd-efghijklmnop"}) {
+    for (const char* text : {"abcd-efgh-ijkl", "abcdefghijkl", " abcd efgh\r\n-ijkl\r\n", "abcd-efghijklmnop"}) {
         form.code.Clear();
         Paste(form.code, text, 0);
         EXPECT_EQ(form.code.Text(), "abcd-efgh-ijkl") << text;
     }
-    EXPECT_EQ(form.Take(), (Log{"abcd-efgh-ijkl", "abcd-efgh-ijkl", "abcd-efgh-ijkl"}));
+    EXPECT_EQ(form.Take(), Log(4, "abcd-efgh-ijkl"));
 
     EXPECT_EQ(Type(form.part, "1a23456", 0), 3u);
     EXPECT_EQ(form.Take(), (Log{"1", "12", "123"}));
