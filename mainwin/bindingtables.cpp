@@ -1,5 +1,7 @@
 #include "mainwin/bindingtables.h"
 
+#include <algorithm>
+
 #include "platform/text.h"
 
 namespace quirn {
@@ -52,6 +54,27 @@ ProxyParts SplitProxyAddress(std::string_view address) {
         parts[i] = address.substr(0, point);
         if (point == std::string_view::npos) break;
         address.remove_prefix(point + 1);
+    }
+    return parts;
+}
+
+std::optional<ProxyParts> PastedProxyAddress(std::string_view text) {
+    constexpr size_t kMostDigits = 3;
+    const auto skip = [&text](const char* characters) {
+        const size_t count = std::min(text.find_first_not_of(characters), text.size());
+        const std::string_view skipped = text.substr(0, count);
+        text.remove_prefix(count);
+        return std::string(skipped);
+    };
+    ProxyParts parts;
+    for (std::string& part : parts) {
+        skip(" \t\r\n");
+        if (&part != &parts.front()) {
+            if (skip(".").size() != 1) return std::nullopt;
+            skip(" \t\r\n");
+        }
+        part = skip("0123456789");
+        if (part.empty() || part.size() > kMostDigits) return std::nullopt;
     }
     return parts;
 }

@@ -88,6 +88,7 @@ IdentityPage::IdentityPage(TabStrip& strip, Profile& profile, Edited edited)
             if (i + 1 < mskProxyAddress.size()) mskProxyAddress[i + 1].SetFocus();
             return true;
         };
+        mskProxyAddress[i].onPaste = [this](const std::string& text) { return PasteProxy(text); };
     }
     for (size_t i = 0; i < 2; ++i) {
         const int down = static_cast<int>(i) * kWaveStep;
@@ -209,6 +210,16 @@ void IdentityPage::chkUseProxy_Click() {
 
 void IdentityPage::EnableProxy() {
     for (MaskedBox& box : mskProxyAddress) box.SetEnabled(chkUseProxy.Value() == 1);
+}
+
+// A whole address, into whichever box it is pasted.
+bool IdentityPage::PasteProxy(const std::string& text) {
+    const std::optional<ProxyParts> parts = PastedProxyAddress(text);
+    if (!parts) return false;
+    for (size_t i = 0; i < parts->size(); ++i) mskProxyAddress[i].SetText((*parts)[i]);
+    mskProxyAddress.back().SetFocus();
+    edited_();
+    return true;
 }
 
 void IdentityPage::txtChatName_LostFocus() {

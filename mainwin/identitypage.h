@@ -25,6 +25,7 @@ private:
     void ShowZone(int index);
     void chkUseProxy_Click();
     void EnableProxy();
+    bool PasteProxy(const std::string& text);
     void txtChatName_LostFocus();
     void Check1_Click();
     void cmdWaveBrowse_Click(size_t index);

@@ -155,6 +155,7 @@ public:
 
     std::function<void()> onChange;
     std::function<bool(char)> onKeyPress;             // true swallows the character
+    std::function<bool(const std::string&)> onPaste;  // true: the handler has put the text where it belongs
 
     // What typing does: a character goes into the first place (no fixed character) at or after the caret, over what
     // stands there, and the caret moves on over the fixed characters; one that is the fixed character under the caret

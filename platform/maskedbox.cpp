@@ -125,6 +125,11 @@ size_t MaskedBox::UserTypes(char character, size_t caret, size_t selectionEnd) {
 }
 
 size_t MaskedBox::UserPastes(std::string_view text, size_t caret, size_t selectionEnd) {
+    if (onPaste) {
+        bool taken = false;
+        CallHandler([&] { taken = onPaste(std::string(text)); });
+        if (taken) return caret;
+    }
     if (selectionEnd > caret) caret = UserClears(caret, selectionEnd);
     bool changed = false;
     for (const char character : text) {

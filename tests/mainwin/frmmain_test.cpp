@@ -145,6 +145,31 @@ TEST_F(FrmMainTest, AChatNameIsSavedCompleteWhileTheCursorIsInIt) {
     EXPECT_TRUE(window.Unload());
 }
 
+TEST_F(FrmMainTest, APastedProxyAddressFillsItsFourBoxes) {
+    frmMain window(program_);
+    window.Load();
+    window.Show();
+    std::vector<MaskedBox*> boxes;
+    for (Control* control : ControlOf<TabStrip>(window, ControlKind::TabStrip, "").Pages()[0]->Controls())
+        if (control->Kind() == ControlKind::MaskedBox) boxes.push_back(static_cast<MaskedBox*>(control));
+    for (const char* text : {"10.20.30.40", " 10 . 20.30.40:8080\r\n"}) {
+        for (MaskedBox* box : boxes) {
+            program_.profile.Dialog.Value(kProxyIP) = "1.2.3.4";
+            window.ShowProfile();
+            program_.dirty = false;
+            Paste(*box, text, 1);
+            window.CollectProfile();
+            EXPECT_EQ(program_.profile.Dialog.Value(kProxyIP), "10.20.30.40") << text;
+            EXPECT_TRUE(program_.dirty);
+        }
+    }
+    program_.profile.Dialog.Value(kProxyIP) = "1.2.3.4";
+    window.ShowProfile();
+    Paste(*boxes[1], "10.x", 1);
+    window.CollectProfile();
+    EXPECT_EQ(program_.profile.Dialog.Value(kProxyIP), "1.210.3.4");
+}
+
 TEST_F(FrmMainTest, ClosesToTheTrayAndEndsByExitAlone) {
     frmMain window(program_);
     window.Load();
