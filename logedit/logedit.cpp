@@ -37,6 +37,7 @@ ParseResult ParseLogFile(LogEdit& edit, const std::string& path, const ParseStep
         Clear(edit, log.Error());
     } else {
         edit.LogLines = log.Take();
+        edit.include.Clear();  // its old players are not to be painted over the new log
         edit.exclude.Clear();
         edit.view.Clear();
         if (steps.onPlayers) steps.onPlayers(std::max<size_t>(edit.LogLines->Players().size(), 2) - 1);

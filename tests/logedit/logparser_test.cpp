@@ -182,7 +182,10 @@ TEST_F(ParseLogFileTest, ReportsItsSteps) {
     std::vector<uint64_t> progress;
     const ParseSteps told{[&](uint64_t size) { steps += "read " + std::to_string(size) + " "; },
                           [&](uint64_t done) { progress.push_back(done); },
-                          [&](size_t highest) { steps += "players " + std::to_string(highest); },
+                          [&](size_t highest) {
+                              steps += "players " + std::to_string(highest);
+                              EXPECT_EQ(edit.include.Count(), 0u) << "the old log's players would be painted";
+                          },
                           [&] { steps += " end"; }};
     std::string text = GenerateLog({1000000, 40, 3});
     test::PutFile(In("big.log"), text);
