@@ -11,7 +11,7 @@ namespace {
 
 // clang-format off
 //                             left   top  width  height
-constexpr Bounds kGammaLabel{   120,  165,  2520, kLabelHeight};
+constexpr Bounds kGammaLabel{   120,  165,  2460, kLabelHeight};
 constexpr Bounds kGamma{       2610,  120,   450, kRowHeight};
 constexpr Bounds kEmulator{    3450,  150,  1740, kCheckHeight};
 constexpr Bounds kCodeLabel{   5250,  165,  1050, kLabelHeight};
