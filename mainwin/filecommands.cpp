@@ -138,8 +138,7 @@ void FileCommands::mnuFile_Import_Click() {
                                    .flags = kHideReadOnly});
     if (!path) return;
     // A file with few lines must not bring back what the player has typed over in the other macros.
-    view_.CollectProfile();
-    const Result<bool> changed = ImportMacroFile(program_.profile, *path);
+    const Result<bool> changed = ImportMacroFile(program_.profile, *path, view_.CollectMacros);
     if (changed.Failed()) {
         ShowError(changed.Error());
         return;

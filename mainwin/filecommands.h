@@ -13,7 +13,8 @@ struct FileCommandsView {
     std::function<void()> ShowProfile;     // profile to controls
     std::function<void()> CollectProfile;  // controls to profile
     std::function<void()> ShowMacros;      // the sixteen macros only
-    std::function<void()> ShowMacroPage;   // brings the page "Macros Shift" to the front
+    std::function<void()> CollectMacros;
+    std::function<void()> ShowMacroPage;  // brings the page "Macros Shift" to the front
     std::function<void(const std::string&)> SetTitle;
     std::function<void(const std::string&)> SetStatus;
     std::function<void()> RefreshRecentMenu;

@@ -47,6 +47,7 @@ frmMain::frmMain(Program& program)
                         .ShowProfile = [this] { ShowProfile(); },
                         .CollectProfile = [this] { CollectProfile(); },
                         .ShowMacros = [this] { ShowMacros(); },
+                        .CollectMacros = [this] { CollectMacros(); },
                         .ShowMacroPage = [this] { SSTab1.SetTab(kMacrosShiftPage); },
                         .SetTitle = [this](const std::string& title) { SetCaption(title); },
                         .SetStatus = [this](const std::string& text) { StatusBar1.SetText(text); },
@@ -180,8 +181,7 @@ void frmMain::CollectProfile() {
         program_.profile.Options.Value(setting) = std::to_string(box->Value());
     }
     advancedPage_.Collect();
-    shiftPage_.Collect();
-    rShiftPage_.Collect();
+    CollectMacros();
     ignorePage_.Collect();
     hiddenPage_.Collect();
 }
@@ -189,6 +189,11 @@ void frmMain::CollectProfile() {
 void frmMain::ShowMacros() {
     shiftPage_.Show();
     rShiftPage_.Show();
+}
+
+void frmMain::CollectMacros() {
+    shiftPage_.Collect();
+    rShiftPage_.Collect();
 }
 
 void frmMain::MenuCommand(int command) {

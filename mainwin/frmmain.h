@@ -44,6 +44,7 @@ private:
     void Command4_Click();
     void ShowOptions(bool favourites);
     void ShowMacros();
+    void CollectMacros();
 
     Program& program_;
     Edited edited_;

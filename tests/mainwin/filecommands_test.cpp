@@ -39,6 +39,7 @@ protected:
                         program_.profile.Messages.Value(16) = macro_;
                     },
                 .ShowMacros = [this] { macro_ = program_.profile.Messages.Value(16); },
+                .CollectMacros = [this] { program_.profile.Messages.Value(16) = macro_; },
                 .ShowMacroPage = [this] { macroPageInFront_ = true; },
                 .SetTitle = [this](const std::string& title) { title_ = title; },
                 .SetStatus = [this](const std::string& status) { status_ = status; },
@@ -207,6 +208,19 @@ TEST_F(FileCommandsTest, ARecentFileLoadsWithoutAskingAndKeepsTheCurrentName) {
     EXPECT_EQ(status_, "ERROR loading file");
     EXPECT_EQ(program_.recentFiles[1], new_);
     EXPECT_EQ(title_, "QUIRN v1.61 - old.qrn");
+}
+
+TEST_F(FileCommandsTest, ImportTakesNoEditsButMacrosIntoTheProfile) {
+    PutFile(Scratch() + "\\duel.ssm", "one\r\n");
+    pilot_ = macro_ = "typed";
+    ExpectOpenFile("Import Subspace Macro File", Scratch() + "\\gone.ssm");
+    ExpectError(53, "File not found");
+    commands_.mnuFile_Import_Click();
+    EXPECT_NE(program_.profile.Messages.Value(16), "typed");
+    ExpectOpenFile("Import Subspace Macro File", Scratch() + "\\duel.ssm");
+    commands_.mnuFile_Import_Click();
+    EXPECT_EQ(program_.profile.Messages.Value(16), "typed");
+    EXPECT_NE(program_.profile.Dialog.Value(kPlayerName), "typed");
 }
 
 TEST_F(FileCommandsTest, ImportKeepsWhatWasTypedInOtherMacros) {

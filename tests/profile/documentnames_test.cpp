@@ -82,6 +82,14 @@ TEST_F(MacroImportTest, ReadsUpToSixteenLines) {
     EXPECT_EQ(profile_.Messages.Value(kChatName), before.Messages.Value(kChatName));
 }
 
+TEST_F(MacroImportTest, ReadsNoMoreOfALargeFileThanTheMacros) {
+    const std::string large(size_t{2} << 20, 'x');
+    PutFile(file_, large);
+    EXPECT_EQ(ImportMacroFile(profile_, file_).Error().number, 7);
+    PutFile(file_, std::string(32, '\n') + large);
+    EXPECT_TRUE(ImportMacroFile(profile_, file_).Value());
+}
+
 TEST_F(MacroImportTest, AFileThatCannotBeReadChangesNothing) {
     const Profile before = profile_;
     EXPECT_EQ(ImportMacroFile(profile_, file_).Error().number, 53);
