@@ -187,6 +187,7 @@ void frmMain::CollectProfile() {
 }
 
 void frmMain::ShowMacros() {
+    picker_.Close();  // its variable belongs to the macro that was there before
     shiftPage_.Show();
     rShiftPage_.Show();
 }

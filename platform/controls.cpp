@@ -217,7 +217,6 @@ void ListBox::UserSelects(const std::vector<int>& indexes) {
         if (IndexIn(items_, index) >= 0) selected[static_cast<size_t>(index)] = true;
     if (selected == selected_) return;
     selected_ = std::move(selected);
-    Changed(Aspect::Selection);
     CallHandler(onClick);
 }
 

@@ -51,8 +51,8 @@ void ApplySelection(Control& control) {
     if (control.Kind() != ControlKind::ListBox) return;
     const auto& list = static_cast<ListBox&>(control);
     if (list.Style() == ListStyle::Single) {
-        if (SendMessageA(window, LB_GETCURSEL, 0, 0) != list.ListIndex())
-            SendMessageA(window, LB_SETCURSEL, static_cast<WPARAM>(list.ListIndex()), 0);
+        // Also when it is selected already: this scrolls to it.
+        SendMessageA(window, LB_SETCURSEL, static_cast<WPARAM>(list.ListIndex()), 0);
         return;
     }
     for (int i = 0; i < static_cast<int>(list.Items().size()); ++i)

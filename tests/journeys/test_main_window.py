@@ -197,6 +197,10 @@ def test_the_pick_list(desk):
     pick("x")
     choices = next(c for c in player.of_class("ListBox"))
     assert len(player.items(choices)) == 17 and player.selected(choices) == ["%area"]
+    LB_GETTOPINDEX, LB_SETTOPINDEX = 398, 407
+    player.user.ask("send", choices["handle"], LB_SETTOPINDEX, 5, 0)
+    player.type("a")  # "%area" still: comes into sight again
+    wait_for(lambda: player.user.ask("send", choices["handle"], LB_GETTOPINDEX, 0, 0)["result"] == 0, what="%area")
     l, t, r, _ = choices["rect"]
     player.point(l + 20, t + 22)
     player.xdo("click", 1)

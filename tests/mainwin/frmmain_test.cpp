@@ -145,6 +145,22 @@ TEST_F(FrmMainTest, AChatNameIsSavedCompleteWhileTheCursorIsInIt) {
     EXPECT_TRUE(window.Unload());
 }
 
+TEST_F(FrmMainTest, ThePickListGoesWithTheMacroThatItWasOpenedFor) {
+    frmMain window(program_);
+    window.Load();
+    window.Show();
+    auto& strip = ControlOf<TabStrip>(window, ControlKind::TabStrip, "");
+    strip.SetTab(4);
+    const auto& controls = strip.Pages()[4]->Controls();
+    const auto macro = std::find_if(controls.begin(), controls.end(),
+                                    [](Control* control) { return control->Kind() == ControlKind::TextBox; });
+    const auto& list = ControlOf<ListBox>(window, ControlKind::ListBox, "");
+    Type(static_cast<TextBox&>(**macro), "%");
+    EXPECT_TRUE(list.Visible());
+    window.ShowProfile();
+    EXPECT_FALSE(list.Visible());
+}
+
 TEST_F(FrmMainTest, APastedProxyAddressFillsItsFourBoxes) {
     frmMain window(program_);
     window.Load();
