@@ -5,6 +5,7 @@
 #include "auxiliary/quotes.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
+#include "platform/measures.h"
 #include "platform/registry.h"
 #include "platform/sound.h"
 #include "platform/text.h"
@@ -27,10 +28,10 @@ constexpr Bounds kInfo{         1380,  690, 4920,   210};
 constexpr Bounds kLink{         1380,  960, 3600,   210};
 constexpr Bounds kCookie{        180, 1350,  960,   960};
 constexpr Bounds kQuote{        1380, 1440, 4920,  1080};
-constexpr Bounds kCookieButton{  180, 2640, 4200,   345};
+constexpr Bounds kCookieButton{  180, 2640, 4200, kButtonHeight};
 constexpr Bounds kDisclaimer{    180, 3150, 6120,   840};
-constexpr Bounds kOk{           3300, 4140, 1440,   345};
-constexpr Bounds kSysInfo{      4860, 4140, 1440,   345};
+constexpr Bounds kOk{           3300, 4140, 1440, kButtonHeight};
+constexpr Bounds kSysInfo{      4860, 4140, 1440, kButtonHeight};
 // With the hidden quote:
 constexpr Bounds kSecretCookie{  180,  100,  960,   960};
 constexpr Bounds kSecret{       1380,  350, 4920,  1500};

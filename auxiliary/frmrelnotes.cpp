@@ -1,6 +1,7 @@
 #include "auxiliary/frmrelnotes.h"
 
 #include "platform/files.h"
+#include "platform/measures.h"
 #include "platform/text.h"
 #include "platform/version.h"
 
@@ -12,28 +13,31 @@ namespace {
 constexpr int kSmallestWidth = 721 * 15;
 constexpr int kSmallestHeight = 506 * 15;
 
-// The layout counts from the whole window's size, frame included.
-constexpr int kMargin = 90;
-constexpr int kBelowText = 1600;
-constexpr int kBesideText = 300;
-constexpr int kButtonsFromBottom = 930;
-constexpr int kCloseFromRight = 1750;
-constexpr Bounds kButton{0, 0, 1440, 345};
-constexpr int kButtonStep = 1560;
+// At the smallest size. The layout counts from the whole window's size, frame included: the text is 300 less wide and
+// 1600 less high, the buttons begin 930 above the lower edge and the last one 1750 before the right one.
+// clang-format off
+//                         left   top  width  height
+constexpr Bounds kText{      90,   90, 10515, 5990};
+constexpr Bounds kReadme{  5945, 6660,  1440, kButtonHeight};
+constexpr Bounds kRevision{7505, 6660,  1440, kButtonHeight};
+constexpr Bounds kClose{   9065, 6660,  1440, kButtonHeight};
+// clang-format on
 
 }  // namespace
 
 frmRelNotes::frmRelNotes()
     : Form(FormBorder::SizableDialog, kSmallestWidth, kSmallestHeight),
-      txtRelNotes(*this, {kMargin, kMargin, kSmallestWidth - kBesideText, kSmallestHeight - kBelowText}, "",
-                  TextStyle::ReadPage),
-      Command2(*this, kButton, "readme.txt"),
-      Command3(*this, kButton, "revision.txt"),
-      Command1(*this, kButton, "&Close") {
+      txtRelNotes(*this, kText, "", TextStyle::ReadPage),
+      Command2(*this, kReadme, "readme.txt"),
+      Command3(*this, kRevision, "revision.txt"),
+      Command1(*this, kClose, "&Close"),
+      anchors_(kSmallestWidth, kSmallestHeight) {
     SetCaption(std::string(kTitle) + " Readme/Revision Notes");
     SetMinimumSize(kSmallestWidth, kSmallestHeight);
     SetButtons(nullptr, &Command1);
     txtRelNotes.SetFont({"Courier New", 9});
+    anchors_.Add(txtRelNotes, Anchor::Grow, Anchor::Grow);
+    for (Button* button : {&Command1, &Command2, &Command3}) anchors_.Add(*button, Anchor::Follow, Anchor::Follow);
     onLoad = [this] {
         ShowFile(ProgramFolder() + "\\readme.txt");
         Form_Resize();
@@ -45,15 +49,7 @@ frmRelNotes::frmRelNotes()
 }
 
 void frmRelNotes::Form_Resize() {
-    const int width = Place().width;
-    const int height = Place().height;
-    txtRelNotes.Move({kMargin, kMargin, width - kBesideText, height - kBelowText});
-    // The three stand side by side and end with the rightmost.
-    int left = width - kCloseFromRight;
-    for (Button* button : {&Command1, &Command3, &Command2}) {
-        button->Move({left, height - kButtonsFromBottom, kButton.width, kButton.height});
-        left -= kButtonStep;
-    }
+    anchors_.Place(Place().width, Place().height);
 }
 
 void frmRelNotes::ShowFile(const std::string& path) {

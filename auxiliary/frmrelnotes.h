@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "platform/anchors.h"
 #include "platform/form.h"
 
 namespace quirn {
@@ -17,6 +18,7 @@ private:
 
     TextBox txtRelNotes;
     Button Command2, Command3, Command1;
+    Anchors anchors_;
 };
 
 }  // namespace quirn

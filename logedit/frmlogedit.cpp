@@ -9,6 +9,7 @@
 #include "logedit/logsettings.h"
 #include "platform/clipboard.h"
 #include "platform/dialogs.h"
+#include "platform/measures.h"
 #include "platform/text.h"
 #include "platform/version.h"
 #include "profile/splitpath.h"
@@ -25,25 +26,18 @@ constexpr int kHeight = 9000;
 constexpr int kSmallestWidth = 730 * 15;
 constexpr int kSmallestHeight = 540 * 15;
 
-// How the controls follow the window's size, from its inner area's edges.
-constexpr int kBesideLog = 300;
-constexpr int kBelowLog = 1500;   // and the height of the lists of players
-constexpr int kBelowBlock = 800;  // down to the status bar
-constexpr int kBlockHeight = PlayerPanel::kInclude.height;
+// The inner size for which the places are meant, here and in the panel of players. The log ends 150 before the right
+// edge; the lower block ends 800 above the status bar.
+constexpr int kInnerWidth = 11900;
+constexpr int kInnerHeight = 8400;
 
-// The tops of the lower block follow the window.
 // clang-format off
-//                             left  top  width  height
-constexpr Bounds kLog{          150, 120, 11600, 3000};
-constexpr Bounds kApplyFilter = PlayerPanel::kButtons;
-constexpr Bounds kTypes{       4960,   0,  5100, kBlockHeight};
+//                        left   top   width  height
+constexpr Bounds kLog{     150,  120, 11600, 5000};
+constexpr Bounds kApply{  1920, 6925,  1150, kButtonHeight};
+constexpr Bounds kTypes{  4960, 5370,  5100, 1900};
+constexpr Grid kBoxes{{    150,  270,  2400, kCheckHeight}, 2450, 262, 6};  // in the frame
 // clang-format on
-
-// The check boxes, in the frame: two columns of six.
-constexpr size_t kRows = 6;
-constexpr int kBoxLeft = 150, kBoxTop = 270, kBoxWidth = 2400, kBoxHeight = 225, kColumnStep = 2450, kRowStep = 262;
-static_assert(kBoxTop + static_cast<int>(kRows - 1) * kRowStep + kBoxHeight < kBlockHeight);
-static_assert(kBoxLeft + kColumnStep + kBoxWidth < kTypes.width);
 
 constexpr int kCountPanelWidth = 2700;
 constexpr char kLogFilter[] = "All Files (*.*)|*.*|LOG Files (*.log)|*.log|Text Files (*.txt)|*.txt";
@@ -65,20 +59,22 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
       menuBar_(kLogMenuRows),
       mnuLogEditPopup_(kLogEditPopupRows),
       mnuInExPopup_(kInExPopupRows),
+      anchors_(kInnerWidth, kInnerHeight),
       progress_(*this, lstLog),
       lstLog(*this, kLog, "Log"),
-      players_(*this, edit),
-      cmdApplyFilter(*this, kApplyFilter, "Apply Filter"),
+      players_(*this, edit, anchors_),
+      cmdApplyFilter(*this, kApply, "Apply Filter"),
       Frame1(*this, kTypes, "Include Message Types"),
       StatusBar1(*this, kCountPanelWidth),
       find_([this](const std::string& text) { FindInLog(text); }, edit.lastSearch) {
     for (size_t i = 0; i < kFilterBoxCount; ++i) {
-        const Bounds place{kBoxLeft + static_cast<int>(i / kRows) * kColumnStep,
-                           kBoxTop + static_cast<int>(i % kRows) * kRowStep, kBoxWidth, kBoxHeight};
-        CheckBox& box = chkFilters.emplace_back(Frame1, place, kFilterBoxes[i].caption);
+        CheckBox& box = chkFilters.emplace_back(Frame1, kBoxes.Cell(i), kFilterBoxes[i].caption);
         box.onClick = [this] { chkFilters_Click(); };
     }
     SetMinimumSize(kSmallestWidth, kSmallestHeight);
+    anchors_.Add(Frame1, Anchor::Stay, Anchor::Follow)
+        .Add(lstLog, Anchor::Grow, Anchor::Grow)
+        .Add(cmdApplyFilter, Anchor::Stay, Anchor::Follow);
     lstLog.SetFont({.face = "Courier New", .points = 9});
     lstLog.itemText = [this](size_t item) { return edit_.view.Text(item); };
     lstLog.itemData = [this](size_t item) { return edit_.view.Info(item); };
@@ -135,17 +131,7 @@ void frmLogEdit::Form_Load() {
 }
 
 void frmLogEdit::Form_Resize() {
-    if (IsMinimized()) return;
-    const int width = InnerWidth();
-    const int height = InnerHeight();
-    const int blockBottom = height - StatusBar::kHeight - kBelowBlock;
-    players_.MoveBottom(blockBottom);
-    // The frame takes its check boxes along.
-    const int down = blockBottom - Frame1.Place().height - Frame1.Place().top;
-    Frame1.MoveTop(Frame1.Place().top + down);
-    for (CheckBox& box : chkFilters) box.MoveTop(box.Place().top + down);
-    lstLog.Move({kLog.left, kLog.top, width - kBesideLog, height - kBlockHeight - kBelowLog});
-    cmdApplyFilter.MoveTop(blockBottom - cmdApplyFilter.Place().height);
+    if (!IsMinimized()) anchors_.Place(InnerWidth(), InnerHeight());
 }
 
 bool frmLogEdit::Form_Unload() {

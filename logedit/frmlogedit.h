@@ -7,6 +7,7 @@
 #include "logedit/logedit.h"
 #include "logedit/playerpanel.h"
 #include "logedit/progressframe.h"
+#include "platform/anchors.h"
 #include "platform/form.h"
 #include "platform/virtuallist.h"
 
@@ -49,6 +50,7 @@ private:
     Menu menuBar_;
     Menu mnuLogEditPopup_, mnuInExPopup_;
 
+    Anchors anchors_;
     ProgressFrame progress_;
     VirtualList lstLog;
     PlayerPanel players_;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/measures.h"
+
 namespace quirn {
 
 namespace {
@@ -11,10 +13,10 @@ constexpr int kHeight = 1410;
 
 // clang-format off
 //                       left  top  width height
-constexpr Bounds kLabel{  120, 165,  870, 195};
-constexpr Bounds kText{  1020, 120, 2520, 285};
-constexpr Bounds kFind{  3660,  90, 1170, 345};
-constexpr Bounds kCancel{3660, 510, 1170, 345};
+constexpr Bounds kLabel{  120, 165,  870, kLabelHeight};
+constexpr Bounds kText{  1020, 120, 2520, kRowHeight};
+constexpr Bounds kFind{  3660,  90, 1170, kButtonHeight};
+constexpr Bounds kCancel{3660, 510, 1170, kButtonHeight};
 // clang-format on
 
 }  // namespace

@@ -2,15 +2,23 @@
 
 #include <algorithm>
 
+#include "platform/measures.h"
 #include "platform/text.h"
 
 namespace quirn {
 
 namespace {
 
-constexpr int kLabelHeight = 195;
-constexpr int kLabelGap = 30;
-constexpr int kButtonGap = 100;
+// clang-format off
+//                             left   top  width  height
+constexpr Bounds kIncludeLabel{ 150, 5145, 1700, kLabelHeight};
+constexpr Bounds kInclude{      150, 5370, 1700, 1900};
+constexpr Bounds kIn{          1920, 5370, 1150, kButtonHeight};
+constexpr Bounds kOut{         1920, 5815, 1150, kButtonHeight};
+constexpr Bounds kExcludeLabel{3140, 5145, 1700, kLabelHeight};
+constexpr Bounds kExclude{     3140, 5370, 1700, 1900};
+// clang-format on
+
 constexpr char kIncludeCaption[] = "Include :";  // until a log is loaded
 constexpr char kExcludeCaption[] = "Exclude :";
 
@@ -22,14 +30,14 @@ size_t LongestName(const PlayerList& players) {
 
 }  // namespace
 
-PlayerPanel::PlayerPanel(Form& form, LogEdit& edit)
+PlayerPanel::PlayerPanel(Form& form, LogEdit& edit, Anchors& anchors)
     : edit_(edit),
       popupList_(&lstInclude),
-      lblInclude(form, {kInclude.left, 0, kInclude.width, kLabelHeight}, kIncludeCaption),
+      lblInclude(form, kIncludeLabel, kIncludeCaption),
       lstInclude(form, kInclude, "Include"),
-      cmdIn(form, kButtons, "<<"),
-      cmdOut(form, kButtons, ">>"),
-      lblExclude(form, {kExclude.left, 0, kExclude.width, kLabelHeight}, kExcludeCaption),
+      cmdIn(form, kIn, "<<"),
+      cmdOut(form, kOut, ">>"),
+      lblExclude(form, kExcludeLabel, kExcludeCaption),
       lstExclude(form, kExclude, "Exclude") {
     for (VirtualList* list : {&lstInclude, &lstExclude}) {
         const PlayerList& players = PlayersOf(*list);
@@ -44,15 +52,9 @@ PlayerPanel::PlayerPanel(Form& form, LogEdit& edit)
     lstExclude.onDoubleClick = [this] { cmdIn_Click(); };
     cmdIn.onClick = [this] { cmdIn_Click(); };
     cmdOut.onClick = [this] { cmdOut_Click(); };
-}
-
-void PlayerPanel::MoveBottom(int bottom) {
-    lstInclude.MoveTop(bottom - lstInclude.Place().height);
-    lstExclude.MoveTop(bottom - lstExclude.Place().height);
-    cmdIn.MoveTop(lstInclude.Place().top);
-    cmdOut.MoveTop(cmdIn.Place().Bottom() + kButtonGap);
-    lblInclude.MoveTop(lstInclude.Place().top - lblInclude.Place().height - kLabelGap);
-    lblExclude.MoveTop(lstExclude.Place().top - lblExclude.Place().height - kLabelGap);
+    for (Control* control :
+         std::initializer_list<Control*>{&lblInclude, &lstInclude, &cmdIn, &cmdOut, &lblExclude, &lstExclude})
+        anchors.Add(*control, Anchor::Stay, Anchor::Follow);
 }
 
 void PlayerPanel::Reset() {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "logedit/logedit.h"
+#include "platform/anchors.h"
 #include "platform/form.h"
 #include "platform/virtuallist.h"
 
@@ -12,17 +13,11 @@ namespace quirn {
 // The two lists of players below the log, and the buttons that move names from one to the other.
 class PlayerPanel {
 public:
-    static constexpr Bounds kInclude{150, 0, 1700, 1900};
-    static constexpr Bounds kButtons{1920, 0, 1150, 345};
-    static constexpr Bounds kExclude{3140, 0, 1700, 1900};
-
-    // edit outlives the panel.
-    PlayerPanel(Form& form, LogEdit& edit);
+    // edit outlives the panel. Its controls follow the form's lower edge by these anchors.
+    PlayerPanel(Form& form, LogEdit& edit, Anchors& anchors);
 
     std::function<void()> onMove;   // players have changed lists
     std::function<void()> onPopUp;  // the menu mnuInExPopup is wanted; its commands are for the list that was clicked
-
-    void MoveBottom(int bottom);  // where the lists end, in twips from the form's upper edge
 
     void Reset();  // as without a log
     void Empty();  // before a log is read

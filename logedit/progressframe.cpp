@@ -16,11 +16,8 @@ ProgressFrame::ProgressFrame(Form& form, const VirtualList& over)
 
 void ProgressFrame::Show(const std::string& caption, uint64_t maximum) {
     const Bounds& list = over_.Place();
-    Bounds place = kFrame;
-    place.left = list.left + (list.width - place.width) / 2;
-    place.top = list.top + (list.height - place.height) / 2;
-    famProgFrame.Move(place);
-    ProgBar.Move({place.left + kBar.left, place.top + kBar.top, kBar.width, kBar.height});
+    famProgFrame.Move(
+        kFrame.MovedBy(list.left + (list.width - kFrame.width) / 2, list.top + (list.height - kFrame.height) / 2));
     famProgFrame.SetText(caption);
     famProgFrame.SetForeColor(over_.ForeColor());
     famProgFrame.SetBackColor(over_.BackColor());

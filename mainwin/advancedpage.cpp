@@ -17,10 +17,7 @@ constexpr Bounds kEmulator{    3450,  150,  1740, kCheckHeight};
 constexpr Bounds kCodeLabel{   5250,  165,  1050, kLabelHeight};
 constexpr Bounds kCode{        6315,   90,  1785, kButtonHeight};
 constexpr Bounds kFrame{        120,  495,  7980, 3615};
-constexpr Bounds kBox{          120,  240,  1890, 225};   // in the frame
-constexpr int    kStepX =      1965;
-constexpr int    kStepY =       238;
-constexpr int    kRows =         14;
+constexpr Grid kBoxes{{         120,  240,  1890, kCheckHeight}, 1965, 238, 14};  // in the frame
 // clang-format on
 
 // The position code and ":" before the name of the setting.
@@ -40,11 +37,7 @@ AdvancedPage::AdvancedPage(TabStrip& strip, Profile& profile, Edited edited)
       cmdConfigCode(*this, kCode, ""),
       Frame2(*this, kFrame, "Force Into System Memory") {
     for (size_t i = 0; i < kAdvancedSwitches.size(); ++i) {
-        const int position = static_cast<int>(i);
-        CheckBox& box = chkAdvanced.emplace_back(Frame2,
-                                                 Bounds{kBox.left + position / kRows * kStepX,
-                                                        kBox.top + position % kRows * kStepY, kBox.width, kBox.height},
-                                                 kAdvancedSwitches[i].caption);
+        CheckBox& box = chkAdvanced.emplace_back(Frame2, kBoxes.Cell(i), kAdvancedSwitches[i].caption);
         box.Tag = kAdvancedSwitches[i].Tag();
         box.onClick = edited_;
         box.onMouseUp = [this] { chkAdvanced_MouseUp(); };
@@ -81,7 +74,9 @@ void AdvancedPage::chkAdvanced_MouseUp() {
 }
 
 void AdvancedPage::cmdConfigCode_Click() {
-    const std::optional<std::string> text = AskConfigCode(Owner());
+    frmConfig dialog;
+    dialog.ShowModal(Owner());
+    const std::optional<std::string>& text = dialog.Code();
     if (!text) return;
     const AdvancedStates before = States();
     AdvancedStates states = before;

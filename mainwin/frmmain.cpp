@@ -24,10 +24,14 @@ namespace {
 constexpr int kWidth = 8748;
 constexpr int kHeight = 6456;
 
+// The inner size for which the places are meant. How much room the frame leaves is the system's choice.
+constexpr int kInnerWidth = 8505;
+constexpr int kInnerHeight = 5550;
+
 // clang-format off
 //                              left   top  width  height
-constexpr Bounds kTabs{           90,   75, 8325, 4620};         // moved to the middle when the
-constexpr Bounds kRun{          2550, 4785, 3400, kButtonHeight};  // window's inner size is known
+constexpr Bounds kTabs{           90,   75, 8325, 4620};
+constexpr Bounds kRun{          2552, 4785, 3400, kButtonHeight};
 // On the page "Macros R-Shift":
 constexpr Bounds kCopyMacros{   2520, 3660, 1800, kButtonHeight};
 constexpr Bounds kDistinguish{  4560, 3720, 2400, kCheckHeight};
@@ -69,7 +73,9 @@ frmMain::frmMain(Program& program)
       chkDistinguish(rShiftPage_, kDistinguish, kSettingBoxes[kDistinguishBox].caption),
       Command3(*this, kRun, "Transfer Profile And Run Subspace"),
       picker_(*this, SSTab1, edited_),
-      StatusBar1(*this) {
+      StatusBar1(*this),
+      anchors_(kInnerWidth, kInnerHeight) {
+    anchors_.Add(SSTab1, Anchor::Center, Anchor::Stay).Add(Command3, Anchor::Center, Anchor::Center);
     for (CheckBox& box : optionsPage_.Boxes()) chkSettings.push_back(&box);
     chkSettings.push_back(&advancedPage_.EmulatorBox());
     chkSettings.push_back(&chkDistinguish);
@@ -96,7 +102,7 @@ frmMain::frmMain(Program& program)
     SSTab1.onClick = [this] { picker_.Close(); };
 
     onLoad = [this] { Form_Load(); };
-    onResize = [this] { CenterControls(); };
+    onResize = [this] { Form_Resize(); };
     onQueryUnload = [this](UnloadMode mode) { return Form_QueryUnload(mode); };
     onUnload = [this] { return Form_Unload(); };
     onDropFile = [this](const std::string& path) { fileCommands_.OpenDropped(path); };
@@ -107,7 +113,7 @@ void frmMain::Form_Load() {
     ReadLists(program_);
     trayCommands_.BuildFavouritesMenu();
     RefreshRecentMenu(menuBar_, program_.recentFiles);
-    CenterControls();
+    Form_Resize();
     // A second copy finds the first by the start of this text.
     SetCaption(VersionTitle() + " - " + program_.CurrentFile);
 
@@ -124,16 +130,8 @@ void frmMain::Form_Load() {
     if (program_.quiet) Hide();
 }
 
-// How much room the frame leaves is the system's choice.
-void frmMain::CenterControls() {
-    const auto inTheMiddle = [this](Bounds place) {
-        place.left = (InnerWidth() - place.width) / 2;
-        return place;
-    };
-    SSTab1.Move(inTheMiddle(kTabs));
-    Bounds run = inTheMiddle(kRun);
-    run.top = kTabs.Bottom() + (InnerHeight() - StatusBar::kHeight - kTabs.Bottom() - run.height) / 2;
-    Command3.Move(run);
+void frmMain::Form_Resize() {
+    if (!IsMinimized()) anchors_.Place(InnerWidth(), InnerHeight());
 }
 
 // The close box only hides the window: the program stays in the tray.

@@ -13,6 +13,7 @@
 #include "mainwin/optionspage.h"
 #include "mainwin/program.h"
 #include "mainwin/traycommands.h"
+#include "platform/anchors.h"
 #include "platform/form.h"
 
 namespace quirn {
@@ -28,7 +29,7 @@ public:
 
 private:
     void Form_Load();
-    void CenterControls();
+    void Form_Resize();
     bool Form_QueryUnload(UnloadMode mode);
     bool Form_Unload();
 
@@ -69,6 +70,7 @@ private:
     Button Command3;
     MacroPicker picker_;
     StatusBar StatusBar1;
+    Anchors anchors_;
 
     LogEdit logEdit_;
     std::unique_ptr<frmLogEdit>

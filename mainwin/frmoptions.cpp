@@ -3,6 +3,7 @@
 #include "mainwin/favourites.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
+#include "platform/measures.h"
 #include "profile/splitpath.h"
 
 namespace quirn {
@@ -15,21 +16,21 @@ constexpr int kHeight = 4080;
 // clang-format off
 //                         left   top  width  height
 constexpr Bounds kTabs{     120,  120,  5910, 2850};
-constexpr Bounds kOk{      1590, 3090,  1380,  345};
-constexpr Bounds kCancel{  3120, 3090,  1380,  345};
-constexpr Bounds kApply{   4650, 3090,  1380,  345};
+constexpr Bounds kOk{      1590, 3090,  1380, kButtonHeight};
+constexpr Bounds kCancel{  3120, 3090,  1380, kButtonHeight};
+constexpr Bounds kApply{   4650, 3090,  1380, kButtonHeight};
 // On the page "File Locations":
-constexpr Bounds kSubLabel{ 180,  240,  5400,  195};
+constexpr Bounds kSubLabel{ 180,  240,  5400, kLabelHeight};
 constexpr Bounds kSubLoc{   180,  480,  4200,  300};
-constexpr Bounds kBrowse0{ 4500,  450,  1140,  345};
-constexpr Bounds kQrnLabel{ 180, 1110,  5400,  195};
+constexpr Bounds kBrowse0{ 4500,  450,  1140, kButtonHeight};
+constexpr Bounds kQrnLabel{ 180, 1110,  5400, kLabelHeight};
 constexpr Bounds kQrnLoc{   180, 1350,  4200,  300};
-constexpr Bounds kBrowse1{ 4500, 1320,  1140,  345};
+constexpr Bounds kBrowse1{ 4500, 1320,  1140, kButtonHeight};
 // On the page "Favourites":
 constexpr Bounds kList{     180,  240,  4200, 1815};
-constexpr Bounds kAdd{     4500,  240,  1140,  345};
-constexpr Bounds kRemove{  4500,  690,  1140,  345};
-constexpr Bounds kClear{   4500, 1140,  1140,  345};
+constexpr Bounds kAdd{     4500,  240,  1140, kButtonHeight};
+constexpr Bounds kRemove{  4500,  690,  1140, kButtonHeight};
+constexpr Bounds kClear{   4500, 1140,  1140, kButtonHeight};
 // clang-format on
 
 }  // namespace

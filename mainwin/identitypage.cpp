@@ -29,28 +29,23 @@ constexpr Bounds kPortLabel{             4500, 1665,  1050, kLabelHeight};
 constexpr Bounds kPortPlace{             5580, 1665,  2520, kLabelHeight};
 constexpr Bounds kZoneDescription{       1680, 1920,  6420, kLabelHeight};
 constexpr Bounds kUseProxy{               120, 2310,  1980, kCheckHeight};
-constexpr Bounds kProxyAddress{          2160, 2280,   570, kRowHeight};
-constexpr int    kProxyStep =             690;
+constexpr Grid kProxyAddress{{           2160, 2280,   570, kRowHeight}, 690, 0, 1};
 constexpr Bounds kChatNameLabel{          120, 2715,  1500, kLabelHeight};
 constexpr Bounds kChatPlace{             1680, 2670,  6420, kRowHeight};
 constexpr Bounds kWaveFrame{              120, 3060,  7980, 1080};
-// In the frame, the first of two rows:
-constexpr Bounds kWaveLabel{              150,  330,  1020, kLabelHeight};
-constexpr Bounds kWaveName{              1200,  330,  4350, kLabelHeight};
-constexpr Bounds kWaveBrowse{            5640,  240,  1140, 330};
-constexpr Bounds kWavePlay{              6870,  240,   960, 330};
-constexpr int    kWaveStep =              390;
+// In the frame, two rows:
+constexpr int kWaveStep = 390;
+constexpr Grid kWaveLabel{{               150,  330,  1020, kLabelHeight}, 0, kWaveStep, 2};
+constexpr Grid kWaveName{{               1200,  330,  4350, kLabelHeight}, 0, kWaveStep, 2};
+constexpr Grid kWaveBrowse{{             5640,  240,  1140, 330}, 0, kWaveStep, 2};
+constexpr Grid kWavePlay{{               6870,  240,   960, 330}, 0, kWaveStep, 2};
 // clang-format on
 
 constexpr const char* kWaveCaptions[] = {"Shift-F11 :", "Shift-F12 :"};
 
-constexpr Bounds MovedBy(Bounds place, int right, int down) {
-    return {place.left + right, place.top + down, place.width, place.height};
-}
-
 ControlArray<MaskedBox> MakeProxyBoxes(Parent page) {
     ControlArray<MaskedBox> boxes;
-    for (int i = 0; i < 4; ++i) boxes.emplace_back(page, MovedBy(kProxyAddress, i * kProxyStep, 0), "999");
+    for (size_t i = 0; i < 4; ++i) boxes.emplace_back(page, kProxyAddress.Cell(i), "999");
     return boxes;
 }
 
@@ -91,16 +86,12 @@ IdentityPage::IdentityPage(TabStrip& strip, Profile& profile, Edited edited)
         mskProxyAddress[i].onPaste = [this](const std::string& text) { return PasteProxy(text); };
     }
     for (size_t i = 0; i < 2; ++i) {
-        const int down = static_cast<int>(i) * kWaveStep;
-        lblWaveCaption.emplace_back(Frame3, MovedBy(kWaveLabel, 0, down), kWaveCaptions[i]);
-        lblWaveFileName.emplace_back(Frame3, MovedBy(kWaveName, 0, down), "Wave Filename", Alignment::Left,
-                                     Label::kShowsData);
-        cmdWaveBrowse.emplace_back(Frame3, MovedBy(kWaveBrowse, 0, down), "Browse...").onClick = [this, i] {
+        lblWaveCaption.emplace_back(Frame3, kWaveLabel.Cell(i), kWaveCaptions[i]);
+        lblWaveFileName.emplace_back(Frame3, kWaveName.Cell(i), "Wave Filename", Alignment::Left, Label::kShowsData);
+        cmdWaveBrowse.emplace_back(Frame3, kWaveBrowse.Cell(i), "Browse...").onClick = [this, i] {
             cmdWaveBrowse_Click(i);
         };
-        cmdWavePlay.emplace_back(Frame3, MovedBy(kWavePlay, 0, down), "Play").onClick = [this, i] {
-            cmdWavePlay_Click(i);
-        };
+        cmdWavePlay.emplace_back(Frame3, kWavePlay.Cell(i), "Play").onClick = [this, i] { cmdWavePlay_Click(i); };
     }
 
     txtPassword.SetMasked(true);

@@ -6,9 +6,8 @@ namespace {
 
 // clang-format off
 //                      left   top  width  height
-constexpr Bounds kLabel{ 120,  195,  1140, kLabelHeight};
-constexpr Bounds kText{ 1290,  150,  6810, kRowHeight};
-constexpr int    kStep = 420;
+constexpr Grid kLabels{{ 120,  195,  1140, kLabelHeight}, 0, 420, kMacrosPerSet};
+constexpr Grid kTexts{{ 1290,  150,  6810, kRowHeight}, 0, 420, kMacrosPerSet};
 constexpr Bounds kImport{120, 3660,  2280, kButtonHeight};
 // clang-format on
 
@@ -17,11 +16,9 @@ constexpr Bounds kImport{120, 3660,  2280, kButtonHeight};
 MacroPage::MacroPage(TabStrip& strip, const char* caption, const char* keyName, Profile& profile, int firstMacro,
                      const Edited& edited)
     : TabPage(strip, caption), profile_(profile), firstMacro_(firstMacro) {
-    for (int i = 0; i < kMacrosPerSet; ++i) {
-        const int down = i * kStep;
-        labels_.emplace_back(*this, Bounds{kLabel.left, kLabel.top + down, kLabel.width, kLabel.height},
-                             std::string(keyName) + " F" + std::to_string(i + 1) + " -");
-        TextBox& text = txtMacro.emplace_back(*this, Bounds{kText.left, kText.top + down, kText.width, kText.height});
+    for (size_t i = 0; i < kMacrosPerSet; ++i) {
+        labels_.emplace_back(*this, kLabels.Cell(i), std::string(keyName) + " F" + std::to_string(i + 1) + " -");
+        TextBox& text = txtMacro.emplace_back(*this, kTexts.Cell(i));
         text.onChange = edited;
         text.onKeyPress = [this, &text](char key) {
             if (key != '%' || !onPercent) return false;

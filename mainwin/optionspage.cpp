@@ -11,38 +11,28 @@ namespace {
 constexpr Bounds kGroup{        120, 1800,  1260, 1065};  // the first of two rows of three
 constexpr int    kGroupStepX =  1350;
 constexpr int    kGroupStepY =  1140;
-constexpr Bounds kGroupButton{   75,  240,  1155,  240};  // in its frame
-constexpr int    kGroupButtonStep = 255;
+constexpr Grid kGroupButtons{{   75,  240,  1155,  240}, 0, 255, 3};  // in its frame
 
-constexpr Bounds kNumberLabel{  120,  210,  1860,  kLabelHeight};
-constexpr Bounds kNumber{      2040,  165,   600,  kRowHeight};
-constexpr int    kNumberStep =  390;
+constexpr Grid kNumberLabels{{  120,  210,  1860, kLabelHeight}, 0, 390, 4};
+constexpr Grid kNumbers{{      2040,  165,   600, kRowHeight}, 0, 390, 4};
 
 constexpr Bounds kMisc{        4200,  120,  3900, 3900};
-constexpr Bounds kMiscBox{      120,  255,  1860, 240};   // in its frame
-constexpr int    kMiscStepX =  1890;
-constexpr int    kMiscStepY =   277;
-constexpr int    kMiscRows =     13;
+constexpr Grid kMiscBoxes{{     120,  255,  1860,  240}, 1890, 277, 13};  // in its frame
 // clang-format on
-
-constexpr Bounds NumberRow(Bounds place, int row) {
-    place.top += row * kNumberStep;
-    return place;
-}
 
 }  // namespace
 
 OptionsPage::OptionsPage(TabStrip& strip, Profile& profile, const Edited& edited)
     : TabPage(strip, "Options"),
       profile_(profile),
-      lblMsgNameLen(*this, NumberRow(kNumberLabel, 0), "Message Name Length :"),
-      txtMsgNameLen(*this, NumberRow(kNumber, 0)),
-      lblMusicVolume(*this, NumberRow(kNumberLabel, 1), "Music Volume :"),
-      txtMusicVolume(*this, NumberRow(kNumber, 1)),
-      lblMsgLines(*this, NumberRow(kNumberLabel, 2), "Message Lines :"),
-      txtMsgLines(*this, NumberRow(kNumber, 2)),
-      lblBounty(*this, NumberRow(kNumberLabel, 3), "Target Bounty :"),
-      txtBounty(*this, NumberRow(kNumber, 3)) {
+      lblMsgNameLen(*this, kNumberLabels.Cell(0), "Message Name Length :"),
+      txtMsgNameLen(*this, kNumbers.Cell(0)),
+      lblMusicVolume(*this, kNumberLabels.Cell(1), "Music Volume :"),
+      txtMusicVolume(*this, kNumbers.Cell(1)),
+      lblMsgLines(*this, kNumberLabels.Cell(2), "Message Lines :"),
+      txtMsgLines(*this, kNumbers.Cell(2)),
+      lblBounty(*this, kNumberLabels.Cell(3), "Target Bounty :"),
+      txtBounty(*this, kNumbers.Cell(3)) {
     UpDown_.emplace_back(*this, txtMsgNameLen, 0, 24);
     UpDown_.emplace_back(*this, txtMusicVolume, 0, 100);
     UpDown_.emplace_back(*this, txtMsgLines, 0, 99);
@@ -52,28 +42,21 @@ OptionsPage::OptionsPage(TabStrip& strip, Profile& profile, const Edited& edited
     for (size_t i = 0; i < kOptionGroups.size(); ++i) {
         const int column = static_cast<int>(i) % 3;
         const int row = static_cast<int>(i) / 3;
-        Frame& frame = Frame1.emplace_back(
-            *this,
-            Bounds{kGroup.left + column * kGroupStepX, kGroup.top + row * kGroupStepY, kGroup.width, kGroup.height},
-            kOptionGroups[i].caption);
-        Bounds place = kGroupButton;
-        for (const char* caption : kOptionGroups[i].buttons) {
-            buttons_.emplace_back(frame, *groups_[i], place, caption);
-            place.top += kGroupButtonStep;
-        }
+        Frame& frame = Frame1.emplace_back(*this, kGroup.MovedBy(column * kGroupStepX, row * kGroupStepY),
+                                           kOptionGroups[i].caption);
+        size_t button = 0;
+        for (const char* caption : kOptionGroups[i].buttons)
+            buttons_.emplace_back(frame, *groups_[i], kGroupButtons.Cell(button++), caption);
         groups_[i]->onClick = edited;
     }
 
     Frame& misc = Frame1.emplace_back(*this, kMisc, "Miscellaneous");
-    int position = 0;
+    size_t position = 0;
     for (size_t i = 0; i < kSettingBoxes.size(); ++i) {
         if (i == kEmulatorBox || i == kDistinguishBox) continue;
-        const Bounds place{kMiscBox.left + position / kMiscRows * kMiscStepX,
-                           kMiscBox.top + position % kMiscRows * kMiscStepY, kMiscBox.width, kMiscBox.height};
-        CheckBox& box = chkSettings.emplace_back(misc, place, kSettingBoxes[i].caption);
+        CheckBox& box = chkSettings.emplace_back(misc, kMiscBoxes.Cell(position++), kSettingBoxes[i].caption);
         box.Tag = kSettingBoxes[i].tag;
         box.onClick = edited;
-        ++position;
     }
 }
 

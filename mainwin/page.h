@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "platform/controls.h"
+#include "platform/measures.h"
 
 // What the pages of the main window have in common. Each page is a class with its controls as members, in creation
 // order, which is the tab order; its layout is a table at the top of its .cpp, in twips inside the page.
@@ -16,10 +17,5 @@ using Edited = std::function<void()>;
 // Several controls of one kind, addressed by index from 0. They never move once created.
 template <class T>
 using ControlArray = std::deque<T>;
-
-inline constexpr int kRowHeight = 285;    // a text box or list
-inline constexpr int kLabelHeight = 195;  // one line of text
-inline constexpr int kCheckHeight = 225;
-inline constexpr int kButtonHeight = 345;
 
 }  // namespace quirn

@@ -7,9 +7,8 @@
 namespace quirn {
 
 Control::Control(Parent parent, ControlKind kind, const Bounds& place, const std::string& text)
-    : text_(text), container_(parent.container), kind_(kind), place_(place) {
-    place_.left += parent.left;
-    place_.top += parent.top;
+    : text_(text), container_(parent.container), frame_(parent.frame), kind_(kind), place_(place) {
+    if (frame_ != nullptr) place_ = place.MovedBy(frame_->place_.left, frame_->place_.top);
     container_->controls_.push_back(this);
 }
 
@@ -65,14 +64,13 @@ void Control::SetVisible(bool visible) {
 
 void Control::Move(const Bounds& place) {
     if (place == place_) return;
+    const int right = place.left - place_.left;
+    const int down = place.top - place_.top;
     place_ = place;
     Changed(Aspect::Place);
-}
-
-void Control::MoveTop(int top) {
-    Bounds place = place_;
-    place.top = top;
-    Move(place);
+    if (kind_ != ControlKind::Frame) return;
+    for (Control* inside : container_->controls_)
+        if (inside->frame_ == this) inside->Move(inside->place_.MovedBy(right, down));
 }
 
 void Control::SetFont(const Font& font) {

@@ -22,8 +22,15 @@ struct Bounds {
     int width = 0;
     int height = 0;
 
-    int Right() const { return left + width; }
-    int Bottom() const { return top + height; }
+    constexpr int Right() const { return left + width; }
+    constexpr int Bottom() const { return top + height; }
+    constexpr Bounds MovedBy(int right, int down) const { return {left + right, top + down, width, height}; }
+    constexpr bool Holds(const Bounds& other) const {
+        return left <= other.left && top <= other.top && other.Right() <= Right() && other.Bottom() <= Bottom();
+    }
+    constexpr bool Crosses(const Bounds& other) const {
+        return left < other.Right() && other.left < Right() && top < other.Bottom() && other.top < Bottom();
+    }
     bool operator==(const Bounds&) const = default;
 };
 
@@ -93,15 +100,13 @@ private:
     std::vector<Control*> controls_;
 };
 
-// Where a new control goes: into a form, a page or a frame (whose controls live beside it in its container, moved by
-// its corner).
+// Where a new control goes: into a form, a page or a frame. What is in a frame is placed from its corner and moves with
+// it, but lives beside it in its container.
 struct Parent {
-    Parent(Container& inContainer) : container(&inContainer) {}
-    Parent(Container& inContainer, int atLeft, int atTop) : container(&inContainer), left(atLeft), top(atTop) {}
+    Parent(Container& inContainer, const Control* inFrame = nullptr) : container(&inContainer), frame(inFrame) {}
 
     Container* container;
-    int left = 0;
-    int top = 0;
+    const Control* frame;
 };
 
 class Control {
@@ -114,7 +119,8 @@ public:
     const std::string& Text() const { return text_; }
     bool Enabled() const { return enabled_; }
     bool Visible() const { return visible_; }
-    const Bounds& Place() const { return place_; }  // in its container's inner area
+    const Bounds& Place() const { return place_; }              // in its container's inner area
+    const Control* SurroundingFrame() const { return frame_; }  // null when it is in none
     const Font& FontUsed() const { return font_; }
     std::optional<Color> ForeColor() const { return foreColor_; }  // nothing is the system's
     std::optional<Color> BackColor() const { return backColor_; }
@@ -126,7 +132,6 @@ public:
     void SetEnabled(bool enabled);
     void SetVisible(bool visible);
     void Move(const Bounds& place);
-    void MoveTop(int top);
     void SetFont(const Font& font);
     void SetForeColor(std::optional<Color> color);
     void SetBackColor(std::optional<Color> color);
@@ -156,6 +161,7 @@ protected:
 
 private:
     Container* container_;
+    const Control* frame_;
     ControlKind kind_;
     Bounds place_;
     bool enabled_ = true;

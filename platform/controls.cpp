@@ -51,7 +51,7 @@ Frame::Frame(Parent parent, const Bounds& place, const std::string& caption, Fra
     : Control(parent, ControlKind::Frame, place, caption), style_(style) {}
 
 Frame::operator Parent() const {
-    return {Holder(), Place().left, Place().top};
+    return {Holder(), this};
 }
 
 Button::Button(Parent parent, const Bounds& place, const std::string& caption)
@@ -288,11 +288,9 @@ constexpr int kUpDownWidth = 255;
 }  // namespace
 
 UpDown::UpDown(Parent parent, TextBox& buddy, int minimum, int maximum)
-    : Control(Parent(*parent.container), ControlKind::UpDown,
-              {buddy.Place().Right(), buddy.Place().top, kUpDownWidth, buddy.Place().height}, {}),
-      buddy_(&buddy),
-      minimum_(minimum),
-      maximum_(maximum) {}
+    : Control(parent, ControlKind::UpDown, {}, {}), buddy_(&buddy), minimum_(minimum), maximum_(maximum) {
+    Move({buddy.Place().Right(), buddy.Place().top, kUpDownWidth, buddy.Place().height});
+}
 
 void UpDown::UserSpins(int steps) {
     if (!Enabled() || !buddy_->Enabled()) return;

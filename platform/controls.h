@@ -246,7 +246,7 @@ public:
 
     FrameStyle Style() const { return style_; }
 
-    operator Parent() const;  // so that controls can be put into it, relative to its corner
+    operator Parent() const;  // so that controls can be put into it
 
 private:
     FrameStyle style_;

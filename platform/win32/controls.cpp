@@ -114,13 +114,9 @@ bool StartsGroup(const Control& control) {
 // Siblings above a window are cut out of what it paints, except in a frame: that lies above what is in it.
 bool CutsSiblings(const Control& control) {
     if (IsBox(control)) return false;
-    const Bounds& place = control.Place();
     const auto& all = control.Holder().Controls();
-    return std::none_of(all.begin(), all.end(), [&](const Control* other) {
-        const Bounds& frame = other->Place();
-        return IsBox(*other) && place.left < frame.Right() && frame.left < place.Right() &&
-               place.top < frame.Bottom() && frame.top < place.Bottom();
-    });
+    return std::none_of(all.begin(), all.end(),
+                        [&](const Control* other) { return IsBox(*other) && other->Place().Crosses(control.Place()); });
 }
 
 RECT PixelPlace(const Control& control) {
