@@ -85,7 +85,7 @@ void AddToLogMRU(RecentFiles& list, const std::string& path) {
 
 std::optional<std::string> LogMRUCaption(const RecentFiles& list, size_t index) {
     if (Trim(list[index]).empty()) return std::nullopt;
-    return RecentFileCaption(index, WithoutAccessKeys(list[index]));
+    return RecentFileCaption(index, DoubleAmpersands(list[index]));
 }
 
 }  // namespace quirn

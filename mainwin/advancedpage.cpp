@@ -82,7 +82,7 @@ void AdvancedPage::cmdConfigCode_Click() {
     AdvancedStates states = before;
     DecodeConfigCode(*text, states);
     for (size_t i = 0; i < states.size(); ++i) chkAdvanced[i].SetValue(states[i]);
-    cmdConfigCode.SetText(WithoutAccessKeys(AcceptedConfigCode(*text)));  // any character may be typed
+    cmdConfigCode.SetText(DoubleAmpersands(AcceptedConfigCode(*text)));  // any character may be typed
     if (states != before) edited_();
 }
 

@@ -166,7 +166,7 @@ void RefreshRecentMenu(Menu& menu, const RecentFiles& files) {
     for (size_t i = 0; i < files.size(); ++i) {
         if (Trim(files[i]).empty()) continue;
         const int command = mnuFileMRU + static_cast<int>(i);
-        menu.SetCaption(command, RecentFileCaption(i, WithoutAccessKeys(files[i])));
+        menu.SetCaption(command, RecentFileCaption(i, DoubleAmpersands(files[i])));
         menu.SetVisible(command, true);
         menu.SetVisible(mnuFileBarMRU, true);
     }

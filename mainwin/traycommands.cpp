@@ -16,7 +16,7 @@ TrayCommands::TrayCommands(Form& mainWindow, const Program& program, Launcher& l
 void TrayCommands::BuildFavouritesMenu() {
     for (size_t i = 0; i < program_.favourites.size(); ++i)
         mnuPUTrayIcon.SetCaption(mnuPUTrayIcon_Fav + static_cast<int>(i),
-                                 WithoutAccessKeys(program_.favourites[i].name));
+                                 DoubleAmpersands(program_.favourites[i].name));
 }
 
 void TrayCommands::Tray_Mouse(unsigned message) {

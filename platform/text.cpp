@@ -57,7 +57,7 @@ std::string_view Trim(std::string_view text) {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-std::string WithoutAccessKeys(std::string_view text) {
+std::string DoubleAmpersands(std::string_view text) {
     std::string shown;
     for (const char c : text) shown.append(c == '&' ? 2 : 1, c);
     return shown;

@@ -25,7 +25,7 @@ struct LessNoCase {
 std::string_view Trim(std::string_view text);
 
 // A text as a menu or a button is given it to show it letter for letter: a lone "&" would name an access key.
-std::string WithoutAccessKeys(std::string_view text);
+std::string DoubleAmpersands(std::string_view text);
 
 // The decimal number at the start of a text, after blanks and tabs: sign, digits, point, digits, exponent.
 // 0 when there is none. The point is "." whatever the system's language.
