@@ -6,8 +6,18 @@
 
 namespace quirn {
 
+namespace {
+
+constexpr char kTip[] = "Nothing here yet.";
+
+}  // namespace
+
 TrayCommands::TrayCommands(Form& mainWindow, const Program& program, Launcher& launcher)
-    : mainWindow_(mainWindow), program_(program), launcher_(launcher), mnuPUTrayIcon(kTrayMenuRows), tray_(mainWindow) {
+    : mainWindow_(mainWindow),
+      program_(program),
+      launcher_(launcher),
+      mnuPUTrayIcon(kTrayMenuRows),
+      tray_(mainWindow, kTip) {
     mnuPUTrayIcon.onHighlight = [this](int) { onHighlight(); };
     mnuPUTrayIcon.onCommand = [this](int command) { MenuCommand(command); };
     tray_.onMouse = [this](unsigned message) { Tray_Mouse(message); };

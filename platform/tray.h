@@ -1,6 +1,8 @@
 #pragma once
 
 #include <functional>
+#include <string>
+#include <utility>
 
 #include "platform/form.h"
 
@@ -9,7 +11,7 @@ namespace quirn {
 // The program's icon in the notification area. Mouse messages on it arrive through the form's window.
 class TrayIcon {
 public:
-    explicit TrayIcon(Form& form) : form_(&form) {}
+    TrayIcon(Form& form, std::string tip) : form_(&form), tip_(std::move(tip)) {}
     ~TrayIcon() { Remove(); }
     TrayIcon(const TrayIcon&) = delete;
     TrayIcon& operator=(const TrayIcon&) = delete;
@@ -18,6 +20,7 @@ public:
     void Remove();
     bool IsThere() const { return there_; }
     Form& Owner() const { return *form_; }
+    const std::string& Tip() const { return tip_; }  // shown while the pointer is over it
 
     std::function<void(unsigned)> onMouse;  // a mouse message (WM_...) on the icon
 
@@ -25,6 +28,7 @@ public:
 
 private:
     Form* form_;
+    std::string tip_;
     bool there_ = false;
 };
 

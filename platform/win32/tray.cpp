@@ -5,7 +5,6 @@
 #include <shellapi.h>  // needs windows.h first
 
 #include <algorithm>
-#include <cstring>
 #include <vector>
 
 #include "platform/native.h"
@@ -19,13 +18,13 @@ namespace win32 {
 namespace {
 
 constexpr UINT kIconId = 100;
-constexpr char kTip[] = "Nothing here yet.";
 
-// The 32-bit record is 88 bytes long in its first form; 152, the size with a wide tip, is what this program has always
-// passed, and the system takes it for the first form. The structure is longer than that, so nothing foreign is read.
-// A 64-bit system's record has other sizes: there it is the first form's own.
+// The 32-bit record is 88 bytes long in its first form; 152, the size with a wide tip, is what is passed, and the
+// system takes it for the first form. The structure is longer than that, so nothing foreign is read. A 64-bit system's
+// record has other sizes: there it is the first form's own.
 constexpr DWORD kRecordSize = sizeof(void*) == 4 ? 152 : NOTIFYICONDATAA_V1_SIZE;
 static_assert(sizeof(NOTIFYICONDATAA) >= kRecordSize);
+constexpr size_t kLongestTip = 63;  // in the first form, and a NUL
 
 std::vector<TrayIcon*> icons;
 
@@ -40,7 +39,7 @@ void Tell(DWORD mode, const TrayIcon& icon) {
     record.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP;
     record.uCallbackMessage = kTrayMessage;
     record.hIcon = picture;
-    std::memcpy(record.szTip, kTip, sizeof(kTip));
+    icon.Tip().copy(record.szTip, kLongestTip);
     Shell_NotifyIconA(mode, &record);
 }
 
