@@ -36,34 +36,33 @@ Menu::Menu(std::span<const MenuRow> rows) {
 }
 
 const Menu::Item& Menu::At(int command) const {
-    return const_cast<Menu*>(this)->Find(command);
+    return *const_cast<Menu*>(this)->Find(command);
 }
 
-// An unknown command is a slip in the caller's table; the first row bears it.
-Menu::Item& Menu::Find(int command) {
+Menu::Item* Menu::Find(int command) {
     const auto found =
         std::find_if(items_.begin(), items_.end(), [&](const Item& item) { return item.row.command == command; });
-    return found == items_.end() ? items_.front() : *found;
+    return found == items_.end() ? nullptr : &*found;
 }
 
 void Menu::SetCaption(int command, const std::string& caption) {
-    Item& item = Find(command);
-    if (item.caption == caption) return;
-    item.caption = caption;
+    Item* const item = Find(command);
+    if (item == nullptr || item->caption == caption) return;
+    item->caption = caption;
     if (onChanged) onChanged();
 }
 
 void Menu::SetVisible(int command, bool visible) {
-    Item& item = Find(command);
-    if (item.visible == visible) return;
-    item.visible = visible;
+    Item* const item = Find(command);
+    if (item == nullptr || item->visible == visible) return;
+    item->visible = visible;
     if (onChanged) onChanged();
 }
 
 void Menu::SetChecked(int command, bool checked) {
-    Item& item = Find(command);
-    if (item.checked == checked) return;
-    item.checked = checked;
+    Item* const item = Find(command);
+    if (item == nullptr || item->checked == checked) return;
+    item->checked = checked;
     if (onChanged) onChanged();
 }
 

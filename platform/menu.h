@@ -41,8 +41,9 @@ public:
     };
 
     const std::vector<Item>& Items() const { return items_; }
-    const Item& At(int command) const;
+    const Item& At(int command) const;  // of a row that is there
 
+    // A number that no row has changes nothing.
     void SetCaption(int command, const std::string& caption);
     void SetVisible(int command, bool visible);
     void SetChecked(int command, bool checked);
@@ -56,7 +57,7 @@ public:
     std::function<void()> onChanged;
 
 private:
-    Item& Find(int command);
+    Item* Find(int command);  // null when no row has it
     std::vector<Item> items_;
 };
 
