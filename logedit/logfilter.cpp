@@ -51,23 +51,4 @@ size_t FilterLines(const ParsedLog& log, uint32_t mask, const PlayerList& includ
     });
 }
 
-LineNumberTag::LineNumberTag(size_t lineCount) : digits_(std::to_string(lineCount).size()) {}
-
-void LineNumberTag::Write(size_t line, char* out) const {
-    out[0] = '{';
-    size_t number = line + 1;
-    for (size_t i = digits_; i > 0; --i) {
-        out[i] = static_cast<char>('0' + number % 10);
-        number /= 10;
-    }
-    out[digits_ + 1] = '}';
-    out[digits_ + 2] = ' ';
-}
-
-std::string LineNumberTag::Text(size_t line) const {
-    std::string text(Length(), ' ');
-    Write(line, text.data());
-    return text;
-}
-
 }  // namespace quirn

@@ -42,17 +42,4 @@ uint32_t BuildFilterMask(const FilterBoxValues& values);
 size_t FilterLines(const ParsedLog& log, uint32_t mask, const PlayerList& include, const PlayerList& exclude,
                    uint32_t* shown);
 
-// The tags of displayed lines, "{0042} ": the line's number among all parsed lines, from 1, with as many digits as the
-// highest has.
-class LineNumberTag {
-public:
-    explicit LineNumberTag(size_t lineCount);
-    size_t Length() const { return digits_ + 3; }  // bytes, the same for every line
-    void Write(size_t line, char* out) const;      // exactly Length() bytes
-    std::string Text(size_t line) const;
-
-private:
-    size_t digits_;
-};
-
 }  // namespace quirn

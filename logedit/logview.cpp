@@ -6,6 +6,25 @@
 
 namespace quirn {
 
+LineNumberTag::LineNumberTag(size_t lineCount) : digits_(std::to_string(lineCount).size()) {}
+
+void LineNumberTag::Write(size_t line, char* out) const {
+    out[0] = '{';
+    size_t number = line + 1;
+    for (size_t i = digits_; i > 0; --i) {
+        out[i] = static_cast<char>('0' + number % 10);
+        number /= 10;
+    }
+    out[digits_ + 1] = '}';
+    out[digits_ + 2] = ' ';
+}
+
+std::string LineNumberTag::Text(size_t line) const {
+    std::string text(Length(), ' ');
+    Write(line, text.data());
+    return text;
+}
+
 std::string LogView::Text(size_t item) const {
     std::string text = tags_ ? tags_->Text(shown_[item]) : std::string();
     return text.append(Line(item));

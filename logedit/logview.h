@@ -13,6 +13,19 @@
 
 namespace quirn {
 
+// The tags of displayed lines, "{0042} ": the line's number among all parsed lines, from 1, with as many digits as the
+// highest has.
+class LineNumberTag {
+public:
+    explicit LineNumberTag(size_t lineCount);
+    size_t Length() const { return digits_ + 3; }  // bytes, the same for every line
+    void Write(size_t line, char* out) const;      // exactly Length() bytes
+    std::string Text(size_t line) const;
+
+private:
+    size_t digits_;
+};
+
 // What lstLog shows: indexes of lines, whose texts are made when somebody asks. Items count from 0. It keeps the log
 // that it shows alive, which need not be the one that the next filter will be applied to.
 class LogView {
