@@ -20,7 +20,8 @@ enum class ErrorNumber {
     PathNotFound = 76,
 };
 
-// An error is a value that a routine returns; no exception leaves a routine.
+// An error is a value that a routine returns. Only the library throws (memory ran out): a routine that needs much of it
+// returns that as an error too, and CallHandler shows the rest.
 struct RuntimeError {
     int number = 0;
     std::string source;       // who raised it, the program's title
