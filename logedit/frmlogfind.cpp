@@ -34,7 +34,7 @@ frmLogFind::frmLogFind(std::function<void(const std::string&)> find, const std::
     onLoad = [this] { Form_Load(); };
     onKeyDown = [this](int key, bool) {
         if (key != kKeyF3) return false;
-        Command1.UserClicks();
+        if (Command1.Enabled()) Command1_Click();
         return true;
     };
     Text1.onChange = [this] { Text1_Change(); };
