@@ -8,7 +8,7 @@ namespace quirn {
 
 namespace {
 
-int Look(const Section& section, std::string_view name, SettingMode mode) {
+int Find(const Section& section, std::string_view name, SettingMode mode) {
     for (int i = 1; i <= section.Count(); ++i) {
         if (section.Name(i) != name) continue;
         return mode == SettingMode::Index ? i : Val(section.Value(i)) != 0 ? 1 : 0;
@@ -19,11 +19,11 @@ int Look(const Section& section, std::string_view name, SettingMode mode) {
 }  // namespace
 
 int OptionsSetting(const Profile& profile, std::string_view name, SettingMode mode) {
-    return Look(profile.Options, name, mode);
+    return Find(profile.Options, name, mode);
 }
 
 int AdvancedSetting(const Profile& profile, std::string_view name, SettingMode mode) {
-    return Look(profile.Advanced, name, mode);
+    return Find(profile.Advanced, name, mode);
 }
 
 int IndexOf(const std::string& value) {
