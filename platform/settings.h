@@ -3,7 +3,7 @@
 #include <string>
 
 // The program's own settings: texts by section and key, per user. On Windows they are text values under
-// HKEY_CURRENT_USER\Software\QUIRN\<section>. Names are case-blind.
+// HKEY_CURRENT_USER\Software\<the program's title>\<section>. Names are case-blind.
 namespace quirn {
 
 // The sections that windows share.

@@ -7,6 +7,7 @@
 #include <map>
 
 #include "platform/native.h"
+#include "platform/version.h"
 #include "platform/win32/metrics.h"
 #include "platform/win32/window.h"
 #include "resources/resource.h"
@@ -17,7 +18,7 @@ namespace win32 {
 
 namespace {
 
-constexpr char kFormClass[] = "QUIRNForm";
+constexpr char kFormClass[] = QUIRN_TITLE "Form";
 
 std::map<const Form*, FormWindow> loadedForms;
 
@@ -213,7 +214,7 @@ ATOM FormClass() {
 }  // namespace
 
 FormWindow& StateOf(const Form& form) {
-    return loadedForms[&form];
+    return loadedForms.at(&form);
 }
 
 Form* FormOf(HWND window) {

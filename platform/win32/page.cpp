@@ -1,5 +1,6 @@
 #include <windows.h>
 
+#include "platform/version.h"
 #include "platform/win32/metrics.h"
 #include "platform/win32/window.h"
 
@@ -9,7 +10,7 @@ namespace quirn::win32 {
 
 namespace {
 
-constexpr char kPageClass[] = "QUIRNPage";
+constexpr char kPageClass[] = QUIRN_TITLE "Page";
 
 // Knows no page of its own: the form may outlive the object.
 LRESULT CALLBACK PageProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -21,7 +21,7 @@ struct FormWindow {
     HWND toolTip = nullptr;
     std::set<HWND> toolTipOwners;
 };
-FormWindow& StateOf(const Form& form);
+FormWindow& StateOf(const Form& form);  // of a loaded one
 
 inline HWND WindowOf(const Container& container) {
     return static_cast<HWND>(container.window);
