@@ -1,8 +1,8 @@
 #include "auxiliary/frmsplash.h"
 
 #include "platform/version.h"
-#include "resources/look.h"
 #include "resources/resource.h"
+#include "resources/spacecolors.h"
 
 namespace quirn {
 

@@ -117,14 +117,14 @@ void frmLogEdit::Form_Load() {
     StatusBar1.SetSecondText("");
 
     const Bounds screen = ScreenArea();
-    LogLook look{Place(), lstLog.FontUsed(), lstLog.ForeColor(), lstLog.BackColor()};
-    look.place.left = (screen.width - look.place.width) / 2;
-    look.place.top = (screen.height - look.place.height) / 2;
-    look = ReadLogLook(look);
-    lstLog.SetFont(look.font);
-    lstLog.SetForeColor(look.foreColor);
-    lstLog.SetBackColor(look.backColor);
-    Move(look.place);
+    LogSettings settings{Place(), lstLog.FontUsed(), lstLog.ForeColor(), lstLog.BackColor()};
+    settings.place.left = (screen.width - settings.place.width) / 2;
+    settings.place.top = (screen.height - settings.place.height) / 2;
+    settings = ReadLogSettings(settings);
+    lstLog.SetFont(settings.font);
+    lstLog.SetForeColor(settings.foreColor);
+    lstLog.SetBackColor(settings.backColor);
+    Move(settings.place);
     ReadLogMRU(edit_.LogMRU);
     RefreshLogMRUMenu();
     Form_Resize();
@@ -135,7 +135,7 @@ void frmLogEdit::Form_Resize() {
 }
 
 bool frmLogEdit::Form_Unload() {
-    WriteLogLook({NormalPlace(), lstLog.FontUsed(), lstLog.ForeColor(), lstLog.BackColor()});
+    WriteLogSettings({NormalPlace(), lstLog.FontUsed(), lstLog.ForeColor(), lstLog.BackColor()});
     WriteLogMRU(edit_.LogMRU);
     find_.Unload();
     return true;

@@ -41,32 +41,32 @@ std::string RecentKey(size_t i) {
 
 }  // namespace
 
-LogLook ReadLogLook(LogLook look) {
-    look.place.left = GetNumberSetting(kSettings, "LogEditLeft", look.place.left);
-    look.place.top = GetNumberSetting(kSettings, "LogEditTop", look.place.top);
-    look.place.height = GetNumberSetting(kSettings, "LogEditHeight", look.place.height);
-    look.place.width = GetNumberSetting(kSettings, "LogEditWidth", look.place.width);
-    look.font.face = GetSetting(kSettings, "LogEditFontName", look.font.face);
-    const int points = GetNumberSetting(kSettings, "LogEditFontSize", look.font.points);
-    if (points > 0 && points <= kMostPoints) look.font.points = points;
-    look.font.bold = ReadFlag("LogEditFontBold", look.font.bold);
-    look.font.italic = ReadFlag("LogEditFontItalic", look.font.italic);
-    look.foreColor = ReadColor("LogEditForeColor", look.foreColor);
-    look.backColor = ReadColor("LogEditBackColor", look.backColor);
-    return look;
+LogSettings ReadLogSettings(LogSettings settings) {
+    settings.place.left = GetNumberSetting(kSettings, "LogEditLeft", settings.place.left);
+    settings.place.top = GetNumberSetting(kSettings, "LogEditTop", settings.place.top);
+    settings.place.height = GetNumberSetting(kSettings, "LogEditHeight", settings.place.height);
+    settings.place.width = GetNumberSetting(kSettings, "LogEditWidth", settings.place.width);
+    settings.font.face = GetSetting(kSettings, "LogEditFontName", settings.font.face);
+    const int points = GetNumberSetting(kSettings, "LogEditFontSize", settings.font.points);
+    if (points > 0 && points <= kMostPoints) settings.font.points = points;
+    settings.font.bold = ReadFlag("LogEditFontBold", settings.font.bold);
+    settings.font.italic = ReadFlag("LogEditFontItalic", settings.font.italic);
+    settings.foreColor = ReadColor("LogEditForeColor", settings.foreColor);
+    settings.backColor = ReadColor("LogEditBackColor", settings.backColor);
+    return settings;
 }
 
-void WriteLogLook(const LogLook& look) {
-    Write("LogEditLeft", look.place.left);
-    Write("LogEditTop", look.place.top);
-    Write("LogEditHeight", look.place.height);
-    Write("LogEditWidth", look.place.width);
-    SaveSetting(kSettings, "LogEditFontName", look.font.face);
-    Write("LogEditFontSize", look.font.points);
-    Write("LogEditFontBold", look.font.bold ? -1 : 0);
-    Write("LogEditFontItalic", look.font.italic ? -1 : 0);
-    Write("LogEditForeColor", Number(look.foreColor, kSystemForeColor));
-    Write("LogEditBackColor", Number(look.backColor, kSystemBackColor));
+void WriteLogSettings(const LogSettings& settings) {
+    Write("LogEditLeft", settings.place.left);
+    Write("LogEditTop", settings.place.top);
+    Write("LogEditHeight", settings.place.height);
+    Write("LogEditWidth", settings.place.width);
+    SaveSetting(kSettings, "LogEditFontName", settings.font.face);
+    Write("LogEditFontSize", settings.font.points);
+    Write("LogEditFontBold", settings.font.bold ? -1 : 0);
+    Write("LogEditFontItalic", settings.font.italic ? -1 : 0);
+    Write("LogEditForeColor", Number(settings.foreColor, kSystemForeColor));
+    Write("LogEditBackColor", Number(settings.backColor, kSystemBackColor));
 }
 
 void ReadLogMRU(RecentFiles& list) {

@@ -9,15 +9,15 @@
 // What the log editor keeps from one run to the next.
 namespace quirn {
 
-struct LogLook {
+struct LogSettings {
     Bounds place;                               // of the window, twips
     Font font;                                  // of lstLog; whether it is underlined or struck out is not kept
     std::optional<Color> foreColor, backColor;  // of lstLog; nothing is the system's
 };
 
 // What is not stored, or makes no sense, stays as it is.
-LogLook ReadLogLook(LogLook look);
-void WriteLogLook(const LogLook& look);
+LogSettings ReadLogSettings(LogSettings settings);
+void WriteLogSettings(const LogSettings& settings);
 
 void ReadLogMRU(RecentFiles& list);
 void WriteLogMRU(const RecentFiles& list);

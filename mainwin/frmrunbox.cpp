@@ -3,7 +3,7 @@
 #include <iterator>
 
 #include "platform/version.h"
-#include "resources/look.h"
+#include "resources/spacecolors.h"
 
 namespace quirn {
 
