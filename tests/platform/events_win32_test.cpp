@@ -49,7 +49,7 @@ protected:
 };
 
 TEST_F(EventsTest, WhatIsSentWaitsUntilNothingElseIsUnderWay) {
-    TrayIcon icon(form_);
+    TrayIcon icon(form_, "Tip");
     icon.Add();
     int pointed = 0;
     bool inTheMiddle = false;
