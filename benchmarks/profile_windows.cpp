@@ -8,6 +8,7 @@
 
 #include "benchmarks/sampleprofile.h"
 #include "benchmarks/ticks.h"
+#include "game/gamestate.h"
 #include "game/transfer.h"
 #include "profile/profilefile.h"
 
@@ -54,6 +55,8 @@ int main() {
     Time("load a QRN file", [&] { LoadProfile(profile, file); });
     Time("write a profile to the game", [&] { TransferToGame(profile, gameFolder); });
     Time("read a profile from the game", [&] { ReadProfileFromGame(profile, gameFolder); });
+
+    Time("read the game's state", [&] { ReadGameState(profile, gameFolder); });
 
     RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
     RegDeleteTreeA(scratch, nullptr);

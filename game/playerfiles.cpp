@@ -18,20 +18,6 @@ std::string WavePath(const std::string& gameFolder, size_t slot) {
     return gameFolder + "\\record" + std::to_string(slot) + ".wav";
 }
 
-bool IsMissing(const RuntimeError& error) {
-    return error.number == static_cast<int>(ErrorNumber::FileNotFound) ||
-           error.number == static_cast<int>(ErrorNumber::PathNotFound);
-}
-
-// Writes a file of the game unless it already holds those bytes: most launches change nothing here, and a write that is
-// flushed to the disk takes longer than all the rest.
-Failure WriteGameFile(const std::string& path, const std::string& bytes) {
-    const Result<std::string> old = ReadWholeFile(path);
-    if (old.Failed() || old.Value() != bytes) return WriteWholeFile(path, bytes);
-    SweepUnfinished(path);
-    return {};
-}
-
 // The lines of an ignore file. A lone CR and a NUL end one too: a name that held them would be cut there in a QRN file.
 std::vector<std::string> NamesIn(std::string text) {
     std::replace(text.begin(), text.end(), '\0', '\n');
@@ -53,12 +39,19 @@ Failure CopyWave(const std::string& source, const std::string& target) {
 
 }  // namespace
 
+Failure WriteGameFile(const std::string& path, const std::string& bytes) {
+    const Result<std::string> old = ReadWholeFile(path);
+    if (old.Failed() || old.Value() != bytes) return WriteWholeFile(path, bytes);
+    SweepUnfinished(path);
+    return {};
+}
+
 Failure WriteIgnoreFile(const Profile& profile, const std::string& gameFolder) {
     std::string text;
     if (profile.ignoreFileUnread) {
         if (profile.IgnoreList.empty()) return {};
         const Result<std::string> unread = ReadWholeFile(IgnorePath(gameFolder));
-        if (unread.Failed() && !IsMissing(unread.Error())) return unread.Error();
+        if (unread.Failed() && !IsMissingFile(unread.Error())) return unread.Error();
         if (!unread.Failed()) text = unread.Value();
         if (!text.empty() && !text.ends_with('\n')) text += "\r\n";
     }
@@ -74,7 +67,7 @@ Failure ReadIgnoreFile(Profile& profile, const std::string& gameFolder) {
     profile.ignoreFileUnread = false;
     const Result<std::string> text = ReadWholeFile(IgnorePath(gameFolder));
     if (text.Failed()) {
-        if (IsMissing(text.Error())) return {};
+        if (IsMissingFile(text.Error())) return {};
         profile.ignoreFileUnread = true;
         return text.Error();
     }

@@ -10,6 +10,12 @@
 // and "record0.wav" and "record1.wav", the sounds behind F11 and F12.
 namespace quirn {
 
+inline constexpr const char* kPlayerFiles[] = {"ignore.txt", "record0.wav", "record1.wav"};
+
+// Writes a file of the game unless it already holds those bytes: most launches change nothing here, and a write that is
+// flushed to the disk takes longer than all the rest.
+Failure WriteGameFile(const std::string& path, const std::string& bytes);
+
 // The ignore list without its blank entries. To a file that could not be read before, only names are added. Failure:
 // the folder is missing, the file is read-only or held.
 Failure WriteIgnoreFile(const Profile& profile, const std::string& gameFolder);

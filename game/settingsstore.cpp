@@ -7,7 +7,7 @@ namespace quirn {
 namespace {
 
 std::string KeyPath(const Section& section) {
-    return "Software\\Virgin\\SubSpace\\" + section.name;
+    return kGameKey + section.name;
 }
 
 bool IsSupported(RegistryType type) {

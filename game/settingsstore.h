@@ -18,6 +18,9 @@ using SettingValue = std::variant<std::monostate, std::string, int>;
 
 inline constexpr long kUnsupportedType = -1;
 
+// Below the current user's root; a section's name follows.
+inline constexpr char kGameKey[] = "Software\\Virgin\\SubSpace\\";
+
 // One value of a section's key, which is opened once for all: on Wine each opening is a call to another process.
 SettingValue QueryValue(const RegistryKey& key, const std::string& name);
 

@@ -27,4 +27,9 @@ RuntimeError MakeError(ErrorNumber number) {
     return {static_cast<int>(number), kTitle, Description(number)};
 }
 
+bool IsMissingFile(const RuntimeError& error) {
+    return error.number == static_cast<int>(ErrorNumber::FileNotFound) ||
+           error.number == static_cast<int>(ErrorNumber::PathNotFound);
+}
+
 }  // namespace quirn

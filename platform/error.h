@@ -30,6 +30,9 @@ struct RuntimeError {
 
 RuntimeError MakeError(ErrorNumber number);
 
+// True when there is no such file, or not even its folder.
+bool IsMissingFile(const RuntimeError& error);
+
 // The result of a routine that gives back nothing else: empty when all went well.
 //     if (Failure failure = WriteWholeFile(path, bytes)) return failure;
 using Failure = std::optional<RuntimeError>;

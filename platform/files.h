@@ -77,7 +77,7 @@ std::string UnfinishedPath(const std::string& path);
 void SweepUnfinished(const std::string& path);
 void SweepFolder(const std::string& folder);
 
-// False when there is none or it is held.
+// False when there is none, it is read-only or held.
 bool RemoveFile(const std::string& path);
 
 // True when the disk that holds the path says that it has no room for so many more bytes.

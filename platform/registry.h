@@ -1,7 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <string>
+
+#include "platform/text.h"
 
 // The current user's registry through the narrow part of it that this program needs. Names are case-blind.
 namespace quirn {
@@ -10,7 +13,18 @@ enum class RegistryType : uint32_t { None = 0, Text = 1, Number = 4 };  // REG_S
 
 inline constexpr long kRegistrySuccess = 0;
 inline constexpr long kRegistryNotFound = 2;    // ERROR_FILE_NOT_FOUND
+inline constexpr long kRegistryDeleted = 1018;  // ERROR_KEY_DELETED: the key, while it was open
 inline constexpr long kRegistryMoreData = 234;  // ERROR_MORE_DATA: the buffer was too small, nothing was copied
+
+// A value as it is stored, whatever its type.
+struct RegistryValue {
+    RegistryType type = RegistryType::None;
+    std::string bytes;
+    bool operator==(const RegistryValue&) const = default;
+};
+
+// By name.
+using RegistryValues = std::map<std::string, RegistryValue, LessNoCase>;
 
 // An open key; closed at the end of its life. Statuses are the registry functions' own, 0 for success.
 class RegistryKey {
@@ -27,6 +41,13 @@ public:
     // value's after. A text's size counts its NUL when one is stored.
     long Query(const std::string& name, RegistryType* type, void* data, uint32_t* size) const;
     long Set(const std::string& name, RegistryType type, const void* data, uint32_t size) const;
+
+    // The same for whole values, in one call each while they are short: on Wine each is one to another process.
+    long Read(const std::string& name, RegistryValue& value) const;
+    long Write(const std::string& name, const RegistryValue& value) const;
+
+    long Remove(const std::string& name) const;
+    long List(RegistryValues& values) const;
 
 private:
     void* handle_ = nullptr;

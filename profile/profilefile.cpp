@@ -118,7 +118,7 @@ bool IsUnicode(std::string_view bytes) {
 Failure WriteSections(FileReplacer& file, const std::string& path, const std::vector<SavedSection>& sections) {
     if (Failure failure = file.Open(path)) return failure;
     const Result<std::string> read = ReadWholeFile(path);
-    if (read.Failed() && read.Error().number != static_cast<int>(ErrorNumber::FileNotFound)) return read.Error();
+    if (read.Failed() && !IsMissingFile(read.Error())) return read.Error();
     const std::string old = read.Failed() ? std::string() : read.Value();
     // Also for the macro file, which is smaller than one section: both are saved or none.
     if (DiskIsFull(path, old.size() + RoomNeeded(sections))) return MakeError(ErrorNumber::DiskFull);

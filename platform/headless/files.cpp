@@ -195,7 +195,7 @@ Failure FileReplacer::Finish() {
 
 bool RemoveFile(const std::string& path) {
     File* file = headless::FindFile(path);
-    if (file == nullptr || file->beingWritten || file->holders > 0) return false;
+    if (file == nullptr || file->readOnly || file->beingWritten || file->holders > 0) return false;
     headless::Store(*file, {});
     TheWorld().files.erase(KeyOf(path));
     return true;

@@ -20,8 +20,6 @@ RegistryValues& MakeKey(const std::string& path) {
 
 namespace {
 
-constexpr long kRegistryDeleted = 1018;  // ERROR_KEY_DELETED
-
 // A handle is the key's path, so that it outlives a key that is deleted or a world that is reset.
 headless::RegistryValues* ValuesOf(void* handle) {
     const auto key = TheWorld().registry.find(*static_cast<std::string*>(handle));
@@ -57,6 +55,22 @@ long RegistryKey::Set(const std::string& name, RegistryType type, const void* da
     headless::RegistryValues* values = ValuesOf(handle_);
     if (values == nullptr) return kRegistryDeleted;
     (*values)[name] = {static_cast<uint32_t>(type), std::string(static_cast<const char*>(data), size)};
+    return kRegistrySuccess;
+}
+
+long RegistryKey::Remove(const std::string& name) const {
+    headless::RegistryValues* values = ValuesOf(handle_);
+    if (values == nullptr) return kRegistryDeleted;
+    const auto found = values->find(name);
+    if (found == values->end()) return kRegistryNotFound;
+    values->erase(found);
+    return kRegistrySuccess;
+}
+
+long RegistryKey::List(RegistryValues& values) const {
+    const headless::RegistryValues* stored = ValuesOf(handle_);
+    if (stored == nullptr) return kRegistryDeleted;
+    for (const auto& [name, value] : *stored) values[name] = {static_cast<RegistryType>(value.type), value.bytes};
     return kRegistrySuccess;
 }
 

@@ -194,9 +194,6 @@ Failure FileReplacer::Finish() {
 }
 
 bool RemoveFile(const std::string& path) {
-    if (DeleteFileA(path.c_str())) return true;
-    if (GetLastError() != ERROR_ACCESS_DENIED || IsFolder(path)) return false;
-    SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
     return DeleteFileA(path.c_str()) != FALSE;
 }
 

@@ -63,6 +63,25 @@ TEST_F(RegistryTest, SetsValues) {
     EXPECT_EQ(GetValue(kPath, "name"), (StoredValue{1, "x\xE9\0"s}));
 }
 
+TEST_F(RegistryTest, ListsAndRemovesValues) {
+    MakeKey(kPath);
+    const RegistryKey key(kPath);
+    const RegistryValues values{{"\xC9t\xE9", {RegistryType::Text, "without NUL"}},
+                                {"", {RegistryType::Text, "\0"s}},
+                                {"empty", {static_cast<RegistryType>(3), ""}},
+                                {"long", {static_cast<RegistryType>(3), std::string(5000, '\xE9')}}};
+    for (const auto& [name, value] : values) EXPECT_EQ(key.Write(name, value), kRegistrySuccess);
+    RegistryValues listed;
+    EXPECT_EQ(key.List(listed), kRegistrySuccess);
+    EXPECT_EQ(listed, values);
+    RegistryValue read;
+    EXPECT_EQ(key.Read("LONG", read), kRegistrySuccess);
+    EXPECT_EQ(read, values.at("long"));
+    EXPECT_EQ(key.Remove("Long"), kRegistrySuccess);
+    EXPECT_EQ(key.Remove("long"), kRegistryNotFound);
+    EXPECT_EQ(key.Read("long", read), kRegistryNotFound);
+}
+
 TEST_F(RegistryTest, KeepsSettings) {
     EXPECT_EQ(GetSetting("File Locations", "SubSpace", "<not set>"), "<not set>");
     SaveSetting("File Locations", "SubSpace", "C:\\Game \x80\xE9 ");
