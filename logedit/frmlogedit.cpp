@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "auxiliary/menuhelp.h"
 #include "logedit/logfind.h"
-#include "logedit/logmenuhelp.h"
 #include "logedit/logmenurows.h"
 #include "logedit/logsave.h"
 #include "logedit/logsettings.h"
@@ -56,9 +56,9 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
     : Form(FormBorder::Sizable, kWidth, kHeight),
       gameFolder_(gameFolder),
       edit_(edit),
-      menuBar_(kLogMenuRows),
-      mnuLogEditPopup_(kLogEditPopupRows),
-      mnuInExPopup_(kInExPopupRows),
+      menuBar_(MenuRows()),
+      mnuLogEditPopup_(LogPopupRows()),
+      mnuInExPopup_(PlayersPopupRows()),
       anchors_(kInnerWidth, kInnerHeight),
       progress_(*this, lstLog),
       lstLog(*this, kLog, "Log"),
@@ -85,12 +85,8 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
     players_.onPopUp = [this] { PopUpMenu(mnuInExPopup_, 0); };
     cmdApplyFilter.onClick = [this] { ApplyLogFilter(); };
 
-    SetMenu(menuBar_, {kLogShortcuts.begin(), kLogShortcuts.end()});
-    for (Menu* menu : {&menuBar_, &mnuLogEditPopup_, &mnuInExPopup_}) {
-        menu->onCommand = [this](int command) { MenuCommand(command); };
-        menu->onHighlight = [this](int command) { StatusBar1.SetText(LogMenuHelpText(command)); };
-    }
-    onSystemMenuHighlight = [this](int command) { StatusBar1.SetText(LogSystemMenuHelpText(command)); };
+    SetMenu(menuBar_);
+    ShowMenuHelp(*this, StatusBar1, {&menuBar_, &mnuLogEditPopup_, &mnuInExPopup_}, "Close this window");
 
     onLoad = [this] { Form_Load(); };
     onResize = [this] { Form_Resize(); };
@@ -161,29 +157,6 @@ bool frmLogEdit::Form_KeyDown(int key, bool control) {
     return true;
 }
 
-void frmLogEdit::MenuCommand(int command) {
-    switch (command) {
-        case mnuFile_Open: mnuFile_Open_Click(); break;
-        case mnuFile_SaveAs: mnuFile_SaveAs_Click(); break;
-        case mnuFile_Close: Unload(); break;
-        case mnuOptions_Font:
-        case mnuLogEditPopup_Font: ChooseLogFont(); break;
-        case mnuOptions_Color_Foreground: ChooseLogColor(true); break;
-        case mnuOptions_Color_Background: ChooseLogColor(false); break;
-        case mnuOptions_Apply: mnuOptions_Apply_Click(); break;
-        case mnuOptions_LineNums: mnuOptions_LineNums_Click(); break;
-        case mnuSearch_Find: mnuSearch_Find_Click(); break;
-        case mnuLogEditPopup_Delete: mnuLogEditPopup_Delete_Click(); break;
-        case mnuInExPopup_All: players_.mnuInExPopup_All_Click(); break;
-        case mnuInExPopup_Invert: players_.mnuInExPopup_Invert_Click(); break;
-        default:
-            // By value: opening moves the list's entries.
-            if (command >= mnuFileMRU && command < mnuFileBarMRU)
-                OpenLog(std::string(edit_.LogMRU[static_cast<size_t>(command - mnuFileMRU)]));
-            break;
-    }
-}
-
 void frmLogEdit::mnuFile_Open_Click() {
     const auto path = AskOpenFile({.title = "Open",
                                    .filter = kLogFilter,
@@ -210,6 +183,11 @@ void frmLogEdit::mnuFile_SaveAs_Click() {
     AddToLogMRU(edit_.LogMRU, *path);
     RefreshLogMRUMenu();
     StatusBar1.SetText(kSaved);
+}
+
+// By value: opening moves the list's entries.
+void frmLogEdit::mnuFileMRU_Click(size_t index) {
+    OpenLog(std::string(edit_.LogMRU[index]));
 }
 
 void frmLogEdit::mnuOptions_Apply_Click() {

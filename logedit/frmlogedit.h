@@ -26,9 +26,13 @@ private:
     bool Form_Unload();
     bool Form_KeyDown(int key, bool control);
 
-    void MenuCommand(int command);
+    std::vector<MenuRow> MenuRows();
+    std::vector<MenuRow> LogPopupRows();
+    std::vector<MenuRow> PlayersPopupRows();
     void mnuFile_Open_Click();
     void mnuFile_SaveAs_Click();
+    void mnuFileMRU_Click(size_t index);
+    void mnuFile_Close_Click() { Unload(); }
     void mnuOptions_Apply_Click();
     void mnuOptions_LineNums_Click();
     void mnuSearch_Find_Click();

@@ -3,14 +3,13 @@
 #include "auxiliary/addresses.h"
 #include "auxiliary/frmabout.h"
 #include "auxiliary/frmrelnotes.h"
+#include "auxiliary/menuhelp.h"
 #include "auxiliary/opendocument.h"
 #include "game/transfer.h"
 #include "mainwin/appsettings.h"
 #include "mainwin/bindingtables.h"
 #include "mainwin/frmoptions.h"
 #include "mainwin/loading.h"
-#include "mainwin/menuhelp.h"
-#include "mainwin/menurows.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/shell.h"
@@ -58,7 +57,7 @@ frmMain::frmMain(Program& program)
                         .RefreshRecentMenu = [this] { RefreshRecentMenu(menuBar_, program_.recentFiles); },
                     }),
       trayCommands_(*this, program, launcher_),
-      menuBar_(kMainMenuRows),
+      menuBar_(MenuRows()),
       SSTab1(*this, kTabs),
       identityPage_(SSTab1, program.profile, edited_),
       optionsPage_(SSTab1, program.profile, edited_),
@@ -91,11 +90,10 @@ frmMain::frmMain(Program& program)
         page->onImport = [this] { fileCommands_.mnuFile_Import_Click(); };
     }
 
-    SetMenu(menuBar_, {kMainShortcuts.begin(), kMainShortcuts.end()});
-    menuBar_.onCommand = [this](int command) { MenuCommand(command); };
-    menuBar_.onHighlight = [this](int command) { StatusBar1.SetText(MenuHelpText(command)); };
-    onSystemMenuHighlight = [this](int command) { StatusBar1.SetText(SystemMenuHelpText(command)); };
-    trayCommands_.onHighlight = [this] { StatusBar1.SetText(""); };
+    SetMenu(menuBar_);
+    // Closing only hides the window; the text is kept on purpose.
+    ShowMenuHelp(*this, StatusBar1, {&menuBar_, &trayCommands_.IconMenu()},
+                 "Close this window and terminate this program");
     trayCommands_.onFillFavourite = [this] { ShowOptions(true); };
 
     HideRecentMenu(menuBar_);
@@ -195,30 +193,6 @@ void frmMain::CollectMacros() {
     rShiftPage_.Collect();
 }
 
-void frmMain::MenuCommand(int command) {
-    switch (command) {
-        case mnuFile_New: fileCommands_.mnuFile_New_Click(); break;
-        case mnuFile_Open: fileCommands_.mnuFile_Open_Click(); break;
-        case mnuFile_Save: fileCommands_.mnuFile_Save_Click(); break;
-        case mnuFile_SaveAs: fileCommands_.mnuFile_SaveAs_Click(); break;
-        case mnuFile_Import: fileCommands_.mnuFile_Import_Click(); break;
-        case mnuFile_Print: mnuFile_Print_Click(); break;
-        case mnuFile_Close: mnuFile_Close_Click(); break;
-        case mnuFile_Exit: mnuFile_Exit_Click(); break;
-        case mnuOptions_Set: mnuOptions_Set_Click(); break;
-        case mnuLog: mnuLog_Click(); break;
-        case mnuHelp_Contents: mnuHelp_Contents_Click(); break;
-        case mnuHelp_Revision: frmRelNotes().ShowModal(*this); break;
-        case mnuHelp_GotoQUIRNWebSite: OpenDocument(*this, kQuirnWebSite); break;
-        case mnuHelp_GotoSSWebSite: OpenDocument(*this, kGameWebSite); break;
-        case mnuHelp_About: frmAbout().ShowModal(*this); break;
-        default:
-            if (command >= mnuFileMRU && command < mnuFileBarMRU)
-                fileCommands_.mnuFileMRU_Click(static_cast<size_t>(command - mnuFileMRU));
-            break;
-    }
-}
-
 // Printing is not offered, on purpose.
 void frmMain::mnuFile_Print_Click() {
     ShowMessage("Function unavailable in this version.", kInformation);
@@ -238,6 +212,22 @@ void frmMain::mnuLog_Click() {
 
 void frmMain::mnuHelp_Contents_Click() {
     if (!ShowHelpContents(*this, program_.helpFile)) OpenDocument(*this, ProgramFolder() + kHelpPage);
+}
+
+void frmMain::mnuHelp_Revision_Click() {
+    frmRelNotes().ShowModal(*this);
+}
+
+void frmMain::mnuHelp_GotoQUIRNWebSite_Click() {
+    OpenDocument(*this, kQuirnWebSite);
+}
+
+void frmMain::mnuHelp_GotoSSWebSite_Click() {
+    OpenDocument(*this, kGameWebSite);
+}
+
+void frmMain::mnuHelp_About_Click() {
+    frmAbout().ShowModal(*this);
 }
 
 void frmMain::ShowOptions(bool favourites) {

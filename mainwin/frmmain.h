@@ -33,13 +33,17 @@ private:
     bool Form_QueryUnload(UnloadMode mode);
     bool Form_Unload();
 
-    void MenuCommand(int command);
+    std::vector<MenuRow> MenuRows();
     void mnuFile_Print_Click();
     void mnuFile_Close_Click();
     void mnuFile_Exit_Click() { Unload(); }
     void mnuOptions_Set_Click();
     void mnuLog_Click();
     void mnuHelp_Contents_Click();
+    void mnuHelp_Revision_Click();
+    void mnuHelp_GotoQUIRNWebSite_Click();
+    void mnuHelp_GotoSSWebSite_Click();
+    void mnuHelp_About_Click();
 
     void Command3_Click();
     void Command4_Click();

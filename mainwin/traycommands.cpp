@@ -16,10 +16,8 @@ TrayCommands::TrayCommands(Form& mainWindow, const Program& program, Launcher& l
     : mainWindow_(mainWindow),
       program_(program),
       launcher_(launcher),
-      mnuPUTrayIcon(kTrayMenuRows),
+      mnuPUTrayIcon(MenuRows()),
       tray_(mainWindow, kTip) {
-    mnuPUTrayIcon.onHighlight = [this](int) { onHighlight(); };
-    mnuPUTrayIcon.onCommand = [this](int command) { MenuCommand(command); };
     tray_.onMouse = [this](unsigned message) { Tray_Mouse(message); };
 }
 
@@ -39,13 +37,6 @@ void TrayCommands::Tray_Mouse(unsigned message) {
     if (message == kMouseRightDown) mainWindow_.PopUpMenu(mnuPUTrayIcon, mnuPUTrayIcon_Open);
 }
 
-void TrayCommands::MenuCommand(int command) {
-    if (command == mnuPUTrayIcon_Open) mnuPUTrayIcon_Open_Click();
-    else if (command == mnuPUTrayIcon_Exit) mainWindow_.Unload();
-    else if (command >= mnuPUTrayIcon_Fav && command < mnuPUTrayIconBarExit)
-        mnuPUTrayIcon_Fav_Click(static_cast<size_t>(command - mnuPUTrayIcon_Fav));
-}
-
 void TrayCommands::mnuPUTrayIcon_Open_Click() {
     if (!mainWindow_.Visible()) mainWindow_.Show();
     mainWindow_.BringToFront();
@@ -63,6 +54,10 @@ void TrayCommands::mnuPUTrayIcon_Fav_Click(size_t slot) {
     if (!LoadProfileAndTell(profile, favourite.path)) return;
     mainWindow_.Hide();
     launcher_.TransferAndLaunch(profile, program_.gameFolder);
+}
+
+void TrayCommands::mnuPUTrayIcon_Exit_Click() {
+    mainWindow_.Unload();
 }
 
 }  // namespace quirn

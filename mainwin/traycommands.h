@@ -15,18 +15,19 @@ public:
     TrayCommands(Form& mainWindow, const Program& program, Launcher& launcher);
 
     TrayIcon& Icon() { return tray_; }
+    Menu& IconMenu() { return mnuPUTrayIcon; }
 
     // Gives the favourites' items their names.
     void BuildFavouritesMenu();
 
-    std::function<void()> onHighlight;      // the player moves over the menu
     std::function<void()> onFillFavourite;  // he has chosen an empty favourite; the main window is shown
 
 private:
     void Tray_Mouse(unsigned message);
-    void MenuCommand(int command);
+    std::vector<MenuRow> MenuRows();
     void mnuPUTrayIcon_Open_Click();
     void mnuPUTrayIcon_Fav_Click(size_t slot);
+    void mnuPUTrayIcon_Exit_Click();
 
     Form& mainWindow_;
     const Program& program_;

@@ -57,9 +57,8 @@ int Form::InnerHeight() const {
     return loaded_ ? native::InnerSize(*this).height : place_.height - kCaptionGuess;
 }
 
-void Form::SetMenu(Menu& menu, std::vector<Shortcut> shortcuts) {
+void Form::SetMenu(Menu& menu) {
     menu_ = &menu;
-    shortcuts_ = std::move(shortcuts);
     menu.onChanged = [this] {
         if (loaded_) native::MenuChanged(*this);
     };
@@ -173,15 +172,13 @@ void Form::UserPressesEscape() {
     if (cancelButton_ != nullptr && cancelButton_->Visible()) cancelButton_->UserClicks();
 }
 
-bool Form::UserPressesShortcut(int key, bool control) {
+bool Form::UserPressesShortcut(KeyStroke key) {
     bool swallowed = false;
-    if (onKeyDown) CallHandler([&] { swallowed = onKeyDown(key, control); });
+    if (onKeyDown && !key.shift) CallHandler([&] { swallowed = onKeyDown(key.key, key.control); });
     if (swallowed) return true;
-    const auto found = std::find_if(shortcuts_.begin(), shortcuts_.end(), [&](const Shortcut& shortcut) {
-        return shortcut.key == key && shortcut.control == control;
-    });
-    if (found == shortcuts_.end()) return false;
-    menu_->UserChooses(found->command);
+    const Menu::Item* const item = menu_ == nullptr ? nullptr : menu_->FindByKey(key);
+    if (item == nullptr) return false;
+    menu_->UserChooses(item->row.command);
     return true;
 }
 

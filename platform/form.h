@@ -22,14 +22,8 @@ enum class FormBorder {
 // Who asks for a form to be closed. The numbers are the classic ones.
 enum class UnloadMode { CloseBox = 0, FromCode = 1, SystemShutdown = 2 };
 
-// Keys by their virtual codes, for shortcuts.
+// Keys by their virtual codes.
 inline constexpr int kKeyTab = 9, kKeyEnter = 13, kKeyEscape = 27, kKeyDelete = 46, kKeyF1 = 112, kKeyF3 = 114;
-
-struct Shortcut {
-    int key;  // virtual code; letters and digits are their upper-case characters
-    bool control;
-    int command;  // of the form's menu bar
-};
 
 // A window of the program. The object may live longer than its window: Load makes the window (hidden), Unload destroys
 // it, and either may happen again. A form is destroyed with its window when its object goes. A routine of the form may
@@ -65,8 +59,8 @@ public:
     void SetMinimumSize(int width, int height);  // twips, frame included; before Load
     int MinimumWidth() const { return minimumWidth_; }
     int MinimumHeight() const { return minimumHeight_; }
-    void SetBackColor(Color color) { backColor_ = color; }      // before Load
-    void SetMenu(Menu& menu, std::vector<Shortcut> shortcuts);  // before Load; the menu must live as long as the form
+    void SetBackColor(Color color) { backColor_ = color; }  // before Load
+    void SetMenu(Menu& menu);  // before Load, with the keys of its shortcuts; the menu must live as long as the form
     Menu* MenuBar() const { return menu_; }
     void SetButtons(Button* defaultButton, Button* cancelButton);
     Button* DefaultButton() const { return defaultButton_; }
@@ -101,7 +95,7 @@ public:
     std::function<void()> onResize;
     std::function<bool(UnloadMode)> onQueryUnload;         // false: the form stays
     std::function<bool()> onUnload;                        // false: the form stays
-    std::function<bool(int key, bool control)> onKeyDown;  // by its virtual code, before shortcuts; true swallows it
+    std::function<bool(int key, bool control)> onKeyDown;  // without Shift, before shortcuts; true swallows it
     std::function<void(char)> onKeyPress;            // a character typed, before the control that has the focus gets it
     std::function<void(int)> onSystemMenuHighlight;  // the player moves over a command of the system menu (0xF000 ...)
     std::function<void(const std::string&)> onDropFile;  // a file dropped on the window; set before Load
@@ -111,10 +105,10 @@ public:
     void UserTypes(char character);
     void UserPressesEnter();
     void UserPressesEscape();
-    bool UserPressesShortcut(int key, bool control);  // false: it is none
-    bool UserPressesAccessKey(char key);              // Alt and a letter; false: no control has it
-    bool UserTurnsPage(int steps);                    // of the first tab strip; false: there is none
-    void FocusNext(const Control* after);             // the first that can have it, in tab order and round the end
+    bool UserPressesShortcut(KeyStroke key);  // false: it is none
+    bool UserPressesAccessKey(char key);      // Alt and a letter; false: no control has it
+    bool UserTurnsPage(int steps);            // of the first tab strip; false: there is none
+    void FocusNext(const Control* after);     // the first that can have it, in tab order and round the end
     void WindowMoved(const Bounds& place, bool maximized);
     void WindowResized();
     void WindowShown(bool visible) { visible_ = visible; }
@@ -133,7 +127,6 @@ private:
     std::string caption_;
     std::optional<Color> backColor_;
     Menu* menu_ = nullptr;
-    std::vector<Shortcut> shortcuts_;
     Button* defaultButton_ = nullptr;
     Button* cancelButton_ = nullptr;
     Control* active_ = nullptr;

@@ -1,76 +1,86 @@
 #include "platform/menu.h"
 
 #include <algorithm>
-#include <string_view>
 
 #include "platform/form.h"
+#include "platform/text.h"
 
 namespace quirn {
 
-namespace {
-
-constexpr int kSystemClose = 61536;
-
-constexpr MenuHelpRow kSystemMenuHelp[] = {
-    {61440, "Size the window using the keyboard"},
-    {61456, "Move the window using the keyboard"},
-    {61472, "Minimize the window"},
-    {61488, "Maximize the window"},
-    {61728, "Restore window to normal position and size"},
-};
-
-}  // namespace
-
-std::string FindMenuHelp(std::span<const MenuHelpRow> rows, int command) {
-    for (const MenuHelpRow& row : rows)
-        if (row.command == command) return row.text;
-    return {};
+KeyStroke KeyOf(std::string_view shortcut) {
+    KeyStroke stroke{0};
+    const auto taken = [&](std::string_view prefix) {
+        const bool there = shortcut.starts_with(prefix);
+        if (there) shortcut.remove_prefix(prefix.size());
+        return there;
+    };
+    stroke.control = taken("Ctrl+");
+    stroke.shift = taken("Shift+");
+    if (shortcut == "Del") stroke.key = kKeyDelete;
+    else if (shortcut.size() == 1) stroke.key = shortcut[0];
+    else if (taken("F")) stroke.key = kKeyF1 - 1 + static_cast<int>(Val(shortcut));
+    return stroke;
 }
 
-std::string SystemMenuHelp(int command, const char* closeText) {
-    return command == kSystemClose ? closeText : FindMenuHelp(kSystemMenuHelp, command);
+Menu::Menu(std::vector<MenuRow> rows) {
+    for (MenuRow& row : rows) {
+        const char* const caption = row.caption;
+        items_.push_back({std::move(row), caption});
+    }
 }
 
-Menu::Menu(std::span<const MenuRow> rows) {
-    for (const MenuRow& row : rows) items_.push_back({row, row.caption});
-}
-
-const Menu::Item& Menu::At(int command) const {
-    return *const_cast<Menu*>(this)->Find(command);
-}
-
-Menu::Item* Menu::Find(int command) {
+const Menu::Item* Menu::Find(int command) const {
     const auto found =
         std::find_if(items_.begin(), items_.end(), [&](const Item& item) { return item.row.command == command; });
     return found == items_.end() ? nullptr : &*found;
 }
 
+Menu::Item* Menu::ItemOf(int command) {
+    return const_cast<Item*>(Find(command));
+}
+
+const Menu::Item* Menu::FindByKey(KeyStroke key) const {
+    const auto found =
+        std::find_if(items_.begin(), items_.end(), [&](const Item& item) { return KeyOf(item.row.shortcut) == key; });
+    return found == items_.end() || key.key == 0 ? nullptr : &*found;
+}
+
+void Menu::Changed() {
+    if (onChanged) onChanged();
+}
+
 void Menu::SetCaption(int command, const std::string& caption) {
-    Item* const item = Find(command);
+    Item* const item = ItemOf(command);
     if (item == nullptr || item->caption == caption) return;
     item->caption = caption;
-    if (onChanged) onChanged();
+    Changed();
 }
 
 void Menu::SetVisible(int command, bool visible) {
-    Item* const item = Find(command);
+    Item* const item = ItemOf(command);
     if (item == nullptr || item->visible == visible) return;
     item->visible = visible;
-    if (onChanged) onChanged();
+    Changed();
 }
 
 void Menu::SetChecked(int command, bool checked) {
-    Item* const item = Find(command);
+    Item* const item = ItemOf(command);
     if (item == nullptr || item->checked == checked) return;
     item->checked = checked;
-    if (onChanged) onChanged();
+    Changed();
+}
+
+void Menu::UserPointsAt(int command) {
+    const Item* const item = Find(command);
+    if (onHighlight) CallHandler([&] { onHighlight(item == nullptr ? "" : item->row.help); });
 }
 
 void Menu::UserChooses(int command) {
-    const bool choosable = std::any_of(items_.begin(), items_.end(), [&](const Item& item) {
-        return item.row.command == command && item.visible && std::string_view(item.row.caption) != "-";
+    const Item* const item = Find(command);
+    if (item == nullptr || !item->visible || !item->row.onClick) return;
+    CallHandler([&] {
+        if (item->IsEnabled()) item->row.onClick();
     });
-    if (choosable && onCommand) CallHandler([&] { onCommand(command); });
 }
 
 }  // namespace quirn

@@ -47,7 +47,7 @@ Key AnswerKey(Form& form, WPARAM key) {
     if (Pressed(VK_MENU)) return IsEnterOrEscape(key) ? Key::ForControl : Key::ForDialogManager;
     if (control && key == VK_TAB && form.UserTurnsPage(shift ? -1 : 1)) return Key::Done;
     if (control && (key == VK_NEXT || key == VK_PRIOR) && form.UserTurnsPage(key == VK_NEXT ? 1 : -1)) return Key::Done;
-    if (!shift && !BelongsToTextBox(form, key) && form.UserPressesShortcut(static_cast<int>(key), control))
+    if (!BelongsToTextBox(form, key) && form.UserPressesShortcut({static_cast<int>(key), control, shift}))
         return Key::Done;
     if (IsEnterOrEscape(key)) return AnswerEnterOrEscape(form, key == VK_RETURN || key == VK_EXECUTE);
     return Key::ForDialogManager;

@@ -165,6 +165,9 @@ LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
             if (HIWORD(wParam) == 0 && form->MenuBar() != nullptr) form->MenuBar()->UserChooses(LOWORD(wParam));
             return 0;
         case WM_MENUSELECT: MenuHighlighted(*form, wParam, lParam); break;
+        case WM_INITMENUPOPUP:
+            if (HIWORD(lParam) == FALSE) MenuOpens(*form, reinterpret_cast<HMENU>(wParam));  // not the system menu
+            break;
         case WM_DROPFILES: DropFile(*form, reinterpret_cast<HDROP>(wParam)); return 0;
         case WM_SETFOCUS: RestoreFocus(*form); return 0;
         case WM_ACTIVATE:

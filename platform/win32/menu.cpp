@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <string_view>
 
 #include "platform/native.h"
 #include "platform/win32/window.h"
@@ -17,6 +16,11 @@ namespace {
 using Items = std::vector<Menu::Item>;
 
 Menu* poppedUp = nullptr;  // while its pop-up window is open
+
+// The menu that the player is in; null when the form has none.
+Menu* OpenMenuOf(const Form& form) {
+    return poppedUp != nullptr ? poppedUp : form.MenuBar();
+}
 
 bool HasChildren(const Items& items, size_t at) {
     return at + 1 < items.size() && items[at + 1].row.level > items[at].row.level;
@@ -47,7 +51,7 @@ size_t Fill(HMENU menu, const Items& items, size_t at, int level) {
         info.wID = static_cast<UINT>(item.row.command);
         info.fState = item.checked ? MFS_CHECKED : MFS_UNCHECKED;
         info.hSubMenu = submenu;
-        if (std::string_view(item.row.caption) == "-") {
+        if (item.IsSeparator()) {
             info.fType = MFT_SEPARATOR;
         } else {
             info.fMask |= MIIM_STRING;
@@ -76,9 +80,19 @@ void MenuHighlighted(Form& form, WPARAM wParam, LPARAM lParam) {
             CallHandler([&] { form.onSystemMenuHighlight(static_cast<int>(LOWORD(wParam))); });
         return;
     }
-    const Menu* menu = poppedUp != nullptr ? poppedUp : form.MenuBar();
-    if (menu != nullptr && menu->onHighlight)
-        CallHandler([&] { menu->onHighlight(command ? static_cast<int>(LOWORD(wParam)) : 0); });
+    if (Menu* const menu = OpenMenuOf(form)) menu->UserPointsAt(command ? static_cast<int>(LOWORD(wParam)) : 0);
+}
+
+void MenuOpens(Form& form, HMENU popup) {
+    const Menu* const menu = OpenMenuOf(form);
+    if (menu == nullptr) return;
+    CallHandler([&] {
+        for (int i = 0; i < GetMenuItemCount(popup); ++i) {
+            const Menu::Item* const item = menu->Find(static_cast<int>(GetMenuItemID(popup, i)));
+            if (item == nullptr) continue;
+            EnableMenuItem(popup, static_cast<UINT>(i), MF_BYPOSITION | (item->IsEnabled() ? MF_ENABLED : MF_GRAYED));
+        }
+    });
 }
 
 }  // namespace win32

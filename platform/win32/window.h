@@ -96,6 +96,7 @@ void ToolTipChanged(Control& control);
 // menu.cpp
 HMENU MakeMenuBar(const Menu& menu);
 void MenuHighlighted(Form& form, WPARAM wParam, LPARAM lParam);
+void MenuOpens(Form& form, HMENU popup);  // greys what cannot be chosen now
 
 // modal.cpp
 void EndModal(Form& form);

@@ -25,7 +25,7 @@ TEST_F(LogEditInMemoryTest, LetsThePlayerWaitWhileItReads) {
         Choose(form, logmenu::mnuFile_Close);
     });
     headless::ExpectOpenFile("Open", Scratch() + "\\two.log");
-    form.MenuBar()->onCommand(logmenu::mnuFile_Open);
+    form.MenuBar()->UserChooses(logmenu::mnuFile_Open);
     EXPECT_EQ(edit.view.Count(), 2u);
     EXPECT_TRUE(form.IsLoaded());
     DoEvents();

@@ -98,7 +98,7 @@ TEST_F(LogEditTest, OpeningFiltersAndMovingPlayers) {
     EXPECT_EQ(Shown(Log()), (Lines{"T Ann> three", "  Welcome"}));
 
     Choose(*form_, mnuOptions_Apply);
-    EXPECT_TRUE(form_->MenuBar()->At(mnuOptions_Apply).checked);
+    EXPECT_TRUE(form_->MenuBar()->Find(mnuOptions_Apply)->checked);
     ClickItem(List("Exclude"), 0);
     Press("<<");
     EXPECT_EQ(Shown(Log()), (Lines{"  Bo> one", "T Ann> three", "  Welcome"}));
@@ -168,8 +168,8 @@ TEST_F(LogEditTest, SavesWhatIsShownAndOpensItAgain) {
     EXPECT_EQ(
         FileBytes(saved),
         "[~ Filtered by QUIRN v1.61 ~]\r\n{1}   Bo> one\r\n{2} P Cy> two\r\n{4}   Welcome\r\n{6}   Cy> four BO\r\n");
-    EXPECT_EQ(form_->MenuBar()->At(mnuFileMRU).caption, "&1 " + saved);
-    EXPECT_EQ(form_->MenuBar()->At(mnuFileMRU + 1).caption, "&2 " + path_);
+    EXPECT_EQ(form_->MenuBar()->Find(mnuFileMRU)->caption, "&1 " + saved);
+    EXPECT_EQ(form_->MenuBar()->Find(mnuFileMRU + 1)->caption, "&2 " + path_);
     Choose(*form_, mnuOptions_LineNums);
     Choose(*form_, mnuFileMRU);
     EXPECT_EQ(form_->Caption(), kTitleText + " - a.b.log");
@@ -250,9 +250,9 @@ TEST_F(LogEditTest, TheLookIsKeptAndBroughtBack) {
     EXPECT_EQ(Log().FontUsed(), (Font{.face = "Courier New", .points = 9, .bold = true, .italic = true}));
     EXPECT_EQ(Log().ForeColor(), 0x123456u);
     EXPECT_EQ(Log().BackColor(), 255u);
-    EXPECT_EQ(form_->MenuBar()->At(mnuFileMRU).caption, "&1 " + path_);
-    EXPECT_TRUE(form_->MenuBar()->At(mnuFileBarMRU).visible);
-    EXPECT_FALSE(form_->MenuBar()->At(mnuFileMRU + 1).visible);
+    EXPECT_EQ(form_->MenuBar()->Find(mnuFileMRU)->caption, "&1 " + path_);
+    EXPECT_TRUE(form_->MenuBar()->Find(mnuFileBarMRU)->visible);
+    EXPECT_FALSE(form_->MenuBar()->Find(mnuFileMRU + 1)->visible);
     EXPECT_EQ(Log().Count(), 0u);
 }
 
@@ -270,7 +270,8 @@ TEST_F(LogEditTest, AWindowOpenedAgainStartsAnew) {
     EXPECT_EQ(ShownText(Find<Label>(*form_, ControlKind::Label, "Include")), "Include :");
     EXPECT_EQ(ShownSecondText(Status()), "");
     EXPECT_TRUE(ShownChecked(Find<CheckBox>(*form_, ControlKind::CheckBox, "System messages")));
-    EXPECT_FALSE(form_->MenuBar()->At(mnuOptions_Apply).checked || form_->MenuBar()->At(mnuOptions_LineNums).checked);
+    EXPECT_FALSE(form_->MenuBar()->Find(mnuOptions_Apply)->checked ||
+                 form_->MenuBar()->Find(mnuOptions_LineNums)->checked);
     Open(path_);
     EXPECT_EQ(Shown(Log()), (Lines{"  Bo> one", "P Cy> two", "T Ann> three", "  Welcome", "  Cy> four BO"}));
 }

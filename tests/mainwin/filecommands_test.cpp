@@ -258,18 +258,20 @@ TEST_F(FileCommandsTest, ImportKeepsWhatWasTypedInOtherMacros) {
 }
 
 TEST(RecentMenuTest, ShowsFilesOnceThereAreSome) {
-    Menu menu(kMainMenuRows);
+    std::vector<MenuRow> rows;
+    for (int command = mnuFileMRU; command <= mnuFile_Close; ++command) rows.push_back({command, 1, ""});
+    Menu menu(rows);
     HideRecentMenu(menu);
     RefreshRecentMenu(menu, {"", "  ", "", "", ""});
-    EXPECT_FALSE(menu.At(mnuFileMRU).visible);
-    EXPECT_FALSE(menu.At(mnuFileBarMRU).visible);
-    EXPECT_TRUE(menu.At(mnuFile_Close).visible);
+    EXPECT_FALSE(menu.Find(mnuFileMRU)->visible);
+    EXPECT_FALSE(menu.Find(mnuFileBarMRU)->visible);
+    EXPECT_TRUE(menu.Find(mnuFile_Close)->visible);
     RefreshRecentMenu(menu, {"C:\\a.qrn", "", "", "", "D:\\b.qrn"});
-    EXPECT_EQ(menu.At(mnuFileMRU).caption, "&1 C:\\a.qrn");
-    EXPECT_EQ(menu.At(mnuFileMRU + 4).caption, "&5 D:\\b.qrn");
-    EXPECT_TRUE(menu.At(mnuFileMRU + 4).visible);
-    EXPECT_FALSE(menu.At(mnuFileMRU + 1).visible);
-    EXPECT_TRUE(menu.At(mnuFileBarMRU).visible);
+    EXPECT_EQ(menu.Find(mnuFileMRU)->caption, "&1 C:\\a.qrn");
+    EXPECT_EQ(menu.Find(mnuFileMRU + 4)->caption, "&5 D:\\b.qrn");
+    EXPECT_TRUE(menu.Find(mnuFileMRU + 4)->visible);
+    EXPECT_FALSE(menu.Find(mnuFileMRU + 1)->visible);
+    EXPECT_TRUE(menu.Find(mnuFileBarMRU)->visible);
 }
 
 }  // namespace

@@ -10,15 +10,20 @@
 namespace quirn::test {
 namespace {
 
-constexpr MenuRow kRows[] = {{1, 0, "&File"}, {2, 1, "&New", "Ctrl+N"}, {3, 1, "-"},        {4, 1, "Recent"},
-                             {5, 0, "&Log"},  {6, 0, "&Help"},          {7, 1, "&About..."}};
-
 using Log = std::vector<std::string>;
 
 // One control of every kind that the player can change; what their handlers are told goes into a log.
 struct TestForm : Form {
     Log log;
-    Menu menu{kRows};
+    bool canUndo = true;
+    Menu menu{
+        {{1, 0, "&File"},
+         {2, 1, "&New", "Ctrl+N", "Begins anew", [this] { log.push_back("new"); }},
+         {40, 1, "&Undo", "Ctrl+Shift+N", "Goes back", [this] { log.push_back("undo"); }, [this] { return canUndo; }},
+         {3, 1, "-"},
+         {4, 1, "Recent", "", "", [this] { log.push_back("recent"); }},
+         {5, 0, "&Help"},
+         {6, 1, "&About...", "F1", "", [this] { log.push_back("about"); }}}};
     TabStrip strip{*this, {0, 0, 6000, 4000}};
     TabPage front{strip, "Front"}, back{strip, "Back"};
     TextBox name{front, {0, 0, 1500, 315}, "Bo"};
@@ -38,9 +43,8 @@ struct TestForm : Form {
     Button ok{*this, {0, 4100, 900, 375}, "OK"}, cancel{*this, {1000, 4100, 900, 375}, "Cancel"};
 
     TestForm() : Form(FormBorder::Fixed, 6300, 5600) {
-        SetMenu(menu, {{'N', true, 2}, {kKeyF1, false, 7}});
-        menu.onCommand = [this](int command) { Tell("command", command); };
-        menu.onHighlight = [this](int command) { Tell("over", command); };
+        SetMenu(menu);
+        menu.onHighlight = [this](const char* help) { log.push_back(std::string("over ") + help); };
         combo.SetItems({"Alpha", "Beta", "Gamma"});
         laterCombo.SetItems({"Alpha", "Beta"});
         list.SetItems({"one", "two", "three"});
@@ -247,6 +251,28 @@ TEST_F(ControlsTest, AMinimisedFormTurnsNoPageAndKeepsNoFocusInAHiddenOne) {
     EXPECT_TRUE(form.later.HasFocus());
 }
 
+TEST_F(ControlsTest, AGreyCommandIsReachedByNoWay) {
+    TestForm form;
+    form.Show();
+    form.name.SetFocus();
+    EXPECT_TRUE(ShownEnabled(form, 40));
+    Press(form, 'N', true, true);
+    EXPECT_EQ(form.Take(), Log{"undo"});
+    form.canUndo = false;
+    EXPECT_FALSE(ShownEnabled(form, 40));
+    EXPECT_TRUE(ShownEnabled(form, 2));
+    Press(form, 'N', true, true);
+    Choose(form, 40);
+    EXPECT_EQ(form.Take(), Log{});
+    form.canUndo = true;
+    EXPECT_TRUE(ShownEnabled(form, 40));
+
+    EXPECT_EQ(KeyOf("Ctrl+Shift+Z"), (KeyStroke{'Z', true, true}));
+    EXPECT_EQ(KeyOf("F9"), KeyStroke{kKeyF1 + 8});
+    EXPECT_EQ(KeyOf("Del"), KeyStroke{kKeyDelete});
+    EXPECT_EQ(KeyOf("Ctrl+F"), (KeyStroke{'F', true}));
+}
+
 TEST_F(ControlsTest, MenusTellOfItemsOnlyAndEnterAndEscapeAreNoCommands) {
     TestForm form;
     form.menu.SetVisible(4, false);
@@ -255,18 +281,18 @@ TEST_F(ControlsTest, MenusTellOfItemsOnlyAndEnterAndEscapeAreNoCommands) {
     PointAt(form, MenuPart::Heading, 2);
     PointAt(form, MenuPart::Separator, 3);
     PointAt(form, MenuPart::Nothing, 0);
-    EXPECT_EQ(form.Take(), (Log{"over 2", "over 0", "over 0", "over 0"}));
+    EXPECT_EQ(form.Take(), (Log{"over Begins anew", "over ", "over ", "over "}));
     Choose(form, 2);
     Choose(form, 3);
     Choose(form, 4);
-    EXPECT_EQ(form.Take(), Log{"command 2"});
+    EXPECT_EQ(form.Take(), Log{"new"});
     form.name.SetFocus();
     Press(form, kKeyEnter);
     Press(form, kKeyEscape);
     EXPECT_EQ(form.Take(), Log{});
     Press(form, 'N', true);
     Press(form, kKeyF1);
-    EXPECT_EQ(form.Take(), (Log{"command 2", "command 7"}));
+    EXPECT_EQ(form.Take(), (Log{"new", "about"}));
     form.SetButtons(&form.ok, &form.cancel);
     Press(form, kKeyEnter);
     Press(form, kKeyEscape);

@@ -31,7 +31,7 @@ void TurnTo(TabStrip& strip, int page);
 void Close(Form& form);  // the close box
 
 // A key that goes to the control that has the focus, by way of the event loop.
-void Press(Form& form, int key, bool control = false);
+void Press(Form& form, int key, bool control = false, bool shift = false);
 
 // Characters that go there in the same way.
 void Type(Form& form, const std::string& text);
@@ -39,6 +39,7 @@ void Type(Form& form, const std::string& text);
 enum class MenuPart { Item, Heading, Separator, Nothing };
 void PointAt(Form& form, MenuPart part, int command);
 void Choose(Form& form, int command);
+bool ShownEnabled(Form& form, int command);  // once its menu has been opened
 
 // What the player sees; for a control whose window is there.
 std::string ShownText(const Control& control);

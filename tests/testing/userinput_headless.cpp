@@ -84,9 +84,9 @@ void Close(Form& form) {
     form.UserCloses(UnloadMode::CloseBox);
 }
 
-void Press(Form& form, int key, bool control) {
+void Press(Form& form, int key, bool control, bool shift) {
     if (control && key == kKeyTab && form.UserTurnsPage(1)) return;
-    if (form.UserPressesShortcut(key, control)) return;
+    if (form.UserPressesShortcut({key, control, shift})) return;
     Control* active = form.ActiveControl();
     if (active != nullptr && active->Kind() == ControlKind::ListBox) {
         auto* list = static_cast<ListBox*>(active);
@@ -105,11 +105,15 @@ void Type(Form& form, const std::string& text) {
 }
 
 void PointAt(Form& form, MenuPart part, int command) {
-    if (form.MenuBar()->onHighlight) form.MenuBar()->onHighlight(part == MenuPart::Item ? command : 0);
+    form.MenuBar()->UserPointsAt(part == MenuPart::Item ? command : 0);
 }
 
 void Choose(Form& form, int command) {
     form.MenuBar()->UserChooses(command);
+}
+
+bool ShownEnabled(Form& form, int command) {
+    return form.MenuBar()->Find(command)->IsEnabled();
 }
 
 std::string ShownText(const Control& control) {

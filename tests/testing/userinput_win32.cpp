@@ -49,9 +49,10 @@ void PutInClipboard(const std::string& text) {
     CloseClipboard();
 }
 
-void HoldControl(bool held) {
+void Hold(bool control, bool shift) {
     std::array<BYTE, 256> keys{};
-    if (held) keys[VK_CONTROL] = 0x80;
+    if (control) keys[VK_CONTROL] = 0x80;
+    if (shift) keys[VK_SHIFT] = 0x80;
     SetKeyboardState(keys.data());
 }
 
@@ -171,13 +172,13 @@ void Close(Form& form) {
     SendMessageA(WindowOf(form), WM_SYSCOMMAND, SC_CLOSE, 0);
 }
 
-void Press(Form& form, int key, bool control) {
+void Press(Form& form, int key, bool control, bool shift) {
     DoEvents();
     const HWND target = form.ActiveControl() != nullptr ? WindowOf(*form.ActiveControl()) : WindowOf(form);
-    HoldControl(control);
+    Hold(control, shift);
     PostMessageA(target, WM_KEYDOWN, static_cast<WPARAM>(key), 0);
     DoEvents();
-    HoldControl(false);
+    Hold(false, false);
 }
 
 void Type(Form& form, const std::string& text) {
@@ -204,6 +205,13 @@ void PointAt(Form& form, MenuPart part, int command) {
 
 void Choose(Form& form, int command) {
     SendMessageA(WindowOf(form), WM_COMMAND, MAKEWPARAM(command, 0), 0);
+}
+
+bool ShownEnabled(Form& form, int command) {
+    const HMENU bar = GetMenu(WindowOf(form));
+    for (int i = 0; i < GetMenuItemCount(bar); ++i)
+        SendMessageA(WindowOf(form), WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(GetSubMenu(bar, i)), i);
+    return (GetMenuState(bar, static_cast<UINT>(command), MF_BYCOMMAND) & MF_GRAYED) == 0;
 }
 
 std::string ShownText(const Control& control) {
