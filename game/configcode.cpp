@@ -15,30 +15,25 @@ constexpr size_t kCodeLength = 14;  // with its two dashes
 
 static_assert(kAlphabet.size() == 33);
 
-constexpr size_t RowOf(const AdvancedSwitch& box) {
+constexpr bool HasCell(const SettingRow& box) {
+    return box.cell[0] != 'x';
+}
+constexpr size_t RowOf(const SettingRow& box) {
     return static_cast<size_t>(box.cell[0] - 'A');
 }
-constexpr size_t ColumnOf(const AdvancedSwitch& box) {
+constexpr size_t ColumnOf(const SettingRow& box) {
     return static_cast<size_t>(box.cell[1] - '1');
 }
 
 constexpr bool EveryCellIsUsedOnceButA5() {
     std::array<int, kRows * kColumns> uses{};
-    for (const AdvancedSwitch& box : kAdvancedSwitches)
-        if (box.HasCell()) ++uses.at(RowOf(box) * kColumns + ColumnOf(box));
+    for (const SettingRow* box : setting::kAdvancedSwitches)
+        if (HasCell(*box)) ++uses.at(RowOf(*box) * kColumns + ColumnOf(*box));
     for (size_t i = 0; i < uses.size(); ++i)
         if (uses[i] != (i == kColumns - 1 ? 0 : 1)) return false;
     return true;
 }
 static_assert(EveryCellIsUsedOnceButA5());
-
-constexpr bool NamesAreUnique() {
-    for (const AdvancedSwitch& box : kAdvancedSwitches)
-        for (const AdvancedSwitch& other : kAdvancedSwitches)
-            if (&box != &other && std::string_view(box.name) == other.name) return false;
-    return true;
-}
-static_assert(NamesAreUnique());
 
 int ValueOf(char symbol) {
     const size_t found = kAlphabet.find(FoldCase(symbol));
@@ -47,11 +42,15 @@ int ValueOf(char symbol) {
 
 }  // namespace
 
+std::string AdvancedTag(const SettingRow& row) {
+    return std::string(row.cell) + ":" + row.name;
+}
+
 std::string EncodeConfigCode(const AdvancedStates& states) {
     std::array<size_t, kRows> rows{};
     for (size_t i = 0; i < states.size(); ++i) {
-        const AdvancedSwitch& box = kAdvancedSwitches[i];
-        if (box.HasCell() && states[i] != 0) rows[RowOf(box)] += size_t{1} << ColumnOf(box);
+        const SettingRow& box = *setting::kAdvancedSwitches[i];
+        if (HasCell(box) && states[i] != 0) rows[RowOf(box)] += size_t{1} << ColumnOf(box);
     }
     std::string code;
     for (const size_t row : rows) {
@@ -68,8 +67,8 @@ void DecodeConfigCode(std::string_view Code, AdvancedStates& states) {
         if (symbol != '-') bits += ToBinary8(ValueOf(symbol)).substr(8 - kColumns);
     }
     for (size_t i = 0; i < states.size(); ++i) {
-        const AdvancedSwitch& box = kAdvancedSwitches[i];
-        if (!box.HasCell()) continue;
+        const SettingRow& box = *setting::kAdvancedSwitches[i];
+        if (!HasCell(box)) continue;
         const size_t at = RowOf(box) * kColumns + (kColumns - 1 - ColumnOf(box));
         states[i] = at < bits.size() && bits[at] == '1' ? 1 : 0;  // a text of dashes has fewer bits
     }

@@ -19,6 +19,10 @@ constexpr Bounds kCode{        6315,   90,  1785, kButtonHeight};
 constexpr Bounds kFrame{        120,  495,  7980, 3615};
 constexpr Grid kBoxes{{         120,  240,  1890, kCheckHeight}, 1965, 238, 14};  // in the frame
 // clang-format on
+static_assert(Bounds{0, 0, kFrame.width, kFrame.height}.Holds(kBoxes.Cell(setting::kAdvancedSwitches.size() - 1)));
+
+constexpr const SettingRow& kEmulatorRow = setting::Find(setting::Group::Options, "Emulator");
+constexpr const SettingRow& kGammaRow = setting::Find(setting::Group::Advanced, "GammaPercent");
 
 // The position code and ":" before the name of the setting.
 constexpr size_t kTagPrefix = 3;
@@ -26,23 +30,23 @@ constexpr size_t kTagPrefix = 3;
 }  // namespace
 
 AdvancedPage::AdvancedPage(TabStrip& strip, Profile& profile, Edited edited)
-    : TabPage(strip, "Advanced"),
+    : TabPage(strip, setting::NameOf(setting::Page::Advanced)),
       profile_(profile),
       edited_(std::move(edited)),
-      lblGamma(*this, kGammaLabel, "Gamma Correction Percentage :"),
+      lblGamma(*this, kGammaLabel, kGammaRow.caption),
       txtGamma(*this, kGamma),
-      UpDown4(*this, txtGamma, 1, 400),
-      chkEmulator(*this, kEmulator, kSettingBoxes[kEmulatorBox].caption),
+      UpDown4(*this, txtGamma, kGammaRow.low, kGammaRow.high),
+      chkEmulator(*this, kEmulator, kEmulatorRow.caption),
       Label16(*this, kCodeLabel, "Config Code:"),
       cmdConfigCode(*this, kCode, ""),
       Frame2(*this, kFrame, "Force Into System Memory") {
-    for (size_t i = 0; i < kAdvancedSwitches.size(); ++i) {
-        CheckBox& box = chkAdvanced.emplace_back(Frame2, kBoxes.Cell(i), kAdvancedSwitches[i].caption);
-        box.Tag = kAdvancedSwitches[i].Tag();
+    for (const SettingRow* row : setting::kAdvancedSwitches) {
+        CheckBox& box = chkAdvanced.emplace_back(Frame2, kBoxes.Cell(static_cast<size_t>(row->place)), row->caption);
+        box.Tag = AdvancedTag(*row);
         box.onClick = edited_;
         box.onMouseUp = [this] { chkAdvanced_MouseUp(); };
     }
-    chkEmulator.Tag = kSettingBoxes[kEmulatorBox].tag;
+    chkEmulator.Tag = kEmulatorRow.name;
     chkEmulator.onClick = edited_;
     txtGamma.onChange = edited_;
     cmdConfigCode.onClick = [this] { cmdConfigCode_Click(); };

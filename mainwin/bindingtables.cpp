@@ -35,8 +35,9 @@ std::string SelectedValue(int selected, const std::string& current) {
 }
 
 int ResolutionIndex(std::string_view width) {
-    for (size_t i = 0; i < kResolutions.size(); ++i)
-        if (std::string_view(kResolutions[i]).find(width) != std::string_view::npos) return static_cast<int>(i);
+    for (size_t i = 0; i < std::size(setting::kResolutions); ++i)
+        if (std::string_view(setting::kResolutions[i]).find(width) != std::string_view::npos)
+            return static_cast<int>(i);
     return 0;
 }
 

@@ -36,6 +36,8 @@ constexpr Bounds kCopyMacros{   2520, 3660, 1800, kButtonHeight};
 constexpr Bounds kDistinguish{  4560, 3720, 2400, kCheckHeight};
 // clang-format on
 
+constexpr const SettingRow& kDistinguishRow = setting::Find(setting::Group::Options, "Distinguish");
+
 constexpr int kMacrosShiftPage = 4;
 constexpr char kHelpPage[] = "\\help.html";
 
@@ -63,13 +65,13 @@ frmMain::frmMain(Program& program)
       optionsPage_(SSTab1, program.profile, edited_),
       advancedPage_(SSTab1, program.profile, edited_),
       hiddenPage_(SSTab1, program.profile, edited_),
-      shiftPage_(SSTab1, "Macros Shift", "Shift", program.profile, 1, edited_),
-      rShiftPage_(SSTab1, "Macros R-Shift", "R-Shift", program.profile, 1 + kMacrosPerSet, edited_),
+      shiftPage_(SSTab1, setting::NameOf(setting::Page::MacrosShift), program.profile, 1, edited_),
+      rShiftPage_(SSTab1, setting::NameOf(setting::Page::MacrosRShift), program.profile, 1 + kMacrosPerSet, edited_),
       ignorePage_(SSTab1, program.profile, edited_),
       txtShift(shiftPage_.Texts()),
       txtRShift(rShiftPage_.Texts()),
       Command4(rShiftPage_, kCopyMacros, "Copy from Shift"),
-      chkDistinguish(rShiftPage_, kDistinguish, kSettingBoxes[kDistinguishBox].caption),
+      chkDistinguish(rShiftPage_, kDistinguish, kDistinguishRow.caption),
       Command3(*this, kRun, "Transfer Profile And Run Subspace"),
       picker_(*this, SSTab1, edited_),
       StatusBar1(*this),
@@ -78,7 +80,7 @@ frmMain::frmMain(Program& program)
     for (CheckBox& box : optionsPage_.Boxes()) chkSettings.push_back(&box);
     chkSettings.push_back(&advancedPage_.EmulatorBox());
     chkSettings.push_back(&chkDistinguish);
-    chkDistinguish.Tag = kSettingBoxes[kDistinguishBox].tag;
+    chkDistinguish.Tag = kDistinguishRow.name;
     chkDistinguish.onClick = edited_;
 
     Command3.SetToolTip("Transfer current Profile to Subspace");

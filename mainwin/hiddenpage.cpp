@@ -8,11 +8,11 @@ namespace {
 
 // clang-format off
 //                              left   top  width  height
-constexpr Bounds kShowFrameRatePlace{ 240,  240,  7700, kCheckHeight};
-constexpr Bounds kForce60Place{      240,  570,  7700, kCheckHeight};
-constexpr Bounds kFlickSysMemPlace{  240,  900,  7700, kCheckHeight};
+constexpr Grid kBoxes{{          240,  240,  7700, kCheckHeight}, 0, 330, 4};
 constexpr Bounds kWarning{       240, 1500,  7700, 1500};
 // clang-format on
+
+static_assert(kBoxes.Cell(setting::kHiddenBoxes.size() - 1).Bottom() <= kWarning.top);
 
 bool IsOn(const std::string& value) {
     return ToInteger(value).value_or(0) != 0;
@@ -29,33 +29,28 @@ void CollectBox(const CheckBox& box, std::string& value) {
 }  // namespace
 
 HiddenPage::HiddenPage(TabStrip& strip, Profile& profile, const Edited& edited)
-    : TabPage(strip, "Hidden"),
+    : TabPage(strip, setting::NameOf(setting::Page::Hidden)),
       profile_(profile),
-      chkShowFrameRate(*this, kShowFrameRatePlace, "Show Frame Rate (displays framerate info on game screen)"),
-      chkForce60(*this, kForce60Place, "Force 60 (forces 60Hz refresh rate)"),
-      chkFlickSysMem(*this, kFlickSysMemPlace, "Flick System Memory (your guess is as good as mine)"),
+      chkShowFrameRate(*this, kBoxes.Cell(0), setting::kHiddenBoxes[0]->caption),
+      chkForce60(*this, kBoxes.Cell(1), setting::kHiddenBoxes[1]->caption),
+      chkFlickSysMem(*this, kBoxes.Cell(2), setting::kHiddenBoxes[2]->caption),
       // The spelling and the double blanks are meant to be so.
       Label14(*this, kWarning,
               "WARNING! - Its is NOT recommended that you alter ANY of these settings.  The ability to alter these "
               "settings are included here for completeness.  If you break Subspace because you have changed these "
               "settings, neither Virgin Interactive(tm) or the author of this program will provide you with support.  "
               "YOU HAVE BEEN WARNED!") {
-    for (CheckBox* box : {&chkShowFrameRate, &chkForce60, &chkFlickSysMem}) box->onClick = edited;
+    for (CheckBox* box : boxes_) box->onClick = edited;
     Label14.SetForeColor(Rgb(192, 0, 0));
 }
 
 void HiddenPage::Show() {
-    const Section& hidden = profile_.HiddenOptions;
-    chkForce60.SetValue(IsOn(hidden.Value(kForce60)) ? 1 : 0);
-    chkShowFrameRate.SetValue(IsOn(hidden.Value(kShowFrameRate)) ? 1 : 0);
-    chkFlickSysMem.SetValue(IsOn(hidden.Value(kFlickSystemMemory)) ? 1 : 0);
+    for (size_t i = 0; i < boxes_.size(); ++i)
+        boxes_[i]->SetValue(IsOn(profile_.Value(*setting::kHiddenBoxes[i])) ? 1 : 0);
 }
 
 void HiddenPage::Collect() {
-    Section& hidden = profile_.HiddenOptions;
-    CollectBox(chkFlickSysMem, hidden.Value(kFlickSystemMemory));
-    CollectBox(chkForce60, hidden.Value(kForce60));
-    CollectBox(chkShowFrameRate, hidden.Value(kShowFrameRate));
+    for (size_t i = 0; i < boxes_.size(); ++i) CollectBox(*boxes_[i], profile_.Value(*setting::kHiddenBoxes[i]));
 }
 
 }  // namespace quirn

@@ -41,6 +41,12 @@ constexpr Grid kWaveBrowse{{             5640,  240,  1140, 330}, 0, kWaveStep, 
 constexpr Grid kWavePlay{{               6870,  240,   960, 330}, 0, kWaveStep, 2};
 // clang-format on
 
+using setting::Group;
+
+consteval const char* CaptionOf(Group group, std::string_view name) {
+    return setting::Find(group, name).caption;
+}
+
 constexpr const char* kWaveCaptions[] = {"Shift-F11 :", "Shift-F12 :"};
 
 ControlArray<MaskedBox> MakeProxyBoxes(Parent page) {
@@ -52,27 +58,27 @@ ControlArray<MaskedBox> MakeProxyBoxes(Parent page) {
 }  // namespace
 
 IdentityPage::IdentityPage(TabStrip& strip, Profile& profile, Edited edited)
-    : TabPage(strip, "Identity"),
+    : TabPage(strip, setting::NameOf(setting::Page::Identity)),
       profile_(profile),
       edited_(std::move(edited)),
-      lblPilotName(*this, kPilotNameLabel, "Pilot Name :"),
+      lblPilotName(*this, kPilotNameLabel, CaptionOf(Group::Dialog, "PlayerName")),
       txtPilotName(*this, kPilotName),
-      lblPassword(*this, kPasswordLabel, "Pilot Password :"),
+      lblPassword(*this, kPasswordLabel, CaptionOf(Group::Dialog, "PlayerPassword")),
       txtPassword(*this, kPassword),
       Check1(*this, kShowPassword, "Show Password"),
-      lblShipType(*this, kShipTypeLabel, "Ship Type :"),
+      lblShipType(*this, kShipTypeLabel, CaptionOf(Group::Dialog, "PlayerShipType")),
       cmbShipType(*this, kShipType),
-      lblResolution(*this, kResolutionLabel, "Resolution :"),
+      lblResolution(*this, kResolutionLabel, CaptionOf(Group::Options, "ResolutionX")),
       cmbResolution(*this, kResolution),
-      lblZone(*this, kZoneLabel, "Zone to Start In :"),
+      lblZone(*this, kZoneLabel, CaptionOf(Group::Dialog, "ServerArena")),
       cmbZone(*this, kZone),
       lblServerIP(*this, kServerIP, "", Alignment::Left, Label::kShowsData),
-      lblPortCaption(*this, kPortLabel, "Port :"),
+      lblPortCaption(*this, kPortLabel, CaptionOf(Group::Dialog, "ServerPort")),
       lblServerPort(*this, kPortPlace, "", Alignment::Left, Label::kShowsData),
       lblZoneDesc(*this, kZoneDescription, "Zone Description", Alignment::Left, Label::kShowsData),
-      chkUseProxy(*this, kUseProxy, "Use Proxy Address :"),
+      chkUseProxy(*this, kUseProxy, CaptionOf(Group::Dialog, "ProxyIP")),
       mskProxyAddress(MakeProxyBoxes(*this)),
-      lblChatName(*this, kChatNameLabel, "Chat Name :"),
+      lblChatName(*this, kChatNameLabel, CaptionOf(Group::Messages, "ChatName")),
       txtChatName(*this, kChatPlace),
       Frame3(*this, kWaveFrame, "Wave Messages") {
     for (size_t i = 0; i < mskProxyAddress.size(); ++i) {
@@ -95,8 +101,8 @@ IdentityPage::IdentityPage(TabStrip& strip, Profile& profile, Edited edited)
     }
 
     txtPassword.SetMasked(true);
-    cmbShipType.SetItems({std::begin(kShipTypes), std::end(kShipTypes)});
-    cmbResolution.SetItems({std::begin(kResolutions), std::end(kResolutions)});
+    cmbShipType.SetItems({std::begin(setting::kShipTypes), std::end(setting::kShipTypes)});
+    cmbResolution.SetItems({std::begin(setting::kResolutions), std::end(setting::kResolutions)});
     cmbResolution.SetListIndex(0);
     EnableProxy();
 

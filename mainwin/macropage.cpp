@@ -13,11 +13,11 @@ constexpr Bounds kImport{120, 3660,  2280, kButtonHeight};
 
 }  // namespace
 
-MacroPage::MacroPage(TabStrip& strip, const char* caption, const char* keyName, Profile& profile, int firstMacro,
-                     const Edited& edited)
+MacroPage::MacroPage(TabStrip& strip, const char* caption, Profile& profile, int firstMacro, const Edited& edited)
     : TabPage(strip, caption), profile_(profile), firstMacro_(firstMacro) {
     for (size_t i = 0; i < kMacrosPerSet; ++i) {
-        labels_.emplace_back(*this, kLabels.Cell(i), std::string(keyName) + " F" + std::to_string(i + 1) + " -");
+        const SettingRow& row = setting::RowAt(setting::Group::Messages, firstMacro + static_cast<int>(i));
+        labels_.emplace_back(*this, kLabels.Cell(i), row.caption);
         TextBox& text = txtMacro.emplace_back(*this, kTexts.Cell(i));
         text.onChange = edited;
         text.onKeyPress = [this, &text](char key) {

@@ -15,9 +15,8 @@ inline constexpr int kMacrosPerSet = 8;
 // R-Shift".
 class MacroPage : public TabPage {
 public:
-    // firstMacro: the index in Messages of the page's first macro, 1 or 9. keyName stands before "F1 -" in the labels.
-    MacroPage(TabStrip& strip, const char* caption, const char* keyName, Profile& profile, int firstMacro,
-              const Edited& edited);
+    // firstMacro: the index in Messages of the page's first macro, 1 or 9.
+    MacroPage(TabStrip& strip, const char* caption, Profile& profile, int firstMacro, const Edited& edited);
 
     void Show();
     void Collect();

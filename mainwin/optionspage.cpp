@@ -1,5 +1,7 @@
 #include "mainwin/optionspage.h"
 
+#include <algorithm>
+
 #include "mainwin/bindingtables.h"
 
 namespace quirn {
@@ -20,67 +22,66 @@ constexpr Bounds kMisc{        4200,  120,  3900, 3900};
 constexpr Grid kMiscBoxes{{     120,  255,  1860,  240}, 1890, 277, 13};  // in its frame
 // clang-format on
 
+constexpr Bounds GroupPlace(int place) {
+    return kGroup.MovedBy(place % 3 * kGroupStepX, place / 3 * kGroupStepY);
+}
+
+// Software Emulation and Distinguish stand on other pages.
+constexpr bool IsHere(const SettingRow* row) {
+    return row->page == setting::Page::Options;
+}
+constexpr auto kBoxCount = std::count_if(setting::kSettingBoxes.begin(), setting::kSettingBoxes.end(), IsHere);
+
+static_assert(Bounds{0, 0, kMisc.width, kMisc.height}.Holds(kMiscBoxes.Cell(kBoxCount - 1)));
+
 }  // namespace
 
 OptionsPage::OptionsPage(TabStrip& strip, Profile& profile, const Edited& edited)
-    : TabPage(strip, "Options"),
+    : TabPage(strip, setting::NameOf(setting::Page::Options)),
       profile_(profile),
-      lblMsgNameLen(*this, kNumberLabels.Cell(0), "Message Name Length :"),
+      lblMsgNameLen(*this, kNumberLabels.Cell(0), setting::kNumbers[0]->caption),
       txtMsgNameLen(*this, kNumbers.Cell(0)),
-      lblMusicVolume(*this, kNumberLabels.Cell(1), "Music Volume :"),
+      lblMusicVolume(*this, kNumberLabels.Cell(1), setting::kNumbers[1]->caption),
       txtMusicVolume(*this, kNumbers.Cell(1)),
-      lblMsgLines(*this, kNumberLabels.Cell(2), "Message Lines :"),
+      lblMsgLines(*this, kNumberLabels.Cell(2), setting::kNumbers[2]->caption),
       txtMsgLines(*this, kNumbers.Cell(2)),
-      lblBounty(*this, kNumberLabels.Cell(3), "Target Bounty :"),
+      lblBounty(*this, kNumberLabels.Cell(3), setting::kNumbers[3]->caption),
       txtBounty(*this, kNumbers.Cell(3)) {
-    UpDown_.emplace_back(*this, txtMsgNameLen, 0, 24);
-    UpDown_.emplace_back(*this, txtMusicVolume, 0, 100);
-    UpDown_.emplace_back(*this, txtMsgLines, 0, 99);
-    UpDown_.emplace_back(*this, txtBounty, 0, 9999);
-    for (TextBox* number : {&txtMsgNameLen, &txtMusicVolume, &txtMsgLines, &txtBounty}) number->onChange = edited;
+    for (const SettingRow* row : setting::kNumbers) {
+        TextBox& number = *numbers_[static_cast<size_t>(row->place)];
+        UpDown_.emplace_back(*this, number, row->low, row->high);
+        number.onChange = edited;
+    }
 
-    for (size_t i = 0; i < kOptionGroups.size(); ++i) {
-        const int column = static_cast<int>(i) % 3;
-        const int row = static_cast<int>(i) / 3;
-        Frame& frame = Frame1.emplace_back(*this, kGroup.MovedBy(column * kGroupStepX, row * kGroupStepY),
-                                           kOptionGroups[i].caption);
-        size_t button = 0;
-        for (const char* caption : kOptionGroups[i].buttons)
-            buttons_.emplace_back(frame, *groups_[i], kGroupButtons.Cell(button++), caption);
-        groups_[i]->onClick = edited;
+    for (const SettingRow* row : setting::kOptionGroups) {
+        Frame& frame = Frame1.emplace_back(*this, GroupPlace(row->place), row->caption);
+        OptionGroup& group = *groups_[static_cast<size_t>(row->place)];
+        for (size_t i = 0; i < row->words.size(); ++i)
+            buttons_.emplace_back(frame, group, kGroupButtons.Cell(i), row->words[i]);
+        group.onClick = edited;
     }
 
     Frame& misc = Frame1.emplace_back(*this, kMisc, "Miscellaneous");
-    size_t position = 0;
-    for (size_t i = 0; i < kSettingBoxes.size(); ++i) {
-        if (i == kEmulatorBox || i == kDistinguishBox) continue;
-        CheckBox& box = chkSettings.emplace_back(misc, kMiscBoxes.Cell(position++), kSettingBoxes[i].caption);
-        box.Tag = kSettingBoxes[i].tag;
+    for (const SettingRow* row : setting::kSettingBoxes) {
+        if (!IsHere(row)) continue;
+        CheckBox& box = chkSettings.emplace_back(misc, kMiscBoxes.Cell(chkSettings.size()), row->caption);
+        box.Tag = row->name;
         box.onClick = edited;
     }
 }
 
 void OptionsPage::Show() {
-    for (size_t i = 0; i < kOptionGroups.size(); ++i) {
-        const int setting = OptionsSetting(profile_, kOptionGroups[i].setting, SettingMode::Index);
-        groups_[i]->Select(IndexOf(profile_.Options.Value(setting)));
-    }
-    txtMsgLines.SetText(profile_.Options.Value(kMessageHistorySize));
-    txtBounty.SetText(profile_.Options.Value(kTargetBounty));
-    txtMusicVolume.SetText(profile_.Options.Value(kMusicVolume));
-    txtMsgNameLen.SetText(profile_.Options.Value(kMessageNameLen));
+    for (size_t i = 0; i < setting::kOptionGroups.size(); ++i)
+        groups_[i]->Select(IndexOf(profile_.Value(*setting::kOptionGroups[i])));
+    for (size_t i = 0; i < setting::kNumbers.size(); ++i) numbers_[i]->SetText(profile_.Value(*setting::kNumbers[i]));
 }
 
 void OptionsPage::Collect() {
-    for (size_t i = 0; i < kOptionGroups.size(); ++i) {
-        std::string& value =
-            profile_.Options.Value(OptionsSetting(profile_, kOptionGroups[i].setting, SettingMode::Index));
+    for (size_t i = 0; i < setting::kOptionGroups.size(); ++i) {
+        std::string& value = profile_.Value(*setting::kOptionGroups[i]);
         value = SelectedValue(groups_[i]->Selected(), value);
     }
-    profile_.Options.Value(kMessageHistorySize) = txtMsgLines.Text();
-    profile_.Options.Value(kTargetBounty) = txtBounty.Text();
-    profile_.Options.Value(kMusicVolume) = txtMusicVolume.Text();
-    profile_.Options.Value(kMessageNameLen) = txtMsgNameLen.Text();
+    for (size_t i = 0; i < setting::kNumbers.size(); ++i) profile_.Value(*setting::kNumbers[i]) = numbers_[i]->Text();
 }
 
 }  // namespace quirn

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "mainwin/page.h"
 #include "profile/profile.h"
 
@@ -32,7 +34,11 @@ private:
     ControlArray<UpDown> UpDown_;
     ControlArray<CheckBox> chkSettings;
 
-    OptionGroup* const groups_[6] = {&optWeapon, &optStatus, &optEnergy, &optRadar, &optFont, &optSound};
+    // By the places of their settings.
+    static_assert(setting::kNumbers.size() == 4 && setting::kOptionGroups.size() == 6, "the page has no more room");
+    std::array<TextBox*, setting::kNumbers.size()> numbers_{&txtMsgNameLen, &txtMusicVolume, &txtMsgLines, &txtBounty};
+    std::array<OptionGroup*, setting::kOptionGroups.size()> groups_{&optWeapon, &optStatus, &optEnergy,
+                                                                    &optRadar,  &optFont,   &optSound};
 };
 
 }  // namespace quirn

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "profile/settingtable.h"
+
 namespace quirn {
 
 // What the game folder or a wave file holds when it is not configured. A game folder is tested for it letter by letter,
@@ -26,16 +28,19 @@ struct Section {
 };
 
 // Indexes of the settings that the program treats one by one.
-// clang-format off
-inline constexpr int kPlayerName = 1, kPlayerPassword = 2, kServerName = 3, kServerPort = 4, kServerArena = 5,
-                     kProxyIP = 6, kPlayerShipType = 7;                                           // Dialog
-inline constexpr int kMacroCount = 16;  // ShiftF1..ShiftF8, RShiftF1..RShiftF8 from index 1         Messages
-inline constexpr int kChatName = 17;                                                              // Messages
-inline constexpr int kResolutionX = 9, kResolutionY = 10, kMessageHistorySize = 13, kTargetBounty = 14,
-                     kMusicVolume = 37, kMessageNameLen = 38;                                     // Options
-inline constexpr int kSkipSplash = 1, kGammaPercent = 2;                                          // Advanced
-inline constexpr int kForce60 = 1, kShowFrameRate = 2, kFlickSystemMemory = 3;                    // HiddenOptions
-// clang-format on
+inline constexpr int kPlayerName = setting::IndexOf(setting::Find(setting::Group::Dialog, "PlayerName"));
+inline constexpr int kPlayerPassword = setting::IndexOf(setting::Find(setting::Group::Dialog, "PlayerPassword"));
+inline constexpr int kServerName = setting::IndexOf(setting::Find(setting::Group::Dialog, "ServerName"));
+inline constexpr int kServerPort = setting::IndexOf(setting::Find(setting::Group::Dialog, "ServerPort"));
+inline constexpr int kServerArena = setting::IndexOf(setting::Find(setting::Group::Dialog, "ServerArena"));
+inline constexpr int kProxyIP = setting::IndexOf(setting::Find(setting::Group::Dialog, "ProxyIP"));
+inline constexpr int kPlayerShipType = setting::IndexOf(setting::Find(setting::Group::Dialog, "PlayerShipType"));
+inline constexpr int kChatName = setting::IndexOf(setting::Find(setting::Group::Messages, "ChatName"));
+inline constexpr int kResolutionX = setting::IndexOf(setting::Find(setting::Group::Options, "ResolutionX"));
+inline constexpr int kResolutionY = setting::IndexOf(setting::Find(setting::Group::Options, "ResolutionY"));
+inline constexpr int kSkipSplash = setting::IndexOf(setting::Find(setting::Group::Advanced, "SkipSplash"));
+inline constexpr int kGammaPercent = setting::IndexOf(setting::Find(setting::Group::Advanced, "GammaPercent"));
+inline constexpr int kMacroCount = 16;  // ShiftF1..ShiftF8, RShiftF1..RShiftF8, in Messages from index 1
 
 // The settings catalogue and the current profile in one record.
 struct Profile {
@@ -44,9 +49,21 @@ struct Profile {
     std::vector<std::string> IgnoreList;                     // player names; Ignore1 of a QRN file is element 0
     bool ignoreFileUnread = false;  // the game's file could not be read: an empty list does not mean an empty file
 
-    // All five in catalogue order.
-    std::array<Section*, 5> Sections() { return {&Dialog, &Messages, &Options, &Advanced, &HiddenOptions}; }
-    std::array<const Section*, 5> Sections() const { return {&Dialog, &Messages, &Options, &Advanced, &HiddenOptions}; }
+    static constexpr size_t kSections = setting::kGroupNames.size();
+
+    // All of them in catalogue order.
+    std::array<Section*, kSections> Sections() { return {&Dialog, &Messages, &Options, &Advanced, &HiddenOptions}; }
+    std::array<const Section*, kSections> Sections() const {
+        return {&Dialog, &Messages, &Options, &Advanced, &HiddenOptions};
+    }
+
+    // Of a row of the table.
+    std::string& Value(const SettingRow& row) {
+        return Sections()[static_cast<size_t>(row.group)]->Value(setting::IndexOf(row));
+    }
+    const std::string& Value(const SettingRow& row) const {
+        return Sections()[static_cast<size_t>(row.group)]->Value(setting::IndexOf(row));
+    }
 };
 
 // Fills the names and types of all five sections and leaves the values empty.

@@ -21,16 +21,10 @@ AdvancedStates Decoded(std::string_view code, int before = 0) {
     return states;
 }
 
-TEST(ConfigCodeTest, SwitchesAreTheAdvancedSettings) {
-    const Section advanced = test::EmptyProfile().Advanced;
-    for (int i = 1; i <= advanced.Count(); ++i) {
-        const auto count = std::count_if(kAdvancedSwitches.begin(), kAdvancedSwitches.end(),
-                                         [&](const auto& box) { return box.name == advanced.Name(i); });
-        EXPECT_EQ(count, i == kGammaPercent ? 0 : 1) << advanced.Name(i);
-    }
-    EXPECT_EQ(kAdvancedSwitches[0].Tag(), "A3:SystemFont");
-    EXPECT_EQ(kAdvancedSwitches[kSkipSplashBox].Tag(), "xx:SkipSplash");
-    EXPECT_EQ(kAdvancedSwitches[54].Tag(), "A4:TripleBuffer");
+TEST(ConfigCodeTest, BoxesCarryCellAndName) {
+    EXPECT_EQ(AdvancedTag(*setting::kAdvancedSwitches[0]), "A3:SystemFont");
+    EXPECT_EQ(AdvancedTag(*setting::kAdvancedSwitches[kSkipSplashBox]), "xx:SkipSplash");
+    EXPECT_EQ(AdvancedTag(*setting::kAdvancedSwitches[54]), "A4:TripleBuffer");
 }
 
 TEST(ConfigCodeTest, PacksRowsIntoSymbols) {

@@ -1,44 +1,11 @@
 #include "mainwin/bindingtables.h"
 
-#include <set>
-
 #include "tests/testing/profiles.h"
 
 namespace quirn {
 namespace {
 
 using namespace test;
-
-TEST(BindingTest, TablesNameSettingsOfTheCatalogueOnce) {
-    const Profile profile = EmptyProfile();
-    std::set<std::string> names{"ResolutionX",  "ResolutionY", "MessageHistorySize",
-                                "TargetBounty", "MusicVolume", "MessageNameLen"};
-    for (const SettingBox& box : kSettingBoxes) EXPECT_TRUE(names.insert(box.tag).second) << box.tag;
-    for (const OptionGroupRow& group : kOptionGroups) EXPECT_TRUE(names.insert(group.setting).second) << group.setting;
-    for (const std::string& name : names) EXPECT_GT(OptionsSetting(profile, name, SettingMode::Index), 0) << name;
-    EXPECT_EQ(names.size(), static_cast<size_t>(profile.Options.Count()));
-
-    const struct {
-        const Section& section;
-        int index;
-        const char* name;
-    } rows[] = {{profile.Dialog, kServerName, "ServerName"},
-                {profile.Dialog, kServerPort, "ServerPort"},
-                {profile.Dialog, kServerArena, "ServerArena"},
-                {profile.Dialog, kProxyIP, "ProxyIP"},
-                {profile.Dialog, kPlayerShipType, "PlayerShipType"},
-                {profile.Messages, kChatName, "ChatName"},
-                {profile.Options, kResolutionX, "ResolutionX"},
-                {profile.Options, kResolutionY, "ResolutionY"},
-                {profile.Options, kMessageHistorySize, "MessageHistorySize"},
-                {profile.Options, kTargetBounty, "TargetBounty"},
-                {profile.Options, kMusicVolume, "MusicVolume"},
-                {profile.Options, kMessageNameLen, "MessageNameLen"},
-                {profile.HiddenOptions, kForce60, "Force60"},
-                {profile.HiddenOptions, kShowFrameRate, "ShowFrameRate"},
-                {profile.HiddenOptions, kFlickSystemMemory, "FlickSystemMemory"}};
-    for (const auto& row : rows) EXPECT_EQ(row.section.Name(row.index), row.name);
-}
 
 TEST(BindingTest, LooksSettingsUpByName) {
     Profile profile = EmptyProfile();
@@ -65,7 +32,7 @@ TEST(BindingTest, ResolutionsFollowTheWidth) {
     std::string height = "2";
     SplitResolution("", width, height);
     EXPECT_EQ(width + height, "12");
-    SplitResolution(kResolutions[3], width, height);
+    SplitResolution(setting::kResolutions[3], width, height);
     EXPECT_EQ(width, "1152");
     EXPECT_EQ(height, "864");
 }

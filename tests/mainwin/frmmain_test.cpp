@@ -52,13 +52,12 @@ public:
         profile.Dialog.Value(kServerPort) = listed ? "6000" : Text();
         profile.Dialog.Value(kProxyIP) = Number(2) == 0 ? "" : Text() + "." + Text() + "." + Text();
         profile.Dialog.Value(kPlayerShipType) = std::to_string(Number(12));  // some are in no list
-        SplitResolution(kResolutions[Number(kResolutions.size())], profile.Options.Value(kResolutionX),
-                        profile.Options.Value(kResolutionY));
-        for (const OptionGroupRow& group : kOptionGroups)
-            profile.Options.Value(OptionsSetting(profile, group.setting, SettingMode::Index)) =
-                std::to_string(Number(5));  // some groups have fewer buttons
-        for (const int free : {kMessageHistorySize, kTargetBounty, kMusicVolume, kMessageNameLen})
-            profile.Options.Value(free) = Number(3) == 0 ? Text() : std::to_string(Number(70000));
+        SplitResolution(setting::kResolutions[Number(std::size(setting::kResolutions))],
+                        profile.Options.Value(kResolutionX), profile.Options.Value(kResolutionY));
+        for (const SettingRow* group : setting::kOptionGroups)
+            profile.Value(*group) = std::to_string(Number(5));  // some groups have fewer buttons
+        for (const SettingRow* free : setting::kNumbers)
+            profile.Value(*free) = Number(3) == 0 ? Text() : std::to_string(Number(70000));
         profile.Advanced.Value(kGammaPercent) = std::to_string(1 + Number(500));
         profile.WaveFiles = {Text(), kNotSet};
         profile.IgnoreList.resize(Number(10));
