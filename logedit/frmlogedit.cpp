@@ -143,12 +143,12 @@ bool frmLogEdit::Form_KeyDown(int key, bool control) {
         else FindInLog(edit_.lastSearch);
         return true;
     }
-    const Control* active = ActiveControl();
-    if (active == nullptr || active->Kind() != ControlKind::VirtualList) return false;
+    auto* const list = dynamic_cast<VirtualList*>(ActiveControl());
+    if (list == nullptr) return false;
     if (!control && key == kKeyDelete && lstLog.HasFocus()) {
         mnuLogEditPopup_Delete_Click();
     } else if (control && key == 'A') {
-        static_cast<VirtualList&>(*ActiveControl()).SelectAll();
+        list->SelectAll();
     } else if (control && key == 'C') {
         CopySelected();
     } else {

@@ -6,7 +6,7 @@
 
 namespace quirn {
 
-Control::Control(Parent parent, ControlKind kind, const Bounds& place, const std::string& text)
+Control::Control(Parent parent, const native::Kind& kind, const Bounds& place, const std::string& text)
     : text_(text), container_(parent.container), frame_(parent.frame), kind_(kind), place_(place) {
     if (frame_ != nullptr) place_ = place.MovedBy(frame_->place_.left, frame_->place_.top);
     container_->controls_.push_back(this);
@@ -22,21 +22,17 @@ void Control::Changed(Aspect aspect) {
     if (window != nullptr) native::ControlChanged(*this, aspect);
 }
 
+const std::vector<TabPage*>& Control::Pages() const {
+    static const std::vector<TabPage*> none;
+    return none;
+}
+
 bool Control::HasFocus() const {
     return container_->Owner().ActiveControl() == this;
 }
 
 bool Control::CanFocus() const {
-    switch (kind_) {
-        case ControlKind::Label:
-        case ControlKind::Picture:
-        case ControlKind::Frame:
-        case ControlKind::ProgressBar:
-        case ControlKind::UpDown:
-        case ControlKind::StatusBar: return false;
-        default: break;
-    }
-    if (!enabled_ || !visible_) return false;
+    if (!TakesFocus() || !enabled_ || !visible_) return false;
     const TabPage* page = PageOf(*container_);
     return page == nullptr || page->IsInFront();
 }
@@ -68,7 +64,6 @@ void Control::Move(const Bounds& place) {
     const int down = place.top - place_.top;
     place_ = place;
     Changed(Aspect::Place);
-    if (kind_ != ControlKind::Frame) return;
     for (Control* inside : container_->controls_)
         if (inside->frame_ == this) inside->Move(inside->place_.MovedBy(right, down));
 }

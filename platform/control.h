@@ -55,27 +55,14 @@ struct Font {
 
 class Control;
 class Form;
+class TabPage;
 
 // The parts of a control's (or form's) state that its window has to be told about.
 enum class Aspect { Text, Enabled, Visible, Place, Colors, Font, Value, Items, Selection, ToolTip };
 
-enum class ControlKind {
-    Label,
-    Picture,
-    Button,
-    CheckBox,
-    OptionButton,
-    TextBox,
-    MaskedBox,
-    ComboBox,
-    ListBox,
-    VirtualList,
-    ProgressBar,
-    Frame,
-    TabStrip,
-    UpDown,
-    StatusBar,
-};
+namespace native {
+struct Kind;  // how the back end makes and serves the windows of one kind of control
+}
 
 // A window that holds the windows of controls: a form or a page of a tab strip. Creation order is tab order.
 class Container {
@@ -114,7 +101,7 @@ public:
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
 
-    ControlKind Kind() const { return kind_; }
+    const native::Kind& Kind() const { return kind_; }
     Container& Holder() const { return *container_; }
     const std::string& Text() const { return text_; }
     bool Enabled() const { return enabled_; }
@@ -152,9 +139,17 @@ public:
     // For the back end.
     void UserFocuses(bool focused);
 
+    // What the kinds do differently for their form.
+    virtual bool TakesFocus() const { return true; }
+    virtual bool KeepsKey(int) const { return false; }     // by its virtual code: not the form's while it has the focus
+    virtual bool UserPressesEnter() { return false; }      // false: the key is the default button's
+    virtual bool UserPressesAccessKey() { return false; }  // false: the "&" in its text marks none
+    virtual bool UserTurns(int) { return false; }          // to another page; false: it has none
+    virtual const std::vector<TabPage*>& Pages() const;    // none, but those of a tab strip
+
 protected:
-    Control(Parent parent, ControlKind kind, const Bounds& place, const std::string& text);
-    ~Control();  // with its window, when it has one
+    Control(Parent parent, const native::Kind& kind, const Bounds& place, const std::string& text);
+    virtual ~Control();  // with its window, when it has one
 
     void Changed(Aspect aspect);
     std::string text_;
@@ -162,7 +157,7 @@ protected:
 private:
     Container* container_;
     const Control* frame_;
-    ControlKind kind_;
+    const native::Kind& kind_;
     Bounds place_;
     bool enabled_ = true;
     bool visible_ = true;

@@ -20,6 +20,10 @@ bool Ask(const std::function<bool(Key)>& handler, Key key) {
     return swallowed;
 }
 
+bool IsEnterOrEscape(int key) {
+    return key == kKeyEnter || key == kKeyEscape;
+}
+
 int IndexIn(const std::vector<std::string>& items, int index) {
     return index >= 0 && index < static_cast<int>(items.size()) ? index : -1;
 }
@@ -30,10 +34,10 @@ Label::Label(Parent parent, const Bounds& place, const std::string& text, Alignm
     : Label(parent, place, text, alignment, false) {}
 
 Label::Label(Parent parent, const Bounds& place, const std::string& text, Alignment alignment, bool showsData)
-    : Control(parent, ControlKind::Label, place, text), alignment_(alignment), showsData_(showsData) {}
+    : Control(parent, native::kLabel, place, text), alignment_(alignment), showsData_(showsData) {}
 
 Picture::Picture(Parent parent, const Bounds& place, int resource)
-    : Control(parent, ControlKind::Picture, place, {}), resource_(resource) {}
+    : Control(parent, native::kPicture, place, {}), resource_(resource) {}
 
 void Label::UserClicks() {
     CallHandler(onClick);
@@ -43,26 +47,47 @@ void Label::UserDoubleClicks() {
     CallHandler(onDoubleClick ? onDoubleClick : onClick);
 }
 
+// A text and a frame name what comes after them.
+bool Label::UserPressesAccessKey() {
+    if (!showsData_) Holder().Owner().FocusNext(this);
+    return !showsData_;
+}
+
+bool Frame::UserPressesAccessKey() {
+    Holder().Owner().FocusNext(this);
+    return true;
+}
+
 void Picture::UserClicks() {
     CallHandler(onClick);
 }
 
 Frame::Frame(Parent parent, const Bounds& place, const std::string& caption, FrameStyle style)
-    : Control(parent, ControlKind::Frame, place, caption), style_(style) {}
+    : Control(parent, native::kFrame, place, caption), style_(style) {}
 
 Frame::operator Parent() const {
     return {Holder(), this};
 }
 
 Button::Button(Parent parent, const Bounds& place, const std::string& caption)
-    : Control(parent, ControlKind::Button, place, caption) {}
+    : Control(parent, native::kButton, place, caption) {}
 
 void Button::UserClicks() {
     if (Enabled()) CallHandler(onClick);
 }
 
+bool Button::UserPressesEnter() {
+    UserClicks();
+    return true;
+}
+
+bool Button::UserPressesAccessKey() {
+    UserClicks();
+    return true;
+}
+
 CheckBox::CheckBox(Parent parent, const Bounds& place, const std::string& caption)
-    : Control(parent, ControlKind::CheckBox, place, caption) {}
+    : Control(parent, native::kCheckBox, place, caption) {}
 
 void CheckBox::SetValue(int value) {
     value_ = value != 0 ? 1 : 0;
@@ -76,8 +101,14 @@ void CheckBox::UserClicks() {
     CallHandler(onMouseUp);
 }
 
+bool CheckBox::UserPressesAccessKey() {
+    SetFocus();
+    UserClicks();
+    return true;
+}
+
 OptionButton::OptionButton(Parent parent, OptionGroup& group, const Bounds& place, const std::string& caption)
-    : Control(parent, ControlKind::OptionButton, place, caption),
+    : Control(parent, native::kOptionButton, place, caption),
       group_(&group),
       index_(static_cast<int>(group.buttons_.size())) {
     group.buttons_.push_back(this);
@@ -89,13 +120,19 @@ void OptionButton::UserClicks() {
     CallHandler(group_->onClick);
 }
 
+bool OptionButton::UserPressesAccessKey() {
+    SetFocus();
+    UserClicks();
+    return true;
+}
+
 void OptionGroup::Select(int index) {
     selected_ = index >= 0 && index < static_cast<int>(buttons_.size()) ? index : -1;
     for (OptionButton* button : buttons_) button->Changed(Aspect::Value);
 }
 
 TextBox::TextBox(Parent parent, const Bounds& place, const std::string& text, TextStyle style)
-    : Control(parent, ControlKind::TextBox, place, text), style_(style) {}
+    : Control(parent, native::kTextBox, place, text), style_(style) {}
 
 void TextBox::SetMasked(bool masked) {
     masked_ = masked;
@@ -125,7 +162,15 @@ bool TextBox::UserTypes(char character) {
     return Ask(onKeyPress, character);
 }
 
-ComboBox::ComboBox(Parent parent, const Bounds& place) : Control(parent, ControlKind::ComboBox, place, {}) {}
+bool TextBox::UserPressesEnter() {
+    return UserTypes(static_cast<char>(kKeyEnter));
+}
+
+bool TextBox::KeepsKey(int key) const {
+    return key == kKeyDelete;
+}
+
+ComboBox::ComboBox(Parent parent, const Bounds& place) : Control(parent, native::kComboBox, place, {}) {}
 
 void ComboBox::SetItems(std::vector<std::string> items) {
     items_ = std::move(items);
@@ -152,8 +197,13 @@ void ComboBox::UserHighlights(int index) {
     if (onHighlight) CallHandler([&] { onHighlight(IndexIn(items_, index)); });
 }
 
+// They close the open list.
+bool ComboBox::KeepsKey(int key) const {
+    return IsEnterOrEscape(key) && window != nullptr && native::IsOpen(*this);
+}
+
 ListBox::ListBox(Parent parent, const Bounds& place, ListStyle style)
-    : Control(parent, ControlKind::ListBox, place, {}), style_(style) {}
+    : Control(parent, native::kListBox, place, {}), style_(style) {}
 
 void ListBox::SetItems(std::vector<std::string> items) {
     items_ = std::move(items);
@@ -232,6 +282,10 @@ bool ListBox::UserTypes(char character) {
     return Ask(onKeyPress, character);
 }
 
+bool ListBox::KeepsKey(int key) const {
+    return IsEnterOrEscape(key) && onKeyPress;
+}
+
 // The strip's own border and its one row of tabs; win32/ gives the tabs this height.
 constexpr int kTabBorder = 30;
 
@@ -248,7 +302,7 @@ TabPage* PageOf(Container& container) {
     return &container == &container.Owner() ? nullptr : static_cast<TabPage*>(&container);
 }
 
-TabStrip::TabStrip(Parent parent, const Bounds& place) : Control(parent, ControlKind::TabStrip, place, {}) {}
+TabStrip::TabStrip(Parent parent, const Bounds& place) : Control(parent, native::kTabStrip, place, {}) {}
 
 Bounds TabStrip::PageArea() const {
     const Bounds& place = Place();
@@ -276,9 +330,10 @@ void TabStrip::UserTurnsTo(int index) {
     if (tab_ != before) CallHandler(onClick);
 }
 
-void TabStrip::UserTurns(int steps) {
+bool TabStrip::UserTurns(int steps) {
     const int count = static_cast<int>(pages_.size());
     if (count > 0 && Enabled()) UserTurnsTo(((tab_ + steps) % count + count) % count);
+    return true;
 }
 
 namespace {
@@ -288,7 +343,7 @@ constexpr int kUpDownWidth = 255;
 }  // namespace
 
 UpDown::UpDown(Parent parent, TextBox& buddy, int minimum, int maximum)
-    : Control(parent, ControlKind::UpDown, {}, {}), buddy_(&buddy), minimum_(minimum), maximum_(maximum) {
+    : Control(parent, native::kUpDown, {}, {}), buddy_(&buddy), minimum_(minimum), maximum_(maximum) {
     Move({buddy.Place().Right(), buddy.Place().top, kUpDownWidth, buddy.Place().height});
 }
 
@@ -298,7 +353,7 @@ void UpDown::UserSpins(int steps) {
     buddy_->UserEdits(std::to_string(static_cast<int>(value)));
 }
 
-ProgressBar::ProgressBar(Parent parent, const Bounds& place) : Control(parent, ControlKind::ProgressBar, place, {}) {}
+ProgressBar::ProgressBar(Parent parent, const Bounds& place) : Control(parent, native::kProgressBar, place, {}) {}
 
 int ProgressBar::Step() const {
     const double part = static_cast<double>(std::min(value_, maximum_)) / static_cast<double>(maximum_);
@@ -317,7 +372,7 @@ void ProgressBar::SetValue(uint64_t value) {
 }
 
 StatusBar::StatusBar(Form& form, int secondPanelWidth)
-    : Control(form, ControlKind::StatusBar, {}, {}), secondPanelWidth_(secondPanelWidth) {}
+    : Control(form, native::kStatusBar, {}, {}), secondPanelWidth_(secondPanelWidth) {}
 
 void StatusBar::SetSecondText(const std::string& text) {
     if (text == secondText_) return;

@@ -32,6 +32,8 @@ public:
 
     void UserClicks();
     void UserDoubleClicks();
+    bool TakesFocus() const override { return false; }
+    bool UserPressesAccessKey() override;
 
 private:
     Alignment alignment_;
@@ -48,6 +50,7 @@ public:
     std::function<void()> onClick;  // the left mouse button; set before the picture has a window
 
     void UserClicks();
+    bool TakesFocus() const override { return false; }
 
 private:
     int resource_;
@@ -60,6 +63,8 @@ public:
     std::function<void()> onClick;
 
     void UserClicks();
+    bool UserPressesEnter() override;
+    bool UserPressesAccessKey() override;
 };
 
 class CheckBox : public Control {
@@ -73,6 +78,7 @@ public:
     std::function<void()> onMouseUp;  // after onClick, when it was the mouse or a key that changed the value
 
     void UserClicks();  // changes the value
+    bool UserPressesAccessKey() override;
 
 private:
     int value_ = 0;
@@ -89,6 +95,7 @@ public:
     int Index() const { return index_; }  // in its group
 
     void UserClicks();
+    bool UserPressesAccessKey() override;
 
 private:
     friend class OptionGroup;
@@ -136,6 +143,8 @@ public:
 
     void UserEdits(const std::string& text);
     bool UserTypes(char character);  // false: the window's own handling goes on
+    bool UserPressesEnter() override;
+    bool KeepsKey(int key) const override;
 
 private:
     TextStyle style_;
@@ -167,6 +176,7 @@ public:
     size_t UserPastes(std::string_view text, size_t caret, size_t selectionEnd = 0);  // without blanks and line ends
     size_t UserClears(size_t from, size_t to);                                        // removes a selection
     void UserEdits(const std::string& text);  // the window's text after any other edit
+    bool KeepsKey(int key) const override;
 
 private:
     std::string EmptyText() const;
@@ -193,6 +203,7 @@ public:
 
     void UserSelects(int index);
     void UserHighlights(int index);
+    bool KeepsKey(int key) const override;
 
 private:
     std::vector<std::string> items_;
@@ -227,6 +238,7 @@ public:
     void UserReleasesMouse();
     bool UserPressesKey(int virtualKey);
     bool UserTypes(char character);
+    bool KeepsKey(int key) const override;
 
 private:
     ListStyle style_;
@@ -248,6 +260,9 @@ public:
 
     operator Parent() const;  // so that controls can be put into it
 
+    bool TakesFocus() const override { return false; }
+    bool UserPressesAccessKey() override;
+
 private:
     FrameStyle style_;
 };
@@ -263,6 +278,8 @@ public:
     int Step() const;                 // of kSteps: what the picture shows
     void SetRange(uint64_t maximum);  // from 0; 0 counts as 1. The value is 0 then
     void SetValue(uint64_t value);
+
+    bool TakesFocus() const override { return false; }
 
 private:
     uint64_t maximum_ = 1;
@@ -294,7 +311,7 @@ public:
 
     TabStrip(Parent parent, const Bounds& place);
 
-    const std::vector<TabPage*>& Pages() const { return pages_; }
+    const std::vector<TabPage*>& Pages() const override { return pages_; }
     int Tab() const { return tab_; }
     void SetTab(int index);
     Bounds PageArea() const;  // inside the strip, in its container's coordinates
@@ -302,7 +319,7 @@ public:
     std::function<void()> onClick;  // the player has turned to another page
 
     void UserTurnsTo(int index);
-    void UserTurns(int steps);  // Ctrl+Tab 1, Ctrl+Shift+Tab -1; round the end
+    bool UserTurns(int steps) override;  // Ctrl+Tab 1, Ctrl+Shift+Tab -1; round the end
 
 private:
     friend class TabPage;
@@ -319,6 +336,7 @@ public:
     TextBox& Buddy() const { return *buddy_; }
 
     void UserSpins(int steps);  // edits the text box as the player would
+    bool TakesFocus() const override { return false; }
 
 private:
     TextBox* buddy_;
@@ -336,6 +354,8 @@ public:
     int SecondPanelWidth() const { return secondPanelWidth_; }
     const std::string& SecondText() const { return secondText_; }
     void SetSecondText(const std::string& text);
+
+    bool TakesFocus() const override { return false; }
 
 private:
     int secondPanelWidth_;

@@ -159,13 +159,8 @@ void Form::UserTypes(char character) {
 }
 
 void Form::UserPressesEnter() {
-    // A box of text may want the key for itself.
-    if (active_ != nullptr && active_->Kind() == ControlKind::TextBox &&
-        static_cast<TextBox*>(active_)->UserTypes(static_cast<char>(kKeyEnter)))
-        return;
-    const bool onButton = active_ != nullptr && active_->Kind() == ControlKind::Button;
-    Button* const button = onButton ? static_cast<Button*>(active_) : defaultButton_;
-    if (button != nullptr && button->Visible()) button->UserClicks();
+    if (active_ != nullptr && active_->Visible() && active_->UserPressesEnter()) return;
+    if (defaultButton_ != nullptr && defaultButton_->Visible()) defaultButton_->UserClicks();
 }
 
 void Form::UserPressesEscape() {
@@ -183,38 +178,18 @@ bool Form::UserPressesShortcut(KeyStroke key) {
 }
 
 bool Form::UserPressesAccessKey(char key) {
-    for (Control* control : TabOrder()) {
-        const bool data = control->Kind() == ControlKind::Label && static_cast<const Label*>(control)->ShowsData();
+    const std::vector<Control*> order = TabOrder();
+    return std::any_of(order.begin(), order.end(), [&](Control* control) {
         const TabPage* page = PageOf(control->Holder());
-        if (data || !control->Visible() || !control->Enabled() || (page != nullptr && !page->IsInFront()) ||
-            !HasAccessKey(*control, key))
-            continue;
-        switch (control->Kind()) {
-            case ControlKind::Label:
-            case ControlKind::Frame: FocusNext(control); return true;
-            case ControlKind::Button: static_cast<Button*>(control)->UserClicks(); return true;
-            case ControlKind::CheckBox:
-                control->SetFocus();
-                static_cast<CheckBox*>(control)->UserClicks();
-                return true;
-            case ControlKind::OptionButton:
-                control->SetFocus();
-                static_cast<OptionButton*>(control)->UserClicks();
-                return true;
-            default: break;
-        }
-    }
-    return false;
+        return control->Visible() && control->Enabled() && (page == nullptr || page->IsInFront()) &&
+               HasAccessKey(*control, key) && control->UserPressesAccessKey();
+    });
 }
 
 bool Form::UserTurnsPage(int steps) {
     if (minimized_) return false;  // the focus could not follow
-    for (Control* control : Controls()) {
-        if (control->Kind() != ControlKind::TabStrip || !control->Visible()) continue;
-        static_cast<TabStrip*>(control)->UserTurns(steps);
-        return true;
-    }
-    return false;
+    const auto& all = Controls();
+    return std::any_of(all.begin(), all.end(), [&](Control* c) { return c->Visible() && c->UserTurns(steps); });
 }
 
 void Form::WindowResized() {
@@ -225,9 +200,8 @@ void Form::WindowResized() {
 std::vector<Control*> Form::TabOrder() const {
     std::vector<Control*> order;
     for (Control* control : Controls()) {
-        if (control->Kind() == ControlKind::TabStrip)
-            for (const TabPage* page : static_cast<TabStrip*>(control)->Pages())
-                order.insert(order.end(), page->Controls().begin(), page->Controls().end());
+        for (const TabPage* page : control->Pages())
+            order.insert(order.end(), page->Controls().begin(), page->Controls().end());
         order.push_back(control);
     }
     return order;

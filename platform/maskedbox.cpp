@@ -2,6 +2,7 @@
 
 #include "platform/controls.h"
 #include "platform/form.h"
+#include "platform/native.h"
 
 // The rules of masked typing.
 namespace quirn {
@@ -21,7 +22,7 @@ bool Accepts(char maskCharacter, char character) {
 }  // namespace
 
 MaskedBox::MaskedBox(Parent parent, const Bounds& place, const std::string& mask)
-    : Control(parent, ControlKind::MaskedBox, place, {}), mask_(mask) {
+    : Control(parent, native::kMaskedBox, place, {}), mask_(mask) {
     text_ = EmptyText();
 }
 
@@ -149,6 +150,10 @@ size_t MaskedBox::UserClears(size_t from, size_t to) {
         CallHandler(onChange);
     }
     return from;
+}
+
+bool MaskedBox::KeepsKey(int key) const {
+    return key == kKeyDelete;
 }
 
 void MaskedBox::UserEdits(const std::string& text) {

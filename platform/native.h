@@ -3,12 +3,17 @@
 #include "platform/control.h"
 #include "platform/controls.h"
 #include "platform/form.h"
+#include "platform/table.h"
 #include "platform/tray.h"
 #include "platform/virtuallist.h"
 
 // What the two back ends implement for forms, controls, menus and the tray. Only the portable part of platform/ calls
 // these. A form is loaded when they are called.
 namespace quirn::native {
+
+// One constant for each kind of control; what is in it is the back end's business.
+extern const Kind kLabel, kPicture, kFrame, kButton, kCheckBox, kOptionButton, kTextBox, kMaskedBox, kUpDown, kComboBox,
+    kListBox, kVirtualList, kTable, kTabStrip, kProgressBar, kStatusBar;
 
 // Makes a hidden, disabled window from the form's state; sets form.window. The windows of its controls come with the
 // first ShowForm, those of a page when it is first in front, that of a hidden control when it is first made visible.
@@ -29,8 +34,7 @@ template <class Visit>
 void ForEachControl(const Form& form, Visit visit) {
     for (Control* control : form.Controls()) {
         visit(*control);
-        if (control->Kind() != ControlKind::TabStrip) continue;
-        for (TabPage* page : static_cast<TabStrip*>(control)->Pages())
+        for (TabPage* page : control->Pages())
             for (Control* inPage : page->Controls()) visit(*inPage);
     }
 }
@@ -52,11 +56,14 @@ void FocusControl(Control& control);  // its form has been shown
 void SelectAll(TextBox& box);
 void PutCaretAtEnd(TextBox& box);
 int CaretLeft(const TextBox& box);
+bool IsOpen(const ComboBox& box);  // its list has dropped down
 
 // The window knows best what the player has selected and scrolled to; asked for only while there is a window.
 void ReadSelection(const VirtualList& list, ListSelection& selection);
 size_t TopIndex(const VirtualList& list);
 void SetTopIndex(VirtualList& list, size_t item);
+void ReadSelection(const Table& table, ListSelection& selection, std::optional<size_t>& current);
+void ScrollTo(Table& table, size_t row);
 
 void AddTrayIcon(TrayIcon& icon);
 void RemoveTrayIcon(TrayIcon& icon);

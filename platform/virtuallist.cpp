@@ -8,7 +8,7 @@
 namespace quirn {
 
 VirtualList::VirtualList(Parent parent, const Bounds& place, const std::string& nameForReaders)
-    : Control(parent, ControlKind::VirtualList, place, nameForReaders) {}
+    : Control(parent, native::kVirtualList, place, nameForReaders) {}
 
 const ListSelection& VirtualList::Selection() const {
     if (selectionIsOld_ && window != nullptr) native::ReadSelection(*this, selection_);

@@ -53,11 +53,11 @@ bool RunOne() {
 }
 
 // What a frame takes of a form, in twips.
-constexpr int kFrame = 90;
+constexpr int kBorders = 90;
 constexpr int kCaption = 285;
 constexpr int kMenu = 285;
 
-std::map<const VirtualList*, size_t> topIndexes;  // of lists that have been scrolled
+std::map<const Control*, size_t> topIndexes;  // of lists that have been scrolled
 
 // The last items fill the list: it scrolls no further.
 size_t HighestTop(const VirtualList& list) {
@@ -125,6 +125,11 @@ void RunEventLoop() {
 
 namespace native {
 
+// All kinds are alike here: what they do is in their portable part.
+struct Kind {};
+const Kind kLabel{}, kPicture{}, kFrame{}, kButton{}, kCheckBox{}, kOptionButton{}, kTextBox{}, kMaskedBox{}, kUpDown{},
+    kComboBox{}, kListBox{}, kVirtualList{}, kTable{}, kTabStrip{}, kProgressBar{}, kStatusBar{};
+
 void CreateForm(Form& form) {
     ++loadedForms;
     form.window = &form;
@@ -136,7 +141,7 @@ void DestroyForm(Form& form) {
     --loadedForms;
     form.window = nullptr;
     ForEachControl(form, [](Control& control) {
-        if (control.Kind() == ControlKind::VirtualList) topIndexes.erase(static_cast<VirtualList*>(&control));
+        topIndexes.erase(&control);
         control.window = nullptr;
         control.Holder().window = nullptr;
     });
@@ -177,7 +182,7 @@ void SetOwner(Form&, Form&) {}
 void KeepOnTop(Form&) {}
 
 Size InnerSize(const Form& form) {
-    const int frame = form.Border() == FormBorder::None ? 0 : kFrame;
+    const int frame = form.Border() == FormBorder::None ? 0 : kBorders;
     const int above = (form.Border() == FormBorder::None ? 0 : kCaption) + (form.MenuBar() != nullptr ? kMenu : 0);
     return {form.Place().width - frame, form.Place().height - frame - above};
 }
@@ -190,14 +195,12 @@ void PopUpMenu(Form&, Menu& menu, int defaultCommand) {
 
 void ControlChanged(Control& control, Aspect aspect) {
     if (aspect == Aspect::Visible) MakeWindow(control);
-    if (control.Kind() == ControlKind::VirtualList && aspect == Aspect::Items)
-        topIndexes[static_cast<VirtualList*>(&control)] = 0;
-    if (control.Kind() == ControlKind::TabStrip && aspect == Aspect::Value)
-        ForEachControl(control.Holder().Owner(), MakeWindow);
+    if (aspect == Aspect::Items) topIndexes.erase(&control);
+    if (!control.Pages().empty() && aspect == Aspect::Value) ForEachControl(control.Holder().Owner(), MakeWindow);
 }
 
 void DestroyControl(Control& control) {
-    if (control.Kind() == ControlKind::VirtualList) topIndexes.erase(static_cast<VirtualList*>(&control));
+    topIndexes.erase(&control);
     control.window = nullptr;
 }
 void FocusControl(Control& control) {
@@ -209,7 +212,13 @@ int CaretLeft(const TextBox&) {
     return 0;
 }
 
+bool IsOpen(const ComboBox&) {
+    return false;
+}
+
 void ReadSelection(const VirtualList&, ListSelection&) {}
+void ReadSelection(const Table&, ListSelection&, std::optional<size_t>&) {}
+void ScrollTo(Table&, size_t) {}
 
 size_t TopIndex(const VirtualList& list) {
     const auto found = topIndexes.find(&list);

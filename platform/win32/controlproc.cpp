@@ -1,144 +1,99 @@
 #include <windows.h>
 
-#include "platform/win32/window.h"
+#include "platform/win32/kind.h"
 
-// What this program does with messages to the windows of controls before their own procedures see them.
+// The messages of controls: those that their windows get, before their own procedures see them, and those that their
+// windows send to their form or page.
 namespace quirn::win32 {
 
 namespace {
 
 HWND takesFocus = nullptr;
 
-struct Message {
-    HWND window;
-    UINT message;
-    WPARAM wParam;
-    LPARAM lParam;
-};
-
-LRESULT Pass(WNDPROC original, const Message& m) {
-    return CallWindowProcA(original, m.window, m.message, m.wParam, m.lParam);
-}
-
-LRESULT Focus(Control& control, WNDPROC original, const Message& m) {
+LRESULT Focus(Control& control, const Message& m) {
     takesFocus = m.window;
-    const LRESULT result = Pass(original, m);
+    const LRESULT result = Pass(m);
     takesFocus = nullptr;
     if (ControlOf(m.window) == &control) control.UserFocuses(true);
     return result;
 }
 
-// The arrow keys select within the group. The dialog manager's way of doing it depends on how the system's buttons
-// treat the focus, which differs between versions.
-void MoveOption(OptionButton& option, int steps) {
-    const auto& buttons = option.Group().Buttons();
-    const int count = static_cast<int>(buttons.size());
-    for (int i = 1; i < count; ++i) {
-        OptionButton* next = buttons[static_cast<size_t>(((option.Index() + steps * i) % count + count) % count)];
-        if (!next->CanFocus()) continue;
-        next->UserClicks();
-        next->SetFocus();
-        return;
-    }
-}
-
-std::optional<LRESULT> OptionMessage(OptionButton& option, WNDPROC original, const Message& m) {
-    if (m.message == WM_GETDLGCODE) return Pass(original, m) | DLGC_WANTARROWS;
-    if (m.message != WM_KEYDOWN) return std::nullopt;
-    if (m.wParam == VK_RIGHT || m.wParam == VK_DOWN) MoveOption(option, 1);
-    else if (m.wParam == VK_LEFT || m.wParam == VK_UP) MoveOption(option, -1);
-    else return std::nullopt;
-    return 0;
-}
-
-std::optional<LRESULT> ListMessage(ListBox& list, WNDPROC original, const Message& m) {
-    switch (m.message) {
-        case WM_GETDLGCODE: return Pass(original, m) | DLGC_WANTARROWS | (list.onKeyPress ? DLGC_WANTCHARS : 0);
-        case WM_KEYDOWN:
-            if (list.UserPressesKey(static_cast<int>(m.wParam))) return 0;
-            break;
-        case WM_CHAR:
-            if (list.UserTypes(static_cast<char>(m.wParam))) return 0;
-            break;
-        case WM_LBUTTONUP:
-        case WM_MBUTTONUP:
-        case WM_RBUTTONUP: {
-            const LRESULT result = Pass(original, m);
-            if (ControlOf(m.window) == &list) list.UserReleasesMouse();
-            return result;
-        }
-        default: break;
-    }
-    return std::nullopt;
-}
-
-std::optional<LRESULT> KindMessage(Control& control, WNDPROC original, const Message& m) {
-    switch (control.Kind()) {
-        case ControlKind::OptionButton: return OptionMessage(static_cast<OptionButton&>(control), original, m);
-        case ControlKind::ListBox: return ListMessage(static_cast<ListBox&>(control), original, m);
-        case ControlKind::VirtualList:
-            return VirtualListMessage(static_cast<VirtualList&>(control), m.message, m.wParam, m.lParam);
-        case ControlKind::TextBox: return TextBoxMessage(static_cast<TextBox&>(control), m.message, m.wParam);
-        case ControlKind::MaskedBox: return MaskedBoxMessage(static_cast<MaskedBox&>(control), m.message, m.wParam);
-        case ControlKind::Label:
-            if (m.message != WM_SETCURSOR || !static_cast<Label&>(control).onClick) return std::nullopt;
-            SetCursor(LoadCursorA(nullptr, IDC_HAND));
-            return TRUE;
-        case ControlKind::ComboBox:
-            if (m.message == WM_CTLCOLORLISTBOX)
-                OpenListMoved(static_cast<ComboBox&>(control), reinterpret_cast<HWND>(m.lParam));
-            return std::nullopt;
-        default: return std::nullopt;
-    }
-}
-
-// One procedure for each kind, since each has another original; a window that is being destroyed has no control any
-// more but still needs its original.
-template <ControlKind kind>
-WNDPROC originalProc = nullptr;
-
-template <ControlKind kind>
 LRESULT CALLBACK ControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const Message m{window, message, wParam, lParam};
     Control* const control = ControlOf(window);
-    if (control == nullptr) return Pass(originalProc<kind>, m);
-    if (message == WM_SETFOCUS) return Focus(*control, originalProc<kind>, m);
+    if (control == nullptr) return Pass(m);  // it is being destroyed
+    if (message == WM_SETFOCUS) return Focus(*control, m);
     if (message == WM_MOUSEMOVE) PrepareToolTip(*control);
-    if (const auto result = KindMessage(*control, originalProc<kind>, m)) return *result;
-    return Pass(originalProc<kind>, m);
+    if (control->Kind().message != nullptr)
+        if (const auto result = control->Kind().message(*control, m)) return *result;
+    return Pass(m);
 }
 
-template <ControlKind kind>
-void SubclassAs(HWND window) {
-    // By hand and not by comctl32's subclassing: that one would make an ANSI window a Unicode one.
-    originalProc<kind> = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ControlProc<kind>)));
+std::optional<LRESULT> Notify(const NMHDR& header) {
+    Control* const control = ControlOf(header.hwndFrom);
+    if (control == nullptr || control->Kind().notify == nullptr) return std::nullopt;
+    return control->Kind().notify(*control, header);
+}
+
+void Command(HWND window, WORD code) {
+    Control* const control = ControlOf(window);
+    if (control != nullptr && control->Kind().command != nullptr) control->Kind().command(*control, code);
+}
+
+// The brush behind a control; nothing for the system's.
+std::optional<LRESULT> ColorsOf(const Form& form, HDC device, HWND window) {
+    const Control* control = ControlOf(window);
+    if (control == nullptr) return std::nullopt;
+    const bool onForm = &control->Holder() == &form;
+    const bool holdsTexts = control->Kind().holdsTexts;
+    std::optional<Color> own = control->BackColor();
+    if (!own && onForm && !holdsTexts) own = form.BackColor();
+    if (!own && !control->ForeColor()) return std::nullopt;
+    const Color back = own.value_or(GetSysColor(holdsTexts ? COLOR_WINDOW : COLOR_BTNFACE));
+    SetTextColor(device, control->ForeColor().value_or(GetSysColor(COLOR_WINDOWTEXT)));
+    SetBkColor(device, back);
+    SetDCBrushColor(device, back);
+    return reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));
+}
+
+std::optional<LRESULT> Draw(const DRAWITEMSTRUCT& item) {
+    Control* const control = ControlOf(item.hwndItem);
+    if (control == nullptr || control->Kind().draw == nullptr) return std::nullopt;
+    control->Kind().draw(*control, item);
+    return TRUE;
 }
 
 }  // namespace
+
+// The window's own procedure is its class's.
+LRESULT Pass(const Message& m) {
+    const auto original = reinterpret_cast<WNDPROC>(GetClassLongPtrA(m.window, GCLP_WNDPROC));
+    return CallWindowProcA(original, m.window, m.message, m.wParam, m.lParam);
+}
 
 bool FocusArrives(HWND window) {
     return takesFocus == window;
 }
 
-void Subclass(const Control& control) {
-    const HWND window = WindowOf(control);
-    switch (control.Kind()) {
-        case ControlKind::Button: SubclassAs<ControlKind::Button>(window); break;
-        case ControlKind::CheckBox: SubclassAs<ControlKind::CheckBox>(window); break;
-        case ControlKind::OptionButton: SubclassAs<ControlKind::OptionButton>(window); break;
-        case ControlKind::TextBox: SubclassAs<ControlKind::TextBox>(window); break;
-        case ControlKind::MaskedBox: SubclassAs<ControlKind::MaskedBox>(window); break;
-        case ControlKind::ComboBox: SubclassAs<ControlKind::ComboBox>(window); break;
-        case ControlKind::ListBox: SubclassAs<ControlKind::ListBox>(window); break;
-        case ControlKind::VirtualList: SubclassAs<ControlKind::VirtualList>(window); break;
-        case ControlKind::TabStrip: SubclassAs<ControlKind::TabStrip>(window); break;
-        case ControlKind::Label: {
-            const auto& label = static_cast<const Label&>(control);
-            if (label.ShowsData() || !label.ToolTip().empty() || label.onClick) SubclassAs<ControlKind::Label>(window);
-            break;
-        }
-        default: break;
+void Subclass(HWND window) {
+    // By hand and not by comctl32's subclassing: that one would make an ANSI window a Unicode one.
+    SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ControlProc));
+}
+
+std::optional<LRESULT> NotificationFromControl(Form& form, UINT message, WPARAM wParam, LPARAM lParam) {
+    const auto window = reinterpret_cast<HWND>(lParam);
+    switch (message) {
+        case WM_COMMAND:
+            if (window == nullptr) return std::nullopt;
+            if (!PostedOn(WindowOf(form), message, wParam, lParam)) Command(window, HIWORD(wParam));
+            return 0;
+        case WM_NOTIFY: return Notify(*reinterpret_cast<const NMHDR*>(lParam));
+        case WM_CTLCOLORSTATIC:
+        case WM_CTLCOLOREDIT:
+        case WM_CTLCOLORLISTBOX:
+        case WM_CTLCOLORBTN: return ColorsOf(form, reinterpret_cast<HDC>(wParam), window);
+        case WM_DRAWITEM: return Draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+        default: return std::nullopt;
     }
 }
 

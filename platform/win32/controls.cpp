@@ -4,90 +4,17 @@
 
 #include <algorithm>
 
-#include "platform/native.h"
+#include "platform/win32/kind.h"
 #include "platform/win32/metrics.h"
-#include "platform/win32/window.h"
 
-// Windows for controls: class and styles by kind, place, font.
+// Windows for controls, and the windows up to the state of their controls: what is the same for all kinds.
 namespace quirn {
 
 namespace win32 {
 
 namespace {
 
-struct Look {
-    const char* className;
-    DWORD style;
-    DWORD extendedStyle = 0;
-    DWORD commonClass = 0;  // to be registered before the first use
-};
-
-DWORD LabelStyle(const Label& label) {
-    DWORD style = label.ShowsData() ? SS_NOPREFIX | SS_ENDELLIPSIS : 0;
-    // A label that shows data may get a tool tip at any time.
-    if (label.ShowsData() || !label.ToolTip().empty() || label.onClick) style |= SS_NOTIFY;
-    switch (label.AlignmentUsed()) {
-        case Alignment::Left: return style | SS_LEFT;
-        case Alignment::Center: return style | SS_CENTER;
-        case Alignment::Right: return style | SS_RIGHT;
-    }
-    return style;
-}
-
-bool IsPanel(const Control& control) {
-    return control.Kind() == ControlKind::Frame && static_cast<const Frame&>(control).Style() == FrameStyle::Panel;
-}
-
-bool IsBox(const Control& control) {
-    return control.Kind() == ControlKind::Frame && !IsPanel(control);
-}
-
-Look LookOf(const Control& control) {
-    const Form& form = control.Holder().Owner();
-    switch (control.Kind()) {
-        case ControlKind::Label: return {"STATIC", LabelStyle(static_cast<const Label&>(control))};
-        case ControlKind::Picture:
-            return {"STATIC",
-                    SS_OWNERDRAW | static_cast<DWORD>(static_cast<const Picture&>(control).onClick ? SS_NOTIFY : 0)};
-        case ControlKind::Button:
-            return {"BUTTON", WS_TABSTOP | static_cast<DWORD>(&control == form.DefaultButton() ? BS_DEFPUSHBUTTON
-                                                                                               : BS_PUSHBUTTON)};
-        // Neither changes by itself when clicked: the control's state does, and the window follows.
-        case ControlKind::CheckBox: return {"BUTTON", WS_TABSTOP | BS_CHECKBOX};
-        case ControlKind::OptionButton: return {"BUTTON", BS_RADIOBUTTON};
-        case ControlKind::TextBox:
-            if (static_cast<const TextBox&>(control).Style() == TextStyle::ReadPage)
-                return {
-                    "EDIT",
-                    WS_TABSTOP | WS_VSCROLL | WS_HSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | ES_AUTOHSCROLL,
-                    WS_EX_CLIENTEDGE};
-            [[fallthrough]];
-        case ControlKind::MaskedBox: return {"EDIT", WS_TABSTOP | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE};
-        case ControlKind::ComboBox: return {"COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST};
-        case ControlKind::ListBox: {
-            const bool extended = static_cast<const ListBox&>(control).Style() == ListStyle::Extended;
-            return {"LISTBOX",
-                    WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT |
-                        static_cast<DWORD>(extended ? LBS_EXTENDEDSEL : 0),
-                    WS_EX_CLIENTEDGE};
-        }
-        case ControlKind::VirtualList:
-            return {"LISTBOX",
-                    WS_TABSTOP | WS_VSCROLL | WS_HSCROLL | LBS_NOTIFY | LBS_NODATA | LBS_OWNERDRAWFIXED |
-                        LBS_EXTENDEDSEL | LBS_NOINTEGRALHEIGHT,
-                    WS_EX_CLIENTEDGE};
-        case ControlKind::ProgressBar: return {PROGRESS_CLASSA, 0, 0, ICC_PROGRESS_CLASS};
-        case ControlKind::Frame:
-            if (IsPanel(control)) return {"STATIC", SS_OWNERDRAW};
-            return {"BUTTON", BS_GROUPBOX};
-        case ControlKind::TabStrip: return {WC_TABCONTROLA, WS_TABSTOP | WS_CLIPSIBLINGS, 0, ICC_TAB_CLASSES};
-        case ControlKind::UpDown: return {UPDOWN_CLASSA, UDS_ARROWKEYS, 0, ICC_UPDOWN_CLASS};
-        case ControlKind::StatusBar:
-            return {STATUSCLASSNAMEA, static_cast<DWORD>(form.Border() == FormBorder::Sizable ? SBARS_SIZEGRIP : 0), 0,
-                    ICC_BAR_CLASSES};
-    }
-    return {"STATIC", 0};
-}
+HWND setsText = nullptr;
 
 void RegisterCommonClass(DWORD commonClass) {
     static DWORD registered = 0;
@@ -105,43 +32,48 @@ const Control* Predecessor(const Control& control) {
 
 // Arrow keys and screen readers see what lies between two controls that start a group as one.
 bool StartsGroup(const Control& control) {
+    if (const auto* option = dynamic_cast<const OptionButton*>(&control)) return option->Index() == 0;
     const Control* before = Predecessor(control);
-    const bool afterOption = before != nullptr && before->Kind() == ControlKind::OptionButton;
-    if (control.Kind() != ControlKind::OptionButton) return before == nullptr || afterOption;
-    return static_cast<const OptionButton&>(control).Index() == 0;
+    return before == nullptr || dynamic_cast<const OptionButton*>(before) != nullptr;
 }
 
 // Siblings above a window are cut out of what it paints, except in a frame: that lies above what is in it.
-bool CutsSiblings(const Control& control) {
-    if (IsBox(control)) return false;
+bool CutsSiblings(Control& control) {
+    if (control.Kind().look(control).framesOthers) return false;
     const auto& all = control.Holder().Controls();
-    return std::none_of(all.begin(), all.end(),
-                        [&](const Control* other) { return IsBox(*other) && other->Place().Crosses(control.Place()); });
+    return std::none_of(all.begin(), all.end(), [&](Control* other) {
+        return other->Place().Crosses(control.Place()) && other->Kind().look(*other).framesOthers;
+    });
 }
 
 RECT PixelPlace(const Control& control) {
     RECT place = ToPixels(control.Place(), DpiOf(control));
-    // The place of a combo box's window reaches to the end of its open list.
-    constexpr int kLinesDropped = 11;
-    if (control.Kind() == ControlKind::ComboBox) place.bottom += kLinesDropped * (place.bottom - place.top);
+    place.bottom += control.Kind().linesDropped * (place.bottom - place.top);
     return place;
 }
 
-void ApplyFont(const Control& control) {
+void ApplyFont(Control& control) {
     const HFONT font = FontFor(control.FontUsed(), DpiOf(control));
-    if (control.Kind() == ControlKind::VirtualList) {
-        ApplyVirtualFont(static_cast<const VirtualList&>(control), font);
-        return;
+    if (control.Kind().setFont != nullptr) control.Kind().setFont(control, font);
+    else SendMessageA(WindowOf(control), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+}
+
+void ApplyVisible(Control& control) {
+    if (control.window == nullptr) {
+        if (!control.Visible() || !StateOf(control.Holder().Owner()).controlsMade) return;
+        HWND before = nullptr;
+        for (const Control* other : control.Holder().Controls()) {
+            if (other == &control) break;
+            if (other->window != nullptr) before = WindowOf(*other);
+        }
+        CreateControl(control);
+        // The order of the windows is the tab order.
+        if (before != nullptr)
+            SetWindowPos(WindowOf(control), before, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
-    SendMessageA(WindowOf(control), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
-    if (control.Kind() == ControlKind::ComboBox) {
-        constexpr int kBorders = 6;
-        const int height = ToPixels(control.Place().height, DpiOf(control));
-        SendMessageA(WindowOf(control), CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), height - kBorders);
-    }
-    if (control.Kind() == ControlKind::TabStrip)
-        SendMessageA(WindowOf(control), TCM_SETITEMSIZE, 0,
-                     MAKELPARAM(0, ToPixels(TabStrip::kTabHeight, DpiOf(control))));
+    ShowWindow(WindowOf(control), control.Visible() ? SW_SHOWNA : SW_HIDE);
+    if (control.Visible() && control.Kind().look(control).liesOver)
+        SetWindowPos(WindowOf(control), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 }  // namespace
@@ -156,13 +88,33 @@ int DpiOf(const Control& control) {
     return DpiOf(WindowOf(control.Holder().Owner()));
 }
 
+std::string TextOf(HWND window) {
+    std::string text(static_cast<size_t>(GetWindowTextLengthA(window)) + 1, '\0');
+    text.resize(static_cast<size_t>(GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
+bool TextIsBeingSet(HWND window) {
+    return setsText == window;
+}
+
+// A window's text is set only when it differs, which also keeps the caret where it is.
+void ApplyText(const Control& control) {
+    const HWND window = WindowOf(control);
+    if (TextOf(window) == control.Text()) return;
+    setsText = window;
+    SetWindowTextA(window, control.Text().c_str());
+    setsText = nullptr;
+}
+
 void CreateControls(Container& container) {
     for (Control* control : container.Controls())
         if (control->Visible() && control->window == nullptr) CreateControl(*control);
 }
 
 void CreateControl(Control& control) {
-    const Look look = LookOf(control);
+    const native::Kind& kind = control.Kind();
+    const Look look = kind.look(control);
     RegisterCommonClass(look.commonClass);
     DWORD style = WS_CHILD | look.style;
     if (control.Visible()) style |= WS_VISIBLE;
@@ -175,12 +127,10 @@ void CreateControl(Control& control) {
                                         WindowOf(control.Holder()), nullptr, Instance(), nullptr);
     if (window == nullptr) return;
     control.window = window;
-    if (control.Kind() == ControlKind::VirtualList) PrepareVirtualList(static_cast<VirtualList&>(control));
     ApplyFont(control);
-    FillControl(control);
+    if (kind.fill != nullptr) kind.fill(control);
     SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&control));
-    Subclass(control);
-    if (control.Kind() == ControlKind::TabStrip) ShowFrontPage(static_cast<TabStrip&>(control));
+    if (control.TakesFocus() || look.seesMouse) Subclass(window);
 }
 
 void PlaceControl(Control& control) {
@@ -188,7 +138,7 @@ void PlaceControl(Control& control) {
     SetWindowPos(WindowOf(control), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
     ApplyFont(control);
-    if (control.Kind() == ControlKind::TabStrip) PlacePages(static_cast<TabStrip&>(control));
+    if (control.Kind().apply != nullptr) control.Kind().apply(control, Aspect::Place);
     // With its border, of which a move in the middle of other moves may leave parts behind.
     RedrawWindow(WindowOf(control), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
 }
@@ -198,6 +148,35 @@ void PlaceControl(Control& control) {
 namespace native {
 
 using namespace win32;
+
+void ControlChanged(Control& control, Aspect aspect) {
+    const HWND window = WindowOf(control);
+    switch (aspect) {
+        case Aspect::Place:
+        case Aspect::Font: PlaceControl(control); return;
+        case Aspect::Text: ApplyText(control); break;
+        case Aspect::Enabled: EnableWindow(window, control.Enabled()); break;
+        case Aspect::Visible: ApplyVisible(control); break;
+        case Aspect::Colors: InvalidateRect(window, nullptr, TRUE); break;
+        case Aspect::ToolTip: ToolTipChanged(control); break;
+        case Aspect::Value:
+        case Aspect::Items:
+        case Aspect::Selection: break;  // differ from kind to kind
+    }
+    if (control.window != nullptr && control.Kind().apply != nullptr) control.Kind().apply(control, aspect);
+}
+
+void Repaint(Control& control) {
+    RedrawWindow(WindowOf(control), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+}
+
+void FocusControl(Control& control) {
+    SetFocus(WindowOf(control));
+    // Behind a modal form the keyboard comes back only with the form itself.
+    if (!control.HasFocus()) control.UserFocuses(true);
+    // So that typing replaces the old number.
+    if (control.Kind().selectsOnFocus) SendMessageA(WindowOf(control), EM_SETSEL, 0, -1);
+}
 
 void DestroyControl(Control& control) {
     const HWND window = WindowOf(control);

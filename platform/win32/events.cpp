@@ -12,45 +12,36 @@ namespace {
 
 enum class Key { Done, ForControl, ForDialogManager };
 
-// Enter and Esc never reach the dialog manager: it would send the form the commands 1 and 2, which are menu items. It
-// knows two more names of these keys.
-bool IsEnterOrEscape(WPARAM key) {
-    return key == VK_RETURN || key == VK_EXECUTE || key == VK_ESCAPE || key == VK_CANCEL;
+// The dialog manager knows two more names of Enter and Esc.
+int PlainKey(WPARAM key) {
+    if (key == VK_EXECUTE) return kKeyEnter;
+    if (key == VK_CANCEL) return kKeyEscape;
+    return static_cast<int>(key);
 }
 
-Key AnswerEnterOrEscape(Form& form, bool enter) {
-    const Control* active = form.ActiveControl();
-    if (active != nullptr && active->Kind() == ControlKind::ComboBox &&
-        SendMessageA(WindowOf(*active), CB_GETDROPPEDSTATE, 0, 0))
-        return Key::ForControl;
-    if (active != nullptr && active->Kind() == ControlKind::ListBox && static_cast<const ListBox*>(active)->onKeyPress)
-        return Key::ForControl;
-    form.UserTypes(static_cast<char>(enter ? kKeyEnter : kKeyEscape));
-    if (!form.IsLoaded()) return Key::Done;
-    if (enter) form.UserPressesEnter();
+// What the form does with Enter and Esc. They never reach the dialog manager: it would send the form the commands 1 and
+// 2, which are menu items.
+void AnswerEnterOrEscape(Form& form, int key) {
+    form.UserTypes(static_cast<char>(key));
+    if (!form.IsLoaded()) return;
+    if (key == kKeyEnter) form.UserPressesEnter();
     else form.UserPressesEscape();
-    return Key::Done;
 }
 
-// Keys of a box of text that are none of the form's while the box has the focus.
-bool BelongsToTextBox(const Form& form, WPARAM key) {
-    const Control* active = form.ActiveControl();
-    return key == VK_DELETE && active != nullptr &&
-           (active->Kind() == ControlKind::TextBox || active->Kind() == ControlKind::MaskedBox);
-}
-
-Key AnswerKey(Form& form, WPARAM key) {
+Key AnswerKey(Form& form, int key) {
     const bool control = Pressed(VK_CONTROL);
     const bool shift = Pressed(VK_SHIFT);
+    const bool enterOrEscape = key == kKeyEnter || key == kKeyEscape;
     // Windows sends a key with Ctrl and Alt (AltGr) as one without: it is none of the form's, and Esc must not reach
     // the dialog manager all the same.
-    if (Pressed(VK_MENU)) return IsEnterOrEscape(key) ? Key::ForControl : Key::ForDialogManager;
+    if (Pressed(VK_MENU)) return enterOrEscape ? Key::ForControl : Key::ForDialogManager;
     if (control && key == VK_TAB && form.UserTurnsPage(shift ? -1 : 1)) return Key::Done;
     if (control && (key == VK_NEXT || key == VK_PRIOR) && form.UserTurnsPage(key == VK_NEXT ? 1 : -1)) return Key::Done;
-    if (!BelongsToTextBox(form, key) && form.UserPressesShortcut({static_cast<int>(key), control, shift}))
-        return Key::Done;
-    if (IsEnterOrEscape(key)) return AnswerEnterOrEscape(form, key == VK_RETURN || key == VK_EXECUTE);
-    return Key::ForDialogManager;
+    if (form.ActiveControl() != nullptr && form.ActiveControl()->KeepsKey(key)) return Key::ForControl;
+    if (form.UserPressesShortcut({key, control, shift})) return Key::Done;
+    if (!enterOrEscape) return Key::ForDialogManager;
+    AnswerEnterOrEscape(form, key);
+    return Key::Done;
 }
 
 // The dialog manager would find access keys too, but for a label it asks the form to move the focus, which only a
@@ -84,7 +75,7 @@ bool Answered(MSG& message) {
         if (form->onKeyPress && message.wParam > ' ') return false;
     }
     if (message.message == WM_KEYDOWN) {
-        switch (AnswerKey(*form, message.wParam)) {
+        switch (AnswerKey(*form, PlainKey(message.wParam))) {
             case Key::Done: return true;
             case Key::ForControl: return false;
             case Key::ForDialogManager: break;

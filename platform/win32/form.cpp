@@ -6,10 +6,9 @@
 
 #include <map>
 
-#include "platform/native.h"
 #include "platform/version.h"
+#include "platform/win32/kind.h"
 #include "platform/win32/metrics.h"
-#include "platform/win32/window.h"
 #include "resources/resource.h"
 
 namespace quirn {
@@ -80,11 +79,8 @@ void LimitSize(const Form& form, MINMAXINFO& limits) {
 
 void Resize(Form& form) {
     TellPlace(form);
-    for (const Control* control : form.Controls())
-        if (control->Kind() == ControlKind::StatusBar && control->window != nullptr) {
-            SendMessageA(WindowOf(*control), WM_SIZE, 0, 0);
-            PlacePanels(static_cast<const StatusBar&>(*control));
-        }
+    for (Control* control : form.Controls())
+        if (control->window != nullptr && control->Kind().formResized != nullptr) control->Kind().formResized(*control);
     form.WindowResized();
 }
 

@@ -1,14 +1,11 @@
-#include "platform/virtuallist.h"
-
 #include <windows.h>
 
 #include <algorithm>
 #include <string_view>
 #include <vector>
 
-#include "platform/native.h"
+#include "platform/win32/kind.h"
 #include "platform/win32/metrics.h"
-#include "platform/win32/window.h"
 
 // A list box without data, whose items this program draws: it keeps one byte for each item, so that a million of them
 // is selected in milliseconds.
@@ -120,16 +117,21 @@ int DrawLine(HDC device, int x, int y, const RECT& area, std::string_view text) 
     return x;
 }
 
-}  // namespace
+Look ListLook(const VirtualList&) {
+    return {.className = "LISTBOX",
+            .style = WS_TABSTOP | WS_VSCROLL | WS_HSCROLL | LBS_NOTIFY | LBS_NODATA | LBS_OWNERDRAWFIXED |
+                     LBS_EXTENDEDSEL | LBS_NOINTEGRALHEIGHT,
+            .extendedStyle = WS_EX_CLIENTEDGE};
+}
 
-void PrepareVirtualList(const VirtualList& list) {
+void Prepare(const VirtualList& list) {
     // The list box has read its styles. Those who ask it for texts look at them too, and would take a list without
     // strings for one without texts: screen readers, and the system on a text's way to another program.
     const HWND window = WindowOf(list);
     SetWindowLongPtrA(window, GWL_STYLE, GetWindowLongPtrA(window, GWL_STYLE) | LBS_HASSTRINGS);
 }
 
-void ApplyVirtualItems(const VirtualList& list) {
+void ApplyItems(const VirtualList& list) {
     Unpainted unpainted(list);
     Send(list, LB_RESETCONTENT);
     if (list.Count() > 0) Send(list, LB_SETCOUNT, list.Count());
@@ -137,18 +139,20 @@ void ApplyVirtualItems(const VirtualList& list) {
     unpainted.ScrollTo(0);
 }
 
-void ApplyVirtualSelection(const VirtualList& list) {
+void Apply(const VirtualList& list, Aspect aspect) {
+    if (aspect != Aspect::Items && aspect != Aspect::Selection && aspect != Aspect::Value) return;
+    if (aspect == Aspect::Items) ApplyItems(list);
     const Unpainted unpainted(list);
-    ApplySelected(list);
+    if (aspect != Aspect::Value) ApplySelected(list);
     ApplyCurrent(list);
 }
 
-void ApplyVirtualCurrent(const VirtualList& list) {
-    const Unpainted unpainted(list);
-    ApplyCurrent(list);
+void Fill(const VirtualList& list) {
+    Prepare(list);
+    Apply(list, Aspect::Items);
 }
 
-void ApplyVirtualFont(const VirtualList& list, HFONT font) {
+void SetListFont(const VirtualList& list, HFONT font) {
     if (reinterpret_cast<HFONT>(Send(list, WM_GETFONT)) == font) return;
     const Unpainted unpainted(list);
     Send(list, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
@@ -156,7 +160,7 @@ void ApplyVirtualFont(const VirtualList& list, HFONT font) {
     Send(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(TextExtent(list)));
 }
 
-void DrawVirtualItem(const VirtualList& list, const DRAWITEMSTRUCT& item) {
+void DrawListItem(const VirtualList& list, const DRAWITEMSTRUCT& item) {
     const bool selected = (item.itemState & ODS_SELECTED) != 0;
     const Color fore = list.ForeColor().value_or(GetSysColor(COLOR_WINDOWTEXT));
     const Color back = list.BackColor().value_or(GetSysColor(COLOR_WINDOW));
@@ -175,7 +179,7 @@ void DrawVirtualItem(const VirtualList& list, const DRAWITEMSTRUCT& item) {
     if ((item.itemState & ODS_FOCUS) != 0) DrawFocusRect(item.hDC, &item.rcItem);
 }
 
-void VirtualListCommand(VirtualList& list, WORD code) {
+void ListCommand(VirtualList& list, WORD code) {
     if (code == LBN_DBLCLK) list.UserDoubleClicks();
     if (code != LBN_SELCHANGE) return;
     const LRESULT caret = Send(list, LB_GETCARETINDEX);
@@ -183,12 +187,13 @@ void VirtualListCommand(VirtualList& list, WORD code) {
     list.WindowChangedSelection(there ? std::optional(static_cast<size_t>(caret)) : std::nullopt);
 }
 
-std::optional<LRESULT> VirtualListMessage(VirtualList& list, UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
+std::optional<LRESULT> ListMessage(VirtualList& list, const Message& m) {
+    const WPARAM wParam = m.wParam;
+    switch (m.message) {
         case LB_GETTEXT: {
             if (wParam >= list.Count()) return LB_ERR;
             const std::string text = AnswerText(list, wParam);
-            std::copy_n(text.c_str(), text.size() + 1, reinterpret_cast<char*>(lParam));
+            std::copy_n(text.c_str(), text.size() + 1, reinterpret_cast<char*>(m.lParam));
             return static_cast<LRESULT>(text.size());
         }
         case LB_GETTEXTLEN:
@@ -203,17 +208,28 @@ std::optional<LRESULT> VirtualListMessage(VirtualList& list, UINT message, WPARA
             return 0;
         case WM_RBUTTONDOWN: list.UserPressesRightButton(); return 0;
         case WM_CONTEXTMENU:
-            if (lParam == -1) list.UserPressesRightButton();  // by the keyboard
+            if (m.lParam == -1) list.UserPressesRightButton();  // by the keyboard
             return 0;
         default: return std::nullopt;
     }
 }
+
+}  // namespace
 
 }  // namespace win32
 
 namespace native {
 
 using namespace win32;
+
+const Kind kVirtualList{.look = For<ListLook>,
+                        .fill = For<Fill>,
+                        .apply = For<Apply>,
+                        .setFont = For<SetListFont>,
+                        .command = For<ListCommand>,
+                        .draw = For<DrawListItem>,
+                        .message = For<ListMessage>,
+                        .holdsTexts = true};
 
 void ReadSelection(const VirtualList& list, ListSelection& selection) {
     selection.Reset(list.Count());

@@ -9,7 +9,6 @@
 
 #include "platform/controls.h"
 #include "platform/form.h"
-#include "platform/virtuallist.h"
 
 // The windows of forms, pages and controls, for the files of win32/ only.
 namespace quirn::win32 {
@@ -53,41 +52,16 @@ int DpiOf(const Control& control);
 void CreateControls(Container& container);  // those that are visible
 void CreateControl(Control& control);
 void PlaceControl(Control& control);  // at its place, and in its font, by the form's DPI
-
-// sync.cpp: brings a part of a new window up to its control's state.
-void FillControl(Control& control);
+void ApplyText(const Control& control);
+std::string TextOf(HWND window);
 bool TextIsBeingSet(HWND window);
-void PlacePanels(const StatusBar& bar);  // after its form has another size
 
 // controlproc.cpp: lets this program see the messages of a control's window first.
-void Subclass(const Control& control);
+void Subclass(HWND window);
 bool FocusArrives(HWND window);  // the window is just taking the focus
 
-// editing.cpp: what the subclass does for boxes of text; nothing means that the window's own handling goes on.
-std::optional<LRESULT> TextBoxMessage(TextBox& box, UINT message, WPARAM wParam);
-std::optional<LRESULT> MaskedBoxMessage(MaskedBox& box, UINT message, WPARAM wParam);
-std::string TextOf(HWND window);
-
-// virtuallist.cpp
-void PrepareVirtualList(const VirtualList& list);  // a new window
-void ApplyVirtualItems(const VirtualList& list);
-void ApplyVirtualSelection(const VirtualList& list);
-void ApplyVirtualCurrent(const VirtualList& list);
-void ApplyVirtualFont(const VirtualList& list, HFONT font);
-void DrawVirtualItem(const VirtualList& list, const DRAWITEMSTRUCT& item);
-void VirtualListCommand(VirtualList& list, WORD code);
-std::optional<LRESULT> VirtualListMessage(VirtualList& list, UINT message, WPARAM wParam, LPARAM lParam);
-
-// page.cpp
-void ShowFrontPage(TabStrip& strip);
-void PlacePages(TabStrip& strip);
-
-// notify.cpp: messages that a control's window sends to its form or page; nothing means the default handling.
+// Messages that a control's window sends to its form or page; nothing means the default handling.
 std::optional<LRESULT> NotificationFromControl(Form& form, UINT message, WPARAM wParam, LPARAM lParam);
-
-// combobox.cpp
-void ComboBoxCommand(ComboBox& box, WORD code);
-void OpenListMoved(ComboBox& box, HWND list);  // or may have been: the list is about to be painted
 
 // tooltip.cpp
 void PrepareToolTip(Control& control);

@@ -36,7 +36,7 @@ TEST_F(AuxiliaryTest, TheQuoteChangesByItselfAndAClickStartsTheTimeAnew) {
     const std::string last = quote.Text();
     WaitForEvents(20000);
     EXPECT_EQ(quote.Text(), last);
-    Click(ControlOf<Picture>(form, ControlKind::Picture, "", 1));
+    Click(ControlOf<Picture>(form, "", 1));
     WaitForEvents(20000);
     EXPECT_EQ(quote.Text(), last);
 }
@@ -48,7 +48,7 @@ TEST_F(AuxiliaryTest, ClicksGoThroughAllQuotesAndTheSoundComesWithOne) {
     for (size_t i = 1; i < 2 * kQuotes.size(); ++i) {
         TheWorld().playedSounds.clear();
         if (i % 2 == 0) Click(quote);
-        else Click(ControlOf<Picture>(form, ControlKind::Picture, "", 1));
+        else Click(ControlOf<Picture>(form, "", 1));
         const std::string start = kQuotes[i % kQuotes.size()];
         EXPECT_EQ(quote.Text().substr(0, 6), start.substr(0, 6));
         const bool now = i % kQuotes.size() == 32;
@@ -86,7 +86,7 @@ TEST_F(AuxiliaryTest, TheNotesShowTheFileLineByLine) {
     frmRelNotes form;
     form.Show();
     EXPECT_EQ(form.Caption(), "QUIRN Readme/Revision Notes");
-    const auto& text = ControlOf<TextBox>(form, ControlKind::TextBox, "");
+    const auto& text = ControlOf<TextBox>(form, "");
     EXPECT_EQ(text.Text(), "One\r\n\r\nThree, caf\xE9\r\n");
     PutFile("C:\\Program\\revision.txt", "");
     Click(ButtonOf(form, "revision.txt"));

@@ -17,7 +17,7 @@ protected:
 
     ShownAbout form;
     Label& quote = LabelOf(form, "A profile is a promise");
-    Picture& picture = ControlOf<Picture>(form, ControlKind::Picture, "", 1);
+    Picture& picture = ControlOf<Picture>(form, "", 1);
 };
 
 TEST_F(AboutTest, TheWordShowsTheSecretAndItsButtonCloses) {

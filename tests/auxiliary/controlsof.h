@@ -10,18 +10,18 @@
 namespace quirn::test {
 
 template <class Kind>
-Kind& ControlOf(Form& form, ControlKind kind, std::string_view text, int nth = 0) {
+Kind& ControlOf(Form& form, std::string_view text, int nth = 0) {
     for (Control* control : form.Controls())
-        if (control->Kind() == kind && control->Text().find(text) != std::string::npos && nth-- == 0)
-            return static_cast<Kind&>(*control);
+        if (auto* found = dynamic_cast<Kind*>(control))
+            if (found->Text().find(text) != std::string::npos && nth-- == 0) return *found;
     throw std::runtime_error("no control \"" + std::string(text) + "\"");
 }
 
 inline Button& ButtonOf(Form& form, std::string_view text) {
-    return ControlOf<Button>(form, ControlKind::Button, text);
+    return ControlOf<Button>(form, text);
 }
 inline Label& LabelOf(Form& form, std::string_view text) {
-    return ControlOf<Label>(form, ControlKind::Label, text);
+    return ControlOf<Label>(form, text);
 }
 
 }  // namespace quirn::test

@@ -12,7 +12,7 @@ class NotesTest : public WorldTest {};
 TEST_F(NotesTest, AMissingFileIsSaidInTheBox) {
     frmRelNotes form;
     form.Show();
-    const auto& text = ControlOf<TextBox>(form, ControlKind::TextBox, "");
+    const auto& text = ControlOf<TextBox>(form, "");
     for (const char* name : {"readme.txt", "revision.txt"}) {
         Click(ButtonOf(form, name));
         const std::string expected = "----\r\nERROR - Could not find " + ProgramFolder() + "\\" + name + "\r\n----";
@@ -26,7 +26,7 @@ TEST_F(NotesTest, AMissingFileIsSaidInTheBox) {
 TEST_F(NotesTest, TheControlsFollowTheSizeAndTheSmallestIsKept) {
     frmRelNotes form;
     form.Show();
-    const Control& text = ControlOf<TextBox>(form, ControlKind::TextBox, "");
+    const Control& text = ControlOf<TextBox>(form, "");
     EXPECT_EQ(form.Place().width, 721 * 15);
     form.Move({300, 300, 12000, 9000});
     EXPECT_EQ(text.Place().width, form.Place().width - 300);

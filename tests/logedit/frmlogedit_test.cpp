@@ -27,9 +27,9 @@ constexpr char kLog[] =
     "  Cy> four BO\r\n";
 
 template <class T>
-T& Find(const Form& form, ControlKind kind, const std::string& text) {
+T& Find(const Form& form, const std::string& text) {
     for (Control* control : form.Controls())
-        if (control->Kind() == kind && control->Text().starts_with(text)) return static_cast<T&>(*control);
+        if (auto* found = dynamic_cast<T*>(control); found != nullptr && found->Text().starts_with(text)) return *found;
     throw std::runtime_error("no control " + text);
 }
 
@@ -52,15 +52,15 @@ protected:
         Choose(*form_, mnuFile_Open);
     }
 
-    VirtualList& List(const char* name) { return Find<VirtualList>(*form_, ControlKind::VirtualList, name); }
+    VirtualList& List(const char* name) { return Find<VirtualList>(*form_, name); }
     VirtualList& Log() { return List("Log"); }
     Button& Press(const char* caption) {
-        Button& button = Find<Button>(*form_, ControlKind::Button, caption);
+        Button& button = Find<Button>(*form_, caption);
         Click(button);
         return button;
     }
-    void Tick(const char* caption) { Click(Find<CheckBox>(*form_, ControlKind::CheckBox, caption)); }
-    StatusBar& Status() { return Find<StatusBar>(*form_, ControlKind::StatusBar, ""); }
+    void Tick(const char* caption) { Click(Find<CheckBox>(*form_, caption)); }
+    StatusBar& Status() { return Find<StatusBar>(*form_, ""); }
 
     static Lines Shown(const VirtualList& list) {
         Lines lines;
@@ -91,8 +91,8 @@ TEST_F(LogEditTest, OpeningFiltersAndMovingPlayers) {
     ClickItem(List("Include"), 2, true);
     Press(">>");
     EXPECT_EQ(Shown(List("Exclude")), (Lines{"Bo", "Cy"}));
-    EXPECT_EQ(ShownText(Find<Label>(*form_, ControlKind::Label, "Include")), "Include : (2)");
-    EXPECT_EQ(ShownText(Find<Label>(*form_, ControlKind::Label, "Exclude")), "Exclude : (2)");
+    EXPECT_EQ(ShownText(Find<Label>(*form_, "Include")), "Include : (2)");
+    EXPECT_EQ(ShownText(Find<Label>(*form_, "Exclude")), "Exclude : (2)");
     EXPECT_EQ(Log().Count(), 5u) << "nothing changes before the filter is applied";
     Press("Apply Filter");
     EXPECT_EQ(Shown(Log()), (Lines{"T Ann> three", "  Welcome"}));
@@ -267,9 +267,9 @@ TEST_F(LogEditTest, AWindowOpenedAgainStartsAnew) {
     form_->Show();
     EXPECT_EQ(form_->Caption(), kTitleText);
     EXPECT_EQ(Log().Count() + List("Include").Count(), 0u);
-    EXPECT_EQ(ShownText(Find<Label>(*form_, ControlKind::Label, "Include")), "Include :");
+    EXPECT_EQ(ShownText(Find<Label>(*form_, "Include")), "Include :");
     EXPECT_EQ(ShownSecondText(Status()), "");
-    EXPECT_TRUE(ShownChecked(Find<CheckBox>(*form_, ControlKind::CheckBox, "System messages")));
+    EXPECT_TRUE(ShownChecked(Find<CheckBox>(*form_, "System messages")));
     EXPECT_FALSE(form_->MenuBar()->Find(mnuOptions_Apply)->checked ||
                  form_->MenuBar()->Find(mnuOptions_LineNums)->checked);
     Open(path_);
@@ -284,9 +284,9 @@ TEST_F(LogEditTest, TheControlsFollowTheWindow) {
         const Bounds include = List("Include").Place();
         EXPECT_EQ(Log().Place().Right(), form_->InnerWidth() - 150);
         EXPECT_EQ(include.Bottom(), form_->InnerHeight() - StatusBar::kHeight - 800);
-        EXPECT_GE(Find<Label>(*form_, ControlKind::Label, "Include").Place().top, Log().Place().Bottom());
+        EXPECT_GE(Find<Label>(*form_, "Include").Place().top, Log().Place().Bottom());
         for (const char* button : {"<<", ">>", "Apply"}) {
-            const Bounds at = Find<Button>(*form_, ControlKind::Button, button).Place();
+            const Bounds at = Find<Button>(*form_, button).Place();
             EXPECT_TRUE(at.top >= include.top && at.Bottom() <= include.Bottom()) << button;
         }
     }
@@ -302,8 +302,8 @@ TEST_F(LogEditTest, TheFindDialogSearchesWithEnterAndStaysOnScreen) {
         const int right = WorkArea(*form_).Right();
         EXPECT_EQ(find.Place().left,
                   left == 0 && 10950 + find.Place().width <= right ? 10950 : right - find.Place().width);
-        TextBox& text = Find<TextBox>(find, ControlKind::TextBox, "old");
-        Button& next = Find<Button>(find, ControlKind::Button, "&Find Next");
+        TextBox& text = Find<TextBox>(find, "old");
+        Button& next = Find<Button>(find, "&Find Next");
         EXPECT_TRUE(text.HasFocus() && next.Enabled());
         text.UserEdits("");
         EXPECT_FALSE(next.Enabled());

@@ -134,7 +134,7 @@ TEST_F(FrmMainTest, AChatNameIsSavedCompleteWhileTheCursorIsInIt) {
     program_.CurrentFile = Scratch() + "\\a.qrn";
     program_.profile.Messages.Value(kChatName) = "night";
     window.ShowProfile();
-    for (Control* control : ControlOf<TabStrip>(window, ControlKind::TabStrip, "").Pages()[0]->Controls())
+    for (Control* control : ControlOf<TabStrip>(window, "").Pages()[0]->Controls())
         if (control->Text() == "night") control->SetFocus();
     Press(window, 'S', true);
     EXPECT_FALSE(program_.dirty);
@@ -148,12 +148,12 @@ TEST_F(FrmMainTest, ThePickListGoesWithTheMacroThatItWasOpenedFor) {
     frmMain window(program_);
     window.Load();
     window.Show();
-    auto& strip = ControlOf<TabStrip>(window, ControlKind::TabStrip, "");
+    auto& strip = ControlOf<TabStrip>(window, "");
     strip.SetTab(4);
     const auto& controls = strip.Pages()[4]->Controls();
     const auto macro = std::find_if(controls.begin(), controls.end(),
-                                    [](Control* control) { return control->Kind() == ControlKind::TextBox; });
-    const auto& list = ControlOf<ListBox>(window, ControlKind::ListBox, "");
+                                    [](Control* control) { return dynamic_cast<TextBox*>(control) != nullptr; });
+    const auto& list = ControlOf<ListBox>(window, "");
     Type(static_cast<TextBox&>(**macro), "%");
     EXPECT_TRUE(list.Visible());
     window.ShowProfile();
@@ -165,8 +165,8 @@ TEST_F(FrmMainTest, APastedProxyAddressFillsItsFourBoxes) {
     window.Load();
     window.Show();
     std::vector<MaskedBox*> boxes;
-    for (Control* control : ControlOf<TabStrip>(window, ControlKind::TabStrip, "").Pages()[0]->Controls())
-        if (control->Kind() == ControlKind::MaskedBox) boxes.push_back(static_cast<MaskedBox*>(control));
+    for (Control* control : ControlOf<TabStrip>(window, "").Pages()[0]->Controls())
+        if (auto* box = dynamic_cast<MaskedBox*>(control)) boxes.push_back(box);
     for (const char* text : {"10.20.30.40", " 10 . 20.30.40:8080\r\n"}) {
         for (MaskedBox* box : boxes) {
             program_.profile.Dialog.Value(kProxyIP) = "1.2.3.4";

@@ -70,7 +70,7 @@ TEST_F(LauncherTest, ASecondRunTakesThePlaceOfTheFirstAndExitEndsBoth) {
     frmMain window(program);
     window.Show();
     program.dirty = false;
-    auto& run = ControlOf<Button>(window, ControlKind::Button, "Transfer Profile And Run Subspace");
+    auto& run = ControlOf<Button>(window, "Transfer Profile And Run Subspace");
     Click(run);
     EXPECT_FALSE(window.Visible());
     window.Show();

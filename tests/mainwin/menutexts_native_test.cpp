@@ -25,7 +25,7 @@ TEST_F(MenuTextsTest, NamesShowTheirAmpersandsAndItemsTheirHelp) {
     window.Load();
     EXPECT_EQ(window.MenuBar()->Find(mnuFileMRU)->caption, "&1 C:\\R&&D.QRN");
     PointAt(window, MenuPart::Item, mnuFile_Import);
-    EXPECT_EQ(ControlOf<StatusBar>(window, ControlKind::StatusBar, "").Text(), "Import a SubSpace macro or text file");
+    EXPECT_EQ(ControlOf<StatusBar>(window, "").Text(), "Import a SubSpace macro or text file");
     TheWorld().trayIcons.back()->UserPoints(kMouseRightDown);
     EXPECT_EQ(TheWorld().poppedUpMenus.back().menu->Find(mnuPUTrayIcon_Fav)->caption, "Tom && Jerry");
     window.Unload();

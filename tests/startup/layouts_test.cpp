@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <typeinfo>
+
 #include "auxiliary/frmabout.h"
 #include "auxiliary/frmrelnotes.h"
 #include "auxiliary/frmsplash.h"
@@ -20,15 +22,14 @@ using namespace test;
 
 std::string Name(const Control& control) {
     const Bounds& p = control.Place();
-    return "kind " + std::to_string(static_cast<int>(control.Kind())) + " \"" + control.Text() + "\" at " +
-           std::to_string(p.left) + "," + std::to_string(p.top) + " size " + std::to_string(p.width) + "x" +
-           std::to_string(p.height);
+    return std::string(typeid(control).name()) + " \"" + control.Text() + "\" at " + std::to_string(p.left) + "," +
+           std::to_string(p.top) + " size " + std::to_string(p.width) + "x" + std::to_string(p.height);
 }
 
 // Lies over what it covers, by intent, and takes along what is in it.
 bool IsPanel(const Control* control) {
-    return control != nullptr && control->Kind() == ControlKind::Frame &&
-           static_cast<const Frame*>(control)->Style() == FrameStyle::Panel;
+    const auto* frame = dynamic_cast<const Frame*>(control);
+    return frame != nullptr && frame->Style() == FrameStyle::Panel;
 }
 
 bool MayCross(const Control& a, const Control& b) {
@@ -44,7 +45,7 @@ void CheckControls(const Container& container, const Bounds& area, const std::st
     const auto& all = container.Controls();
     for (size_t i = 0; i < all.size(); ++i) {
         const Control& control = *all[i];
-        if (!control.Visible() || control.Kind() == ControlKind::StatusBar) continue;
+        if (!control.Visible() || dynamic_cast<const StatusBar*>(&control) != nullptr) continue;
         Bounds room = area;
         if (const Control* frame = control.SurroundingFrame()) {
             room = frame->Place();
@@ -55,18 +56,17 @@ void CheckControls(const Container& container, const Bounds& area, const std::st
         for (size_t j = 0; j < i; ++j)
             EXPECT_TRUE(!all[j]->Visible() || MayCross(control, *all[j]) || !control.Place().Crosses(all[j]->Place()))
                 << where << ": " << Name(control) << " crosses " << Name(*all[j]);
-        if (control.Kind() != ControlKind::TabStrip) continue;
-        const auto& strip = static_cast<const TabStrip&>(control);
-        const Bounds inside = strip.PageArea();
-        for (const TabPage* page : strip.Pages())
+        for (const TabPage* page : control.Pages()) {
+            const Bounds inside = page->Strip().PageArea();
             CheckControls(*page, {0, 0, inside.width, inside.height}, where + ", " + page->Caption());
+        }
     }
 }
 
 void Check(const Form& form, const std::string& where) {
     Bounds area{0, 0, form.InnerWidth(), form.InnerHeight()};
     for (const Control* control : form.Controls())
-        if (control->Kind() == ControlKind::StatusBar) area.height -= StatusBar::kHeight;
+        if (dynamic_cast<const StatusBar*>(control) != nullptr) area.height -= StatusBar::kHeight;
     CheckControls(form, area, where);
 }
 

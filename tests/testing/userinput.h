@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/form.h"
+#include "platform/table.h"
 #include "platform/virtuallist.h"
 
 // Acts as the player on the windows of this process. In memory it calls what the back end would call; on Windows it
@@ -26,6 +27,12 @@ void Choose(ListBox& list, const std::vector<int>& indexes);
 void ClickItem(VirtualList& list, size_t item, bool shift = false, bool control = false);
 void DoubleClickItem(VirtualList& list, size_t item);
 void ChooseFromPopup(VirtualList& list, int position);  // the right button, then an item counted from 0
+void ClickRow(Table& table, size_t row, bool shift = false, bool control = false);
+void DoubleClickRow(Table& table, size_t row);
+void RightClickRow(Table& table, size_t row);
+void ClickTick(Table& table, size_t row);
+void ClickHead(Table& table, int column);
+void DragColumn(Table& table, int column, int width);  // twips
 void Spin(UpDown& arrows, int steps);
 void TurnTo(TabStrip& strip, int page);
 void Close(Form& form);  // the close box
@@ -48,6 +55,9 @@ int ShownIndex(const Control& control);  // the selected item or page
 
 std::string ShownItem(const VirtualList& list, size_t item);  // as another program asks for it
 size_t ShownTop(const VirtualList& list);
+std::string ShownCell(const Table& table, size_t row, int column);  // as another program asks for it
+std::vector<size_t> ShownSelection(const Table& table);
+bool ShownTick(const Table& table, size_t row);
 std::string ShownSecondText(const StatusBar& bar);
 
 // The clipboard's text.

@@ -72,6 +72,34 @@ void ChooseFromPopup(VirtualList& list, int position) {
     menu->UserChooses(menu->Items()[static_cast<size_t>(position) + 1].row.command);
 }
 
+void ClickRow(Table& table, size_t row, bool shift, bool control) {
+    table.SetFocus();
+    table.UserClicksRow(row, shift, control);
+}
+
+void DoubleClickRow(Table& table, size_t row) {
+    ClickRow(table, row);
+    table.UserActivates();
+}
+
+void RightClickRow(Table& table, size_t row) {
+    ClickRow(table, row);
+    table.UserPressesRightButton();
+}
+
+void ClickTick(Table& table, size_t row) {
+    table.SetFocus();
+    table.UserTicks(row);
+}
+
+void ClickHead(Table& table, int column) {
+    table.UserClicksHead(column);
+}
+
+void DragColumn(Table& table, int column, int width) {
+    table.WindowSizedColumn(column, width);
+}
+
 void Spin(UpDown& arrows, int steps) {
     for (int i = 0; i != steps; i += steps > 0 ? 1 : -1) arrows.UserSpins(steps > 0 ? 1 : -1);
 }
@@ -88,13 +116,13 @@ void Press(Form& form, int key, bool control, bool shift) {
     if (control && key == kKeyTab && form.UserTurnsPage(1)) return;
     if (form.UserPressesShortcut({key, control, shift})) return;
     Control* active = form.ActiveControl();
-    if (active != nullptr && active->Kind() == ControlKind::ListBox) {
-        auto* list = static_cast<ListBox*>(active);
-        if (list->onKeyPress) {
-            list->UserTypes(static_cast<char>(key));
-            return;
-        }
+    auto* list = dynamic_cast<ListBox*>(active);
+    if (list != nullptr && list->KeepsKey(key)) {
+        list->UserTypes(static_cast<char>(key));
+        return;
     }
+    auto* table = dynamic_cast<Table*>(active);
+    if (table != nullptr && table->UserPressesKey(key, control)) return;
     form.UserTypes(static_cast<char>(key));
     if (key == kKeyEnter && form.IsLoaded()) form.UserPressesEnter();
     if (key == kKeyEscape && form.IsLoaded()) form.UserPressesEscape();
@@ -121,17 +149,15 @@ std::string ShownText(const Control& control) {
 }
 
 bool ShownChecked(const Control& control) {
-    if (control.Kind() == ControlKind::CheckBox) return static_cast<const CheckBox&>(control).Value() == 1;
-    const auto& option = static_cast<const OptionButton&>(control);
+    if (auto* box = dynamic_cast<const CheckBox*>(&control)) return box->Value() == 1;
+    const auto& option = dynamic_cast<const OptionButton&>(control);
     return option.Group().Selected() == option.Index();
 }
 
 int ShownIndex(const Control& control) {
-    switch (control.Kind()) {
-        case ControlKind::ComboBox: return static_cast<const ComboBox&>(control).ListIndex();
-        case ControlKind::ListBox: return static_cast<const ListBox&>(control).ListIndex();
-        default: return static_cast<const TabStrip&>(control).Tab();
-    }
+    if (auto* box = dynamic_cast<const ComboBox*>(&control)) return box->ListIndex();
+    if (auto* list = dynamic_cast<const ListBox*>(&control)) return list->ListIndex();
+    return dynamic_cast<const TabStrip&>(control).Tab();
 }
 
 std::string ShownItem(const VirtualList& list, size_t item) {
@@ -140,6 +166,20 @@ std::string ShownItem(const VirtualList& list, size_t item) {
 
 size_t ShownTop(const VirtualList& list) {
     return list.TopIndex();
+}
+
+std::string ShownCell(const Table& table, size_t row, int column) {
+    return table.cellText(row, column);
+}
+
+std::vector<size_t> ShownSelection(const Table& table) {
+    std::vector<size_t> rows;
+    table.Selection().ForEach([&](size_t row) { rows.push_back(row); });
+    return rows;
+}
+
+bool ShownTick(const Table& table, size_t row) {
+    return table.isTicked(row);
 }
 
 std::string ShownSecondText(const StatusBar& bar) {

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <memory>
 
+#include "platform/win32/metrics.h"
 #include "tests/testing/userinput.h"
 
 namespace quirn::test {
@@ -157,6 +158,62 @@ void ChooseFromPopup(VirtualList& list, int position) {
     Send(list, WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(5, 5));
 }
 
+namespace {
+
+LPARAM PointIn(const Table& table, size_t row, int part) {
+    RECT place{};
+    place.left = part;
+    Send(table, LVM_ENSUREVISIBLE, row, FALSE);
+    Send(table, LVM_GETITEMRECT, row, reinterpret_cast<LPARAM>(&place));
+    return MAKELPARAM(place.left + 3, (place.top + place.bottom) / 2);
+}
+
+// The button's end waits for it: a list view waits inside for the pointer to be dragged.
+void Click(const Table& table, UINT down, UINT up, WPARAM keys, LPARAM point) {
+    PostMessageA(WindowOf(table), up, keys, point);
+    Send(table, down, keys, point);
+    DoEvents();
+}
+
+}  // namespace
+
+void ClickRow(Table& table, size_t row, bool shift, bool control) {
+    std::array<BYTE, 256> keys{};
+    if (shift) keys[VK_SHIFT] = 0x80;
+    if (control) keys[VK_CONTROL] = 0x80;
+    SetKeyboardState(keys.data());
+    const WPARAM held = static_cast<WPARAM>((shift ? MK_SHIFT : 0) | (control ? MK_CONTROL : 0));
+    Click(table, WM_LBUTTONDOWN, WM_LBUTTONUP, held | MK_LBUTTON, PointIn(table, row, LVIR_LABEL));
+    keys.fill(0);
+    SetKeyboardState(keys.data());
+}
+
+void DoubleClickRow(Table& table, size_t row) {
+    ClickRow(table, row);
+    Click(table, WM_LBUTTONDBLCLK, WM_LBUTTONUP, MK_LBUTTON, PointIn(table, row, LVIR_LABEL));
+}
+
+void RightClickRow(Table& table, size_t row) {
+    Click(table, WM_RBUTTONDOWN, WM_RBUTTONUP, MK_RBUTTON, PointIn(table, row, LVIR_LABEL));
+}
+
+void ClickTick(Table& table, size_t row) {
+    Click(table, WM_LBUTTONDOWN, WM_LBUTTONUP, MK_LBUTTON, PointIn(table, row, LVIR_BOUNDS));
+}
+
+void ClickHead(Table& table, int column) {
+    const auto head = reinterpret_cast<HWND>(Send(table, LVM_GETHEADER));
+    RECT place{};
+    SendMessageA(head, HDM_GETITEMRECT, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&place));
+    const LPARAM point = MAKELPARAM((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+    SendMessageA(head, WM_LBUTTONDOWN, MK_LBUTTON, point);
+    SendMessageA(head, WM_LBUTTONUP, 0, point);
+}
+
+void DragColumn(Table& table, int column, int width) {
+    Send(table, LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), win32::ToPixels(width, win32::DpiOf(nullptr)));
+}
+
 void Spin(UpDown& arrows, int steps) {
     for (int i = 0; i != steps; i += steps > 0 ? 1 : -1) {
         Send(arrows.Buddy(), WM_KEYDOWN, steps > 0 ? VK_UP : VK_DOWN);
@@ -225,11 +282,9 @@ bool ShownChecked(const Control& control) {
 }
 
 int ShownIndex(const Control& control) {
-    switch (control.Kind()) {
-        case ControlKind::ComboBox: return static_cast<int>(Send(control, CB_GETCURSEL));
-        case ControlKind::ListBox: return static_cast<int>(Send(control, LB_GETCURSEL));
-        default: return static_cast<int>(Send(control, TCM_GETCURSEL));
-    }
+    const bool combo = dynamic_cast<const ComboBox*>(&control) != nullptr;
+    const bool list = dynamic_cast<const ListBox*>(&control) != nullptr;
+    return static_cast<int>(Send(control, combo ? CB_GETCURSEL : list ? LB_GETCURSEL : TCM_GETCURSEL));
 }
 
 std::string ShownItem(const VirtualList& list, size_t item) {
@@ -240,6 +295,28 @@ std::string ShownItem(const VirtualList& list, size_t item) {
 
 size_t ShownTop(const VirtualList& list) {
     return static_cast<size_t>(Send(list, LB_GETTOPINDEX));
+}
+
+std::string ShownCell(const Table& table, size_t row, int column) {
+    std::array<char, 260> text{};
+    LVITEMA item{};
+    item.iSubItem = column;
+    item.pszText = text.data();
+    item.cchTextMax = static_cast<int>(text.size());
+    Send(table, LVM_GETITEMTEXTA, row, reinterpret_cast<LPARAM>(&item));
+    return text.data();
+}
+
+std::vector<size_t> ShownSelection(const Table& table) {
+    std::vector<size_t> rows;
+    LRESULT row = -1;
+    while ((row = Send(table, LVM_GETNEXTITEM, static_cast<WPARAM>(row), LVNI_SELECTED)) >= 0)
+        rows.push_back(static_cast<size_t>(row));
+    return rows;
+}
+
+bool ShownTick(const Table& table, size_t row) {
+    return Send(table, LVM_GETITEMSTATE, row, LVIS_STATEIMAGEMASK) == INDEXTOSTATEIMAGEMASK(2);
 }
 
 std::string ShownSecondText(const StatusBar& bar) {

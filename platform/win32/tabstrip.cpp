@@ -1,12 +1,16 @@
 #include <windows.h>
 
-#include "platform/version.h"
-#include "platform/win32/metrics.h"
-#include "platform/win32/window.h"
+#include <commctrl.h>  // needs windows.h first
 
-// The pages of a tab strip: windows that lie over the strip, hold the windows of their controls and are shown and
-// hidden as one.
-namespace quirn::win32 {
+#include "platform/version.h"
+#include "platform/win32/kind.h"
+#include "platform/win32/metrics.h"
+
+// Tab strips. The pages of a tab strip: windows that lie over the strip, hold the windows of their controls and are
+// shown and hidden as one.
+namespace quirn {
+
+namespace win32 {
 
 namespace {
 
@@ -43,10 +47,7 @@ void CreatePage(TabPage& page) {
     if (page.window != nullptr) CreateControls(page);
 }
 
-}  // namespace
-
 void ShowFrontPage(TabStrip& strip) {
-    if (strip.window == nullptr) return;
     for (TabPage* page : strip.Pages()) {
         if (!page->IsInFront()) continue;
         if (page->window == nullptr) CreatePage(*page);
@@ -68,4 +69,53 @@ void PlacePages(TabStrip& strip) {
                          SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-}  // namespace quirn::win32
+Look StripLook(const TabStrip&) {
+    return {.className = WC_TABCONTROLA, .style = WS_TABSTOP | WS_CLIPSIBLINGS, .commonClass = ICC_TAB_CLASSES};
+}
+
+void FillStrip(TabStrip& strip) {
+    for (const TabPage* page : strip.Pages()) {
+        TCITEMA item{};
+        item.mask = TCIF_TEXT;
+        item.pszText = const_cast<char*>(page->Caption().c_str());
+        SendMessageA(WindowOf(strip), TCM_INSERTITEMA, strip.Pages().size(), reinterpret_cast<LPARAM>(&item));
+    }
+    SendMessageA(WindowOf(strip), TCM_SETCURSEL, static_cast<WPARAM>(strip.Tab()), 0);
+    ShowFrontPage(strip);
+}
+
+void ApplyStrip(TabStrip& strip, Aspect aspect) {
+    if (aspect == Aspect::Value && SendMessageA(WindowOf(strip), TCM_GETCURSEL, 0, 0) != strip.Tab())
+        SendMessageA(WindowOf(strip), TCM_SETCURSEL, static_cast<WPARAM>(strip.Tab()), 0);
+    if (aspect == Aspect::Value || aspect == Aspect::Visible) ShowFrontPage(strip);
+    if (aspect == Aspect::Place) PlacePages(strip);
+}
+
+void SetStripFont(const TabStrip& strip, HFONT font) {
+    SendMessageA(WindowOf(strip), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    SendMessageA(WindowOf(strip), TCM_SETITEMSIZE, 0, MAKELPARAM(0, ToPixels(TabStrip::kTabHeight, DpiOf(strip))));
+}
+
+std::optional<LRESULT> StripNotify(TabStrip& strip, const NMHDR& header) {
+    if (header.code != TCN_SELCHANGE) return std::nullopt;
+    strip.UserTurnsTo(static_cast<int>(SendMessageA(header.hwndFrom, TCM_GETCURSEL, 0, 0)));
+    return 0;
+}
+
+}  // namespace
+
+}  // namespace win32
+
+namespace native {
+
+using namespace win32;
+
+const Kind kTabStrip{.look = For<StripLook>,
+                     .fill = For<FillStrip>,
+                     .apply = For<ApplyStrip>,
+                     .setFont = For<SetStripFont>,
+                     .notify = For<StripNotify>};
+
+}  // namespace native
+
+}  // namespace quirn

@@ -1,12 +1,13 @@
 #include <windows.h>
 
+#include <commctrl.h>  // needs windows.h first
+
 #include <cstring>
 
-#include "platform/native.h"
+#include "platform/win32/kind.h"
 #include "platform/win32/metrics.h"
-#include "platform/win32/window.h"
 
-// Boxes of text: what is typed, copied and pasted.
+// Boxes of text: what is typed, copied and pasted; and the arrows beside a number.
 namespace quirn {
 
 namespace win32 {
@@ -75,17 +76,10 @@ void Type(MaskedBox& box, char character) {
     EditAtCaret(box, [&](const Selection& at) { return box.UserTypes(character, at.from, at.to); });
 }
 
-}  // namespace
-
-std::string TextOf(HWND window) {
-    std::string text(static_cast<size_t>(GetWindowTextLengthA(window)) + 1, '\0');
-    text.resize(static_cast<size_t>(GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
-
-std::optional<LRESULT> TextBoxMessage(TextBox& box, UINT message, WPARAM wParam) {
+std::optional<LRESULT> TextBoxMessage(TextBox& box, const Message& m) {
     const HWND window = WindowOf(box);
-    switch (message) {
+    const WPARAM wParam = m.wParam;
+    switch (m.message) {
         case WM_CHAR:
             if (box.UserTypes(static_cast<char>(wParam))) return 0;
             if (wParam == kSelectAll) {
@@ -109,8 +103,9 @@ std::optional<LRESULT> TextBoxMessage(TextBox& box, UINT message, WPARAM wParam)
     return std::nullopt;
 }
 
-std::optional<LRESULT> MaskedBoxMessage(MaskedBox& box, UINT message, WPARAM wParam) {
-    switch (message) {
+std::optional<LRESULT> MaskedBoxMessage(MaskedBox& box, const Message& m) {
+    const WPARAM wParam = m.wParam;
+    switch (m.message) {
         case WM_CHAR:
             if (wParam == kSelectAll) SendMessageA(WindowOf(box), EM_SETSEL, 0, -1);
             else if (wParam == kCopy) return std::nullopt;
@@ -133,11 +128,83 @@ std::optional<LRESULT> MaskedBoxMessage(MaskedBox& box, UINT message, WPARAM wPa
     }
 }
 
+Look BoxLook(const Control&) {
+    return {.className = "EDIT", .style = WS_TABSTOP | ES_AUTOHSCROLL, .extendedStyle = WS_EX_CLIENTEDGE};
+}
+
+Look TextBoxLook(const TextBox& box) {
+    Look look = BoxLook(box);
+    if (box.Style() == TextStyle::ReadPage)
+        look.style |= WS_VSCROLL | WS_HSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL;
+    return look;
+}
+
+void ApplyTextBox(const TextBox& box, Aspect aspect) {
+    if (aspect != Aspect::Value) return;
+    constexpr char kBullet = '\x95';
+    const WPARAM shown = box.IsMasked() ? static_cast<unsigned char>(kBullet) : 0;
+    if (static_cast<WPARAM>(SendMessageA(WindowOf(box), EM_GETPASSWORDCHAR, 0, 0)) == shown) return;
+    SendMessageA(WindowOf(box), EM_SETPASSWORDCHAR, shown, 0);
+    InvalidateRect(WindowOf(box), nullptr, TRUE);
+}
+
+void FillTextBox(const TextBox& box) {
+    if (box.IsMasked()) ApplyTextBox(box, Aspect::Value);
+}
+
+// A text that is being set comes here too. The control has it already, and the window need not give back the same: a
+// NUL ends its text, and bytes that the system's code page does not know change in it.
+template <class AnyBox>
+void BoxCommand(AnyBox& box, WORD code) {
+    if (code == EN_CHANGE && !TextIsBeingSet(WindowOf(box))) box.UserEdits(TextOf(WindowOf(box)));
+}
+
+Look UpDownLook(const UpDown&) {
+    return {.className = UPDOWN_CLASSA, .style = UDS_ARROWKEYS, .commonClass = ICC_UPDOWN_CLASS};
+}
+
+void FillUpDown(const UpDown& arrows) {
+    // The window counts nothing itself; a range around its position keeps both arrows alive.
+    SendMessageA(WindowOf(arrows), UDM_SETRANGE32, static_cast<WPARAM>(-10000), 10000);
+    SendMessageA(WindowOf(arrows), UDM_SETBUDDY, reinterpret_cast<WPARAM>(WindowOf(arrows.Buddy())), 0);
+}
+
+std::optional<LRESULT> UpDownNotify(UpDown& arrows, const NMHDR& header) {
+    if (header.code != UDN_DELTAPOS) return std::nullopt;
+    arrows.UserSpins(reinterpret_cast<const NMUPDOWN&>(header).iDelta);
+    return TRUE;  // its own position stays
+}
+
+}  // namespace
+
 }  // namespace win32
 
 namespace native {
 
 using namespace win32;
+
+const Kind kTextBox{.look = For<TextBoxLook>,
+                    .fill = For<FillTextBox>,
+                    .apply = For<ApplyTextBox>,
+                    .command = For<BoxCommand<TextBox>>,
+                    .message = For<TextBoxMessage>,
+                    .holdsTexts = true};
+const Kind kMaskedBox{.look = For<BoxLook>,
+                      .command = For<BoxCommand<MaskedBox>>,
+                      .message = For<MaskedBoxMessage>,
+                      .holdsTexts = true,
+                      .selectsOnFocus = true};
+const Kind kUpDown{.look = For<UpDownLook>, .fill = For<FillUpDown>, .notify = For<UpDownNotify>};
+
+void SelectAll(TextBox& box) {
+    SendMessageA(WindowOf(box), EM_SETSEL, 0, -1);
+}
+
+void PutCaretAtEnd(TextBox& box) {
+    const auto end = static_cast<LPARAM>(box.Text().size());
+    SendMessageA(WindowOf(box), EM_SETSEL, static_cast<WPARAM>(end), end);
+    SendMessageA(WindowOf(box), EM_SCROLLCARET, 0, 0);
+}
 
 int CaretLeft(const TextBox& box) {
     POINT caret{};
