@@ -27,12 +27,16 @@ void SweepFolders(const Program& program) {
 }  // namespace
 
 void Main() {
+    Program program;
+    RunProgram(program);
+}
+
+void RunProgram(Program& program) {
     if (!ClaimSingleInstance()) {
         HandOverToRunningCopy();
         return;
     }
 
-    Program program;
     ReadFileLocations(program);
     InitCatalogue(program.profile);
     for (const std::string& argument : SplitCommandLine(CommandLineTail()))

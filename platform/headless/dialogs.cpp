@@ -21,6 +21,11 @@ std::function<void(const std::string&)>& Report() {
     return report;
 }
 
+std::function<void(Dialog&)>& DialogPlayer() {
+    static std::function<void(Dialog&)> player;
+    return player;
+}
+
 struct ExpectedFile {
     bool save;
     std::string title;
@@ -39,6 +44,11 @@ FileDialog& Last() {
 
 std::optional<std::string> AnswerFile(bool save, const FileDialog& dialog) {
     Last() = dialog;
+    if (DialogPlayer()) {
+        Dialog shown{save ? Dialog::Kind::SaveFile : Dialog::Kind::OpenFile, dialog.title, dialog.flags};
+        DialogPlayer()(shown);
+        return shown.path;
+    }
     auto& expected = ExpectedFiles();
     if (expected.empty() || expected.front().save != save ||
         (!expected.front().title.empty() && expected.front().title != dialog.title)) {
@@ -136,6 +146,10 @@ const FileDialog& LastFileDialog() {
     return Last();
 }
 
+void SetDialogPlayer(std::function<void(Dialog&)> answer) {
+    DialogPlayer() = std::move(answer);
+}
+
 void ReportFailure(const std::string& text) {
     Report()(text);
 }
@@ -147,6 +161,11 @@ void SetDialogFailureReport(std::function<void(const std::string&)> report) {
 }  // namespace headless
 
 Answer ShowMessage(const std::string& text, unsigned style, const std::string& caption) {
+    if (headless::DialogPlayer()) {
+        headless::Dialog shown{headless::Dialog::Kind::Message, text, style};
+        headless::DialogPlayer()(shown);
+        return shown.answer;
+    }
     auto& expected = headless::Expected();
     const headless::MessageBox shown{text, style, Answer::Cancel, caption.empty() ? kTitle : caption};
     if (expected.empty() || expected.front().text != shown.text || expected.front().style != shown.style ||
@@ -169,10 +188,20 @@ std::optional<std::string> AskSaveFile(const FileDialog& dialog) {
 }
 
 std::optional<Font> AskFont(const Font& current) {
+    if (headless::DialogPlayer()) {
+        headless::Dialog shown{headless::Dialog::Kind::Font, "Font"};
+        headless::DialogPlayer()(shown);
+        return shown.font;
+    }
     return headless::Fonts().Ask("font", current);
 }
 
 std::optional<Color> AskColor(Color current) {
+    if (headless::DialogPlayer()) {
+        headless::Dialog shown{headless::Dialog::Kind::Color, "Color"};
+        headless::DialogPlayer()(shown);
+        return shown.color;
+    }
     return headless::Colors().Ask("colour", current);
 }
 

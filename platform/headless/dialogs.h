@@ -41,6 +41,20 @@ Color LastColorAsked();
 // What the last file dialog was asked for.
 const FileDialog& LastFileDialog();
 
+// A dialog that is open, and its answer: what is not set is Cancel.
+struct Dialog {
+    enum class Kind { Message, OpenFile, SaveFile, Font, Color } kind;
+    std::string text;    // or the title
+    unsigned style = 0;  // of the box, or the flags of the file dialog
+    Answer answer = Answer::Cancel;
+    std::optional<std::string> path{};
+    std::optional<Font> font{};
+    std::optional<Color> color{};
+};
+
+// Someone who answers all dialogs, in place of the answers given in advance. Returns when the dialog is to go.
+void SetDialogPlayer(std::function<void(Dialog&)> answer);
+
 // A test fails with this text.
 void ReportFailure(const std::string& text);
 

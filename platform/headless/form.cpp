@@ -26,11 +26,27 @@ struct PostedTask {
     std::function<void()> task;
 };
 
+struct ModalWait {
+    const Form* form;
+    const Form* owner;
+};
+
 long now = 0;
-int loadedForms = 0;
+std::vector<Form*> loadedForms;
 std::vector<RunningTimer> timers;
 std::vector<PostedTask> tasks;
-std::vector<const Form*> blocked;  // by a modal form, one entry for each
+std::vector<ModalWait> modalForms;
+int questions = 0;
+std::function<int()> player;
+
+// Before the form's window goes, as on Windows.
+void EndModal(const Form& form) {
+    std::erase_if(modalForms, [&](const ModalWait& wait) { return wait.form == &form; });
+}
+
+bool NothingIsLeftToHappen() {
+    return !player && tasks.empty() && timers.empty();
+}
 
 // Runs the earliest task or timer that is due, if any.
 bool RunOne() {
@@ -94,6 +110,26 @@ long Now() {
     return now;
 }
 
+void SetPlayer(std::function<int()> act) {
+    player = std::move(act);
+}
+
+Question::Question() {
+    ++questions;
+}
+
+Question::~Question() {
+    --questions;
+}
+
+const std::vector<Form*>& LoadedForms() {
+    return loadedForms;
+}
+
+size_t RunningTimers() {
+    return timers.size();
+}
+
 }  // namespace headless
 
 Bounds ScreenArea() {
@@ -113,14 +149,14 @@ void DoEvents() {
 void DoPaintEvents() {}
 
 void WaitForEvents(int milliseconds) {
-    const long end = now + milliseconds;
+    const long end = now + (player ? player() : milliseconds);
     while (now < end && !RunOne()) ++now;
     DoEvents();
 }
 
 void RunEventLoop() {
-    // A loop that nothing can end any more would never return: give up when nothing is left to happen.
-    while (loadedForms > 0 && (!tasks.empty() || !timers.empty())) WaitForEvents(1);
+    // A loop that nothing can end any more would never return.
+    while (!loadedForms.empty() && !NothingIsLeftToHappen()) WaitForEvents(1);
 }
 
 namespace native {
@@ -131,14 +167,15 @@ const Kind kLabel{}, kPicture{}, kFrame{}, kButton{}, kCheckBox{}, kOptionButton
     kComboBox{}, kListBox{}, kVirtualList{}, kTable{}, kTabStrip{}, kProgressBar{}, kStatusBar{};
 
 void CreateForm(Form& form) {
-    ++loadedForms;
+    loadedForms.push_back(&form);
     form.window = &form;
 }
 
 void FormReady(Form&) {}
 
 void DestroyForm(Form& form) {
-    --loadedForms;
+    EndModal(form);
+    std::erase(loadedForms, &form);
     form.window = nullptr;
     ForEachControl(form, [](Control& control) {
         topIndexes.erase(&control);
@@ -153,24 +190,25 @@ void FormChanged(Form& form, Aspect aspect) {
 
 void ShowForm(Form& form, bool visible) {
     if (visible) ForEachControl(form, MakeWindow);
+    else EndModal(form);
     form.WindowShown(visible);
 }
 
 bool IsBlocked(const Form& form) {
-    return std::find(blocked.begin(), blocked.end(), &form) != blocked.end();
+    return questions > 0 || std::any_of(modalForms.begin(), modalForms.end(),
+                                        [&](const ModalWait& wait) { return wait.owner == &form; });
 }
 
 void RunModal(Form& form, Form& owner) {
-    blocked.push_back(&owner);
+    modalForms.push_back({&form, &owner});
     form.Show();
     while (form.IsLoaded() && form.Visible()) {
-        if (tasks.empty() && timers.empty()) {
+        if (NothingIsLeftToHappen()) {
             headless::ReportFailure("the modal form \"" + form.Caption() + "\" was left open");
             form.Hide();
         }
         WaitForEvents(1);
     }
-    blocked.pop_back();
 }
 
 void BringToFront(Form& form) {

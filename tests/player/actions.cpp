@@ -1,0 +1,332 @@
+#include <algorithm>
+
+#include "mainwin/menurows.h"
+#include "platform/files.h"
+#include "platform/headless/events.h"
+#include "platform/headless/headless.h"
+#include "platform/native.h"
+#include "platform/version.h"
+#include "tests/player/player.h"
+#include "tests/testing/userinput.h"
+#include "tests/testing/world.h"
+
+namespace quirn::test {
+
+using headless::TheWorld;
+
+namespace {
+
+const std::string kProfile =
+    "[QUIRN]\r\nVersion=1.61\r\n[Dialog]\r\nPlayerName=Ace\r\nServerArena=Ember Reach\r\nPlayerShipType=3\r\n"
+    "WaveFileF11=C:\\SubSpace\\ping.wav\r\n[Messages]\r\nShiftF1=hello\r\n[Options]\r\nMusicVolume=40\r\n"
+    "[IgnoreList]\r\nIgnore1=Mole\r\n[Advanced]\r\nSkipSplash=";
+const std::string kLog =
+    "  Ace> hello\r\n  Mole> hi there\r\nP  Ace> team\r\n    Mole(25) killed by: Ace\r\n  Orla> \x93quoted\x94\r\n\r\n"
+    "C 1:Mole> chat\r\nnonsense\r\n";
+
+// What lies in the player's folders at the start; without bytes it is not there.
+const struct {
+    const char* path;
+    std::string bytes;
+} kFiles[] = {{"C:\\Mine\\a.qrn", kProfile + "0"},
+              {"C:\\Mine\\b.qrn", kProfile + "1"},
+              {"C:\\Mine\\a & b.qrn", kProfile + "0"},
+              {"C:\\Mine\\old.qrn", "[Dialog]\r\nPlayerName=Old\r\n"},
+              {"C:\\Mine\\new.qrn", ""},
+              {"C:\\Mine\\notes.txt", "nothing of interest"},
+              {"C:\\None\\missing.qrn", ""},
+              {"C:\\SubSpace\\subspace.exe", "game"},
+              {"C:\\SubSpace\\favorite.lst", "Ember Reach,zone1.example,5400\r\n*Duels.\r\n"},
+              {"C:\\SubSpace\\ignore.txt", "Mole\r\nOrla\r\n"},
+              {"C:\\SubSpace\\ping.wav", "wave"},
+              {"C:\\SubSpace\\chat.ssm", "one\r\ntwo\r\n"},
+              {"C:\\SubSpace\\monday.log", kLog},
+              {"C:\\SubSpace\\other.log", kLog + kLog},
+              {"C:\\Program\\readme.txt", "Read me.\r\n"}};
+const char* const kTexts[] = {"a",  "Ace",  " ",  "%", ".", "192.0.2.1", "7",
+                              "-3", "\xE9", "\"", "=", ";", "[x]",       "GZZZ-"};
+const int kKeys[] = {kKeyTab, kKeyEnter, kKeyEscape, kKeyDelete, kKeyF1, kKeyF3, ' ',
+                     '%',     'A',       'C',        'F',        'N',    'O',    'S'};
+constexpr char kAccessKeys[] = "abcdefghilmnoprstvw";
+constexpr unsigned kTrayMessages[] = {kMouseLeftDoubleClick, kMouseRightDown, 512};
+constexpr int kPauses[] = {1, 50, 200, 1000, 4000};
+
+}  // namespace
+
+void Player::MakeWorld() {
+    auto& world = TheWorld();
+    headless::MakeFolder("C:\\Mine");
+    for (const auto& [path, bytes] : kFiles)
+        if (!bytes.empty() && !random_.OneIn(20)) PutFile(path, bytes);
+    for (const char* key : {"Dialog", "Messages", "Options", "Advanced"})
+        if (!random_.OneIn(10)) MakeKey(std::string("Software\\Virgin\\SubSpace\\") + key);
+    const auto setting = [](const std::string& name, const std::string& text) {
+        PutValue("Software\\QUIRN\\" + name.substr(0, name.find('/')), name.substr(name.find('/') + 1), 1, text + '\0');
+    };
+    if (!random_.OneIn(10)) setting("File Locations/SubSpace", "C:\\SubSpace");
+    setting("File Locations/QRN Files", "C:\\Mine");
+    for (int i = 1; i <= 3; ++i) {
+        setting("Favourites/Fav" + std::to_string(i) + "Name", "Ace - Ember Reach");
+        setting("Favourites/Fav" + std::to_string(i) + "Path", random_.From(kFiles).path);
+        setting("Recent File List/MRU" + std::to_string(i), random_.From(kFiles).path);
+    }
+    const char* const starts[] = {"", "", "", "", "/Q", "/LR:a.qrn", "/LR:b.qrn", "/what"};
+    world.commandLineTail = random_.From(starts);
+    world.programsFailToStart = random_.OneIn(10);
+}
+
+int Player::DoSomething() {
+    const std::vector<Form*> forms = UsableForms();
+    const size_t kind = random_.Below(100);
+    if (!dialogs_.empty() && kind < 60) {
+        AnswerDialog();
+    } else if (!forms.empty() && kind < 80) {
+        UseForm(*random_.From(forms));
+    } else if (kind < 86) {
+        UseTray();
+    } else if (kind < 89) {
+        StartSecondCopy();
+    } else if (kind < 90) {
+        EndSession();
+    } else if (kind < 93) {
+        ChangeFiles();
+    } else if (kind < 96) {
+        ChangeWorld();
+    } else {
+        Tell("time passes");
+        return random_.From(kPauses);
+    }
+    return 0;
+}
+
+void Player::AnswerDialog() {
+    OpenDialog& open = dialogs_.back();
+    headless::Dialog& dialog = *open.dialog;
+    open.answered = true;
+    switch (dialog.kind) {
+        case headless::Dialog::Kind::Message: {
+            constexpr Answer kOk[] = {Answer::Ok}, kOkOrNot[] = {Answer::Ok, Answer::Cancel};
+            constexpr Answer kAll[] = {Answer::Yes, Answer::No, Answer::Cancel};
+            const unsigned buttons = dialog.style % kCritical;
+            dialog.answer = buttons == kYesNoCancel ? random_.From(kAll)
+                            : buttons == kOkCancel  ? random_.From(kOkOrNot)
+                                                    : random_.From(kOk);
+            break;
+        }
+        case headless::Dialog::Kind::Font: dialog.font = Font{.face = "Arial", .points = 12}; break;
+        case headless::Dialog::Kind::Color: dialog.color = Rgb(1, 2, 3); break;
+        default:
+            dialog.path = kFiles[random_.Below(random_.OneIn(3) ? std::size(kFiles) : 4)].path;  // or a profile
+            if ((dialog.style & kFileMustExist) != 0 && headless::FindFile(*dialog.path) == nullptr)
+                dialog.path.reset();
+    }
+    if (random_.OneIn(5)) {
+        dialog.path.reset();
+        dialog.font.reset();
+        dialog.color.reset();
+    }
+    Tell("answer " + std::to_string(static_cast<int>(dialog.answer)) + " " + dialog.path.value_or(""));
+}
+
+void Player::UseForm(Form& form) {
+    const size_t kind = random_.Below(20);
+    if (kind < 2) {
+        PressKey(form);
+    } else if (kind < 3) {
+        UseWindow(form);
+    } else if (form.IsMinimized()) {
+        Tell("restore");
+        form.WindowMinimized(false);
+        form.WindowResized();
+    } else if (kind < 4 && form.onDropFile) {
+        const std::string path = random_.From(kFiles).path;
+        Tell("drop " + path);
+        Allow(Allowed::Load);
+        const std::string before = program_.CurrentFile;
+        form.onDropFile(path);
+        const bool isProfile = FileBytes(path).value_or("").find("[Dialog]") != std::string::npos;
+        if (program_.CurrentFile == path && before != path && !isProfile) Fail("a Save would now destroy " + path);
+    } else if (kind < 8 && form.MenuBar() != nullptr) {
+        ChooseFromMenu(form, *form.MenuBar());
+    } else {
+        std::vector<Control*> controls;
+        native::ForEachControl(form, [&](Control& control) {
+            const TabPage* page = PageOf(control.Holder());
+            if (control.Visible() && control.Enabled() && (page == nullptr || page->IsInFront()))
+                controls.push_back(&control);
+        });
+        if (!controls.empty()) UseControl(*random_.From(controls));
+    }
+}
+
+void Player::UseControl(Control& control) {
+    Tell("use \"" + control.Text().substr(0, 60) + "\" of " + control.Holder().Owner().Caption());
+    AllowClickOn(&control);
+    if (auto* label = dynamic_cast<Label*>(&control)) Click(*label);
+    else if (auto* picture = dynamic_cast<Picture*>(&control)) Click(*picture);
+    else if (auto* button = dynamic_cast<Button*>(&control)) Click(*button);
+    else if (auto* box = dynamic_cast<CheckBox*>(&control)) Click(*box);
+    else if (auto* option = dynamic_cast<OptionButton*>(&control)) Click(*option);
+    else if (auto* text = dynamic_cast<TextBox*>(&control)) UseText(*text);
+    else if (auto* masked = dynamic_cast<MaskedBox*>(&control)) UseMasked(*masked);
+    else if (auto* lines = dynamic_cast<VirtualList*>(&control)) UseList(*lines);
+    else if (auto* strip = dynamic_cast<TabStrip*>(&control))
+        TurnTo(*strip, static_cast<int>(random_.Below(strip->Pages().size())));
+    else if (auto* arrows = dynamic_cast<UpDown*>(&control)) Spin(*arrows, random_.OneIn(2) ? 1 : -1);
+    else if (auto* combo = dynamic_cast<ComboBox*>(&control); combo != nullptr && !combo->Items().empty()) {
+        combo->SetFocus();
+        combo->UserHighlights(static_cast<int>(random_.Below(combo->Items().size())));
+        if (random_.OneIn(2)) Choose(*combo, static_cast<int>(random_.Below(combo->Items().size())));
+        else combo->UserHighlights(combo->ListIndex());
+    } else if (auto* list = dynamic_cast<ListBox*>(&control); list != nullptr && !list->Items().empty()) {
+        list->SetFocus();
+        Choose(*list, {static_cast<int>(random_.Below(list->Items().size()))});
+        list->UserReleasesMouse();
+    }
+}
+
+void Player::UseText(TextBox& box) {
+    box.SetFocus();
+    if (box.Style() != TextStyle::Line) return;
+    if (random_.OneIn(4)) box.UserEdits("");
+    else if (random_.OneIn(10)) box.UserEdits(std::string(300, 'x'));
+    else Type(box, random_.From(kTexts));
+}
+
+void Player::UseMasked(MaskedBox& box) {
+    box.SetFocus();
+    const size_t caret = random_.Below(box.Text().size() + 1);
+    if (random_.OneIn(4)) Paste(box, random_.From(kTexts), caret);
+    else if (random_.OneIn(4)) box.UserClears(0, caret);
+    else Type(box, random_.OneIn(3) ? "\x08" : random_.From(kTexts), caret);
+}
+
+void Player::UseList(VirtualList& list) {
+    list.SetFocus();
+    if (random_.OneIn(3)) {
+        list.UserPressesRightButton();
+        if (!TheWorld().poppedUpMenus.empty())
+            ChooseFromMenu(list.Holder().Owner(), *TheWorld().poppedUpMenus.back().menu);
+    } else if (list.Count() > 0) {
+        const size_t item = random_.Below(list.Count());
+        if (random_.OneIn(4)) DoubleClickItem(list, item);
+        else ClickItem(list, item, random_.OneIn(3), random_.OneIn(3));
+    }
+}
+
+void Player::UseWindow(Form& form) {
+    const bool sizable = form.Border() == FormBorder::Sizable || form.Border() == FormBorder::SizableDialog;
+    if (random_.OneIn(2)) {
+        Tell("close " + form.Caption());
+        form.UserCloses(UnloadMode::CloseBox);
+    } else if (form.Border() == FormBorder::Sizable || form.Border() == FormBorder::Fixed) {
+        Tell("minimise " + form.Caption());
+        form.WindowMinimized(true);
+    } else if (sizable) {
+        Bounds place = form.Place();
+        place.width = form.MinimumWidth() + static_cast<int>(random_.Below(9000));
+        form.WindowMoved(place, random_.OneIn(3));
+        form.WindowResized();
+    }
+}
+
+void Player::PressKey(Form& form) {
+    const int key = random_.From(kKeys);
+    const bool control = random_.OneIn(3);
+    Tell("key " + std::to_string(key) + (control ? " with Ctrl in " : " in ") + form.Caption());
+    if (&form == MainWindow() && control && key == 'S') Allow(Allowed::Save, program_.CurrentFile);
+    if (&form == MainWindow() && control && (key == 'N' || key == 'O')) Allow(Allowed::Load);
+    if (key == kKeyEnter || key == ' ') AllowClickOn(form.ActiveControl());
+    if (random_.OneIn(5)) form.UserPressesAccessKey(kAccessKeys[random_.Below(sizeof kAccessKeys - 1)]);
+    else if (key == kKeyTab && !control) form.FocusNext(form.ActiveControl());
+    else Press(form, key, control, random_.OneIn(8));
+}
+
+void Player::ChooseFromMenu(Form& form, Menu& menu) {
+    TheWorld().poppedUpMenus.clear();
+    const Menu::Item& item = random_.From(menu.Items());
+    const int command = item.row.command;
+    menu.UserPointsAt(command);
+    if (random_.OneIn(8) || !item.IsEnabled()) return;
+    Tell("menu " + std::to_string(command) + " \"" + item.caption + "\" of " + form.Caption());
+    if (&form == MainWindow()) {
+        if (command == mnuFile_Save) Allow(Allowed::Save, program_.CurrentFile);
+        if (command == mnuFile_New || command == mnuFile_Open || (command >= mnuFileMRU && command < mnuFileBarMRU))
+            Allow(Allowed::Load);
+        if (command >= mnuPUTrayIcon_Fav && command < mnuPUTrayIconBarExit) Allow(Allowed::Transfer);
+    }
+    menu.UserChooses(command);
+}
+
+void Player::UseTray() {
+    if (TheWorld().trayIcons.empty()) return;
+    TrayIcon& icon = *TheWorld().trayIcons.front();
+    const unsigned message = random_.From(kTrayMessages);
+    Tell("tray " + std::to_string(message));
+    icon.UserPoints(message);
+    if (!TheWorld().poppedUpMenus.empty()) ChooseFromMenu(icon.Owner(), *TheWorld().poppedUpMenus.back().menu);
+}
+
+// Windows asks one top-level window after the other, until one says no.
+void Player::EndSession() {
+    Tell("the session ends");
+    std::vector<Form*> forms = headless::LoadedForms();
+    if (random_.OneIn(2)) std::reverse(forms.begin(), forms.end());
+    for (Form* form : forms) {
+        const auto isLoaded = [form] {
+            const auto& loaded = headless::LoadedForms();
+            return std::find(loaded.begin(), loaded.end(), form) != loaded.end();
+        };
+        if (!isLoaded()) continue;
+        if (form->IsBlocked()) return;
+        form->UserCloses(UnloadMode::SystemShutdown);
+        if (isLoaded()) return;
+    }
+}
+
+// It shows the main window, whatever that does, and goes.
+void Player::StartSecondCopy() {
+    Tell("second copy");
+    frmMain* const main = MainWindow();
+    if (main == nullptr || main->IsLoading()) return;
+    native::ShowForm(*main, true);
+    main->WindowMinimized(false);
+}
+
+void Player::ChangeFiles() {
+    const std::string path = random_.From(kFiles).path;
+    headless::File* const file = headless::FindFile(path);
+    const size_t kind = random_.Below(5);
+    Tell("file " + path + " " + std::to_string(kind));
+    if (kind == 0 || file == nullptr) PutFile(path, random_.OneIn(2) ? kLog : kProfile + "0");
+    else if (kind == 1) TheWorld().files.erase(AbsolutePath(path));
+    else if (kind == 2) file->readOnly = !file->readOnly;
+    else if (kind == 3) file->holders = 1 - file->holders;
+    else TheWorld().diskRoom = TheWorld().diskRoom ? std::nullopt : std::optional<size_t>(random_.Below(8000));
+    seen_ = Look();
+}
+
+void Player::ChangeWorld() {
+    auto& world = TheWorld();
+    const size_t kind = random_.Below(6);
+    Tell("world " + std::to_string(kind));
+    if (kind < 2) {
+        if (world.windows.empty()) world.windows = {{"SubSpaceClass", "Game"}};
+        else world.windows.clear();
+    } else if (kind == 2) {
+        if (!world.startedPrograms.empty()) world.startedPrograms.back().running = false;
+    } else if (kind == 3) {
+        world.programsFailToStart = !world.programsFailToStart;
+    } else if (kind == 4) {
+        world.clipboardIsHeld = !world.clipboardIsHeld;
+    } else {
+        world.shellFailure =
+            world.shellFailure ? std::nullopt : std::optional<ErrorNumber>(ErrorNumber::PermissionDenied);
+    }
+}
+
+void Player::AllowClickOn(const Control* control) {
+    if (control != nullptr && control->Text() == "Transfer Profile And Run Subspace") Allow(Allowed::Transfer);
+}
+
+}  // namespace quirn::test
