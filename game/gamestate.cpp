@@ -24,6 +24,10 @@ long WriteStored(const RegistryKey& key, const std::string& name, const std::opt
     return wanted ? key.Write(name, *wanted) : key.Remove(name);
 }
 
+std::string PathIn(const std::string& folder, const std::string& name) {
+    return folder + "\\" + name;
+}
+
 Failure WriteFileAsIs(const std::string& path, const std::optional<std::string>& bytes) {
     if (bytes) return WriteGameFile(path, *bytes);
     const Result<std::string> old = ReadWholeFile(path);
@@ -43,7 +47,7 @@ Result<GameState> ReadGameState(const Profile& catalogue, const std::string& gam
                 return ErrorNumber::PathFileAccess;
     }
     for (const char* name : kPlayerFiles) {
-        Result<std::string> bytes = ReadWholeFile(gameFolder + "\\" + name);
+        Result<std::string> bytes = ReadWholeFile(PathIn(gameFolder, name));
         if (!bytes.Failed()) state.files[name] = bytes.Take();
         else if (IsMissingFile(bytes.Error())) state.files[name] = std::nullopt;
         else return bytes.Error();
@@ -60,7 +64,7 @@ std::vector<RuntimeError> WriteGameState(const GameState& state, const std::stri
                 errors.push_back(MakeError(ErrorNumber::PathFileAccess));
     }
     for (const auto& [name, bytes] : state.files)
-        if (Failure failure = WriteFileAsIs(gameFolder + "\\" + name, bytes)) errors.push_back(*std::move(failure));
+        if (Failure failure = WriteFileAsIs(PathIn(gameFolder, name), bytes)) errors.push_back(*std::move(failure));
     return errors;
 }
 

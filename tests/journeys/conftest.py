@@ -11,6 +11,7 @@ import fcntl
 import os
 import pathlib
 import re
+import shutil
 import subprocess
 
 import pytest
