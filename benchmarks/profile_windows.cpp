@@ -53,10 +53,10 @@ int main() {
 
     Time("save a QRN file", [&] { SaveProfile(profile, gameFolder, file); });
     Time("load a QRN file", [&] { LoadProfile(profile, file); });
-    Time("write a profile to the game", [&] { TransferToGame(profile, gameFolder); });
+    Time("write a profile to the game", [&] { WriteSettings(profile); });
     Time("read a profile from the game", [&] { ReadProfileFromGame(profile, gameFolder); });
 
-    Time("read the game's state", [&] { ReadGameState(profile, gameFolder); });
+    Time("read the game's state", [&] { ReadGameState(gameFolder); });
 
     RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
     RegDeleteTreeA(scratch, nullptr);

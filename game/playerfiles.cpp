@@ -10,16 +10,12 @@ namespace quirn {
 
 namespace {
 
-std::string IgnorePath(const std::string& gameFolder) {
-    return gameFolder + "\\ignore.txt";
-}
-
-std::string WavePath(const std::string& gameFolder, size_t slot) {
-    return gameFolder + "\\record" + std::to_string(slot) + ".wav";
+std::string PathIn(const std::string& gameFolder, const std::string& name) {
+    return gameFolder + "\\" + name;
 }
 
 // The lines of an ignore file. A lone CR and a NUL end one too: a name that held them would be cut there in a QRN file.
-std::vector<std::string> NamesIn(std::string text) {
+std::vector<std::string> LinesIn(std::string text) {
     std::replace(text.begin(), text.end(), '\0', '\n');
     for (size_t i = 0; i < text.size(); ++i)
         if (text[i] == '\r' && text.compare(i, 2, "\r\n") != 0) text[i] = '\n';
@@ -27,17 +23,50 @@ std::vector<std::string> NamesIn(std::string text) {
     return {lines.begin(), lines.end()};
 }
 
-// Copies the profile's wave file over the game's, unless it has none or already names the game's own.
-Failure CopyWave(const std::string& source, const std::string& target) {
+using Plan = Result<std::optional<std::string>>;
+
+// The ignore list without its blank entries. To a file that could not be read before, only names are added.
+Plan PlanIgnoreFile(const Profile& profile, const std::string& path) {
+    std::string text;
+    if (profile.ignoreFileUnread) {
+        if (profile.IgnoreList.empty()) return std::optional<std::string>();
+        Result<std::string> unread = ReadWholeFile(path);
+        if (unread.Failed() && !IsMissingFile(unread.Error())) return unread.Error();
+        if (!unread.Failed()) text = unread.Take();
+        if (!text.empty() && !text.ends_with('\n')) text += "\r\n";
+    }
+    std::set<std::string, LessNoCase> known;
+    for (const std::string& line : LinesIn(text)) known.emplace(Trim(line));
+    for (const std::string& name : profile.IgnoreList)
+        if (!Trim(name).empty() && !known.contains(Trim(name))) text += name + "\r\n";
+    return std::optional(text);
+}
+
+// The profile's wave file, unless it has none or already names the game's own.
+Plan PlanWave(const std::string& source, const std::string& target) {
     // The first character alone decides, on purpose: every path that begins with "<" counts as not set. An empty path
     // is none either.
-    if (source.starts_with('<') || source.empty() || EqualNoCase(source, target)) return {};
-    const Result<std::string> wave = ReadWholeFile(source);
+    if (source.starts_with('<') || source.empty() || EqualNoCase(source, target)) return std::optional<std::string>();
+    Result<std::string> wave = ReadWholeFile(source);
     if (wave.Failed()) return wave.Error();
-    return WriteGameFile(target, wave.Value());
+    return std::optional(wave.Take());
+}
+
+Failure WritePlanned(const Profile& profile, const std::string& gameFolder, const std::string& name) {
+    const Plan bytes = PlanPlayerFile(profile, gameFolder, name);
+    if (bytes.Failed()) return bytes.Error();
+    return bytes.Value() ? WriteGameFile(PathIn(gameFolder, name), *bytes.Value()) : Failure();
 }
 
 }  // namespace
+
+Result<std::optional<std::string>> PlanPlayerFile(const Profile& profile, const std::string& gameFolder,
+                                                  const std::string& name) {
+    const std::string path = PathIn(gameFolder, name);
+    for (size_t slot = 0; slot < profile.WaveFiles.size(); ++slot)
+        if (name == kWaveNames[slot]) return PlanWave(profile.WaveFiles[slot], path);
+    return PlanIgnoreFile(profile, path);
+}
 
 Failure WriteGameFile(const std::string& path, const std::string& bytes) {
     const Result<std::string> old = ReadWholeFile(path);
@@ -47,33 +76,26 @@ Failure WriteGameFile(const std::string& path, const std::string& bytes) {
 }
 
 Failure WriteIgnoreFile(const Profile& profile, const std::string& gameFolder) {
-    std::string text;
-    if (profile.ignoreFileUnread) {
-        if (profile.IgnoreList.empty()) return {};
-        const Result<std::string> unread = ReadWholeFile(IgnorePath(gameFolder));
-        if (unread.Failed() && !IsMissingFile(unread.Error())) return unread.Error();
-        if (!unread.Failed()) text = unread.Value();
-        if (!text.empty() && !text.ends_with('\n')) text += "\r\n";
+    return WritePlanned(profile, gameFolder, kIgnoreFile);
+}
+
+std::vector<std::string> IgnoredNames(const std::string& text) {
+    std::vector<std::string> names;
+    for (const std::string& line : LinesIn(text)) {
+        const std::string_view name = Trim(line);
+        if (!name.starts_with('#')) names.emplace_back(name);  // from element 0: no slot is left empty
     }
-    std::set<std::string, LessNoCase> known;
-    for (const std::string& line : NamesIn(text)) known.emplace(Trim(line));
-    for (const std::string& name : profile.IgnoreList)
-        if (!Trim(name).empty() && !known.contains(Trim(name))) text += name + "\r\n";
-    return WriteGameFile(IgnorePath(gameFolder), text);
+    return names;
 }
 
 Failure ReadIgnoreFile(Profile& profile, const std::string& gameFolder) {
     profile.IgnoreList.clear();
     profile.ignoreFileUnread = false;
-    const Result<std::string> text = ReadWholeFile(IgnorePath(gameFolder));
-    if (text.Failed()) {
-        if (IsMissingFile(text.Error())) return {};
+    const Result<std::string> text = ReadWholeFile(PathIn(gameFolder, kIgnoreFile));
+    if (!text.Failed()) profile.IgnoreList = IgnoredNames(text.Value());
+    else if (!IsMissingFile(text.Error())) {
         profile.ignoreFileUnread = true;
         return text.Error();
-    }
-    for (const std::string& line : NamesIn(text.Value())) {
-        const std::string_view name = Trim(line);
-        if (!name.starts_with('#')) profile.IgnoreList.emplace_back(name);  // from element 0: no slot is left empty
     }
     return {};
 }
@@ -81,7 +103,7 @@ Failure ReadIgnoreFile(Profile& profile, const std::string& gameFolder) {
 Failure ReadPlayerFiles(Profile& profile, const std::string& gameFolder) {
     const Failure failure = ReadIgnoreFile(profile, gameFolder);
     for (size_t slot = 0; slot < profile.WaveFiles.size(); ++slot) {
-        const std::string path = WavePath(gameFolder, slot);
+        const std::string path = PathIn(gameFolder, kWaveNames[slot]);
         profile.WaveFiles[slot] = FileExists(path) ? path : kNotSet;
     }
     return failure;
@@ -89,12 +111,8 @@ Failure ReadPlayerFiles(Profile& profile, const std::string& gameFolder) {
 
 std::vector<RuntimeError> WritePlayerFiles(const Profile& profile, const std::string& gameFolder) {
     std::vector<RuntimeError> errors;
-    const auto keep = [&](Failure failure) {
-        if (failure) errors.push_back(*std::move(failure));
-    };
-    keep(WriteIgnoreFile(profile, gameFolder));
-    for (size_t slot = 0; slot < profile.WaveFiles.size(); ++slot)
-        keep(CopyWave(profile.WaveFiles[slot], WavePath(gameFolder, slot)));
+    for (const char* name : kPlayerFiles)
+        if (Failure failure = WritePlanned(profile, gameFolder, name)) errors.push_back(*std::move(failure));
     return errors;
 }
 

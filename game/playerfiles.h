@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,7 +11,18 @@
 // and "record0.wav" and "record1.wav", the sounds behind F11 and F12.
 namespace quirn {
 
-inline constexpr const char* kPlayerFiles[] = {"ignore.txt", "record0.wav", "record1.wav"};
+inline constexpr char kIgnoreFile[] = "ignore.txt";
+inline constexpr const char* kWaveNames[] = {"record0.wav", "record1.wav"};
+inline constexpr const char* kPlayerFiles[] = {kIgnoreFile, kWaveNames[0], kWaveNames[1]};
+
+// What a profile makes of one of these files; nothing when it leaves the file alone. Failure: what it would be made of
+// cannot be read.
+Result<std::optional<std::string>> PlanPlayerFile(const Profile& profile, const std::string& gameFolder,
+                                                  const std::string& name);
+
+// The names in the text of an ignore list: its lines (a lone CR or a NUL ends one too), trimmed, without its "#"
+// comments; empty lines are kept as empty entries.
+std::vector<std::string> IgnoredNames(const std::string& text);
 
 // Writes a file of the game unless it already holds those bytes: most launches change nothing here, and a write that is
 // flushed to the disk takes longer than all the rest.
@@ -20,8 +32,7 @@ Failure WriteGameFile(const std::string& path, const std::string& bytes);
 // the folder is missing, the file is read-only or held.
 Failure WriteIgnoreFile(const Profile& profile, const std::string& gameFolder);
 
-// Replaces the ignore list by the lines of the file (a lone CR or a NUL ends one too), trimmed, without its "#"
-// comments; empty lines are kept as empty entries. A missing file gives an empty list and is no failure.
+// Replaces the ignore list by the names in the file. A missing file gives an empty list and is no failure.
 Failure ReadIgnoreFile(Profile& profile, const std::string& gameFolder);
 
 // The ignore list and the two waves, from the game or to it. What fails does not stop the rest.

@@ -1,5 +1,7 @@
 #include "game/settingsstore.h"
 
+#include <cstring>
+
 #include "platform/text.h"
 
 namespace quirn {
@@ -73,6 +75,16 @@ long SetValueEx(const RegistryKey& key, const std::string& name, RegistryType ty
         return key.Set(name, type, &number, sizeof(number));
     }
     return kRegistrySuccess;
+}
+
+std::string TextOfStored(const std::optional<RegistryValue>& value) {
+    if (!value) return {};
+    if (value->type == RegistryType::Text)
+        return value->bytes.substr(0, value->bytes.size() - (value->bytes.ends_with('\0') ? 1 : 0));
+    int number = 0;
+    if (value->type != RegistryType::Number || value->bytes.size() != sizeof(number)) return {};
+    std::memcpy(&number, value->bytes.data(), sizeof(number));
+    return std::to_string(number);
 }
 
 void ReadSettings(Profile& profile) {

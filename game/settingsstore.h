@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -33,6 +34,9 @@ long SetKeyValue(const RegistryKey& key, const std::string& name, const SettingV
 
 // The same into a key that is open; nothing is written for another type, and the status is then 0.
 long SetValueEx(const RegistryKey& key, const std::string& name, RegistryType type, const SettingValue& value);
+
+// A stored value as a profile's text: nothing for one that is missing or of another type.
+std::string TextOfStored(const std::optional<RegistryValue>& value);
 
 // Reads every setting of the profile. What is missing becomes an empty text.
 void ReadSettings(Profile& profile);

@@ -58,6 +58,7 @@ frmMain::frmMain(Program& program)
                         .SetStatus = [this](const std::string& text) { StatusBar1.SetText(text); },
                         .RefreshRecentMenu = [this] { RefreshRecentMenu(menuBar_, program_.recentFiles); },
                     }),
+      launcher_(program),
       trayCommands_(*this, program, launcher_),
       menuBar_(MenuRows()),
       SSTab1(*this, kTabs),
@@ -241,7 +242,7 @@ void frmMain::ShowOptions(bool favourites) {
 void frmMain::Command3_Click() {
     if (program_.dirty && !fileCommands_.AskSaveChanges()) return;
     CollectProfile();
-    if (launcher_.TransferAndLaunch(program_.profile, program_.gameFolder)) Hide();
+    if (launcher_.TransferAndLaunch(program_.profile, {program_.CurrentFile, TransferWay::Run})) Hide();
 }
 
 void frmMain::Command4_Click() {

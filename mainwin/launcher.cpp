@@ -1,6 +1,5 @@
 #include "mainwin/launcher.h"
 
-#include "game/transfer.h"
 #include "platform/dialogs.h"
 
 namespace quirn {
@@ -11,20 +10,31 @@ constexpr int kGraceTime = 1000;  // milliseconds that the run box stays when th
 
 }  // namespace
 
-Launcher::Launcher() {
+Launcher::Launcher(const Program& program) : program_(program) {
     game_.onState = [this](GameRun::State state) {
         if (state == GameRun::State::Running) runBox_.CloseAfter(kGraceTime);
+        CallHandler(onChange);
     };
 }
 
-bool Launcher::TransferAndLaunch(const Profile& profile, const std::string& gameFolder) {
-    runBox_.Unload();
-    ShowErrors(TransferToGame(profile, gameFolder).errors);
-    return LaunchGame(profile, gameFolder);
+void Launcher::Transfer(const Profile& profile, const TransferNote& note) {
+    const TransferResult result = TransferToGame(profile, program_.gameFolder, TransferLog(program_.dataFolder), note);
+    keptLast_ = result.kept;
+    ShowErrors(result.errors);
+    CallHandler(onChange);
 }
 
-bool Launcher::LaunchGame(const Profile& profile, const std::string& gameFolder) {
-    if (gameFolder == kNotSet) {
+bool Launcher::TransferAndLaunch(const Profile& profile, const TransferNote& note) {
+    runBox_.Unload();
+    Transfer(profile, note);
+    const bool started = LaunchGame(profile);
+    // Not before: the player waits for the game.
+    TransferLog(program_.dataFolder).Sweep();
+    return started;
+}
+
+bool Launcher::LaunchGame(const Profile& profile) {
+    if (program_.gameFolder == kNotSet) {
         ShowMessage("You must set the location of the SUBSPACE.EXE file in the Options.", kExclamation);
         return false;
     }
@@ -34,7 +44,7 @@ bool Launcher::LaunchGame(const Profile& profile, const std::string& gameFolder)
         runBox_.Show();
         runBox_.Repaint();
     }
-    if (game_.Start(gameFolder)) return true;
+    if (game_.Start(program_.gameFolder)) return true;
     ShowMessage("ERROR - Could not start Subspace, but Macros were transfered.", kCritical);
     runBox_.Unload();
     return false;

@@ -3,8 +3,9 @@
 #include <string>
 
 #include "game/gamerun.h"
+#include "game/transfer.h"
 #include "mainwin/frmrunbox.h"
-#include "profile/profile.h"
+#include "mainwin/program.h"
 
 namespace quirn {
 
@@ -12,12 +13,15 @@ namespace quirn {
 // box while it starts.
 class Launcher {
 public:
-    Launcher();
+    explicit Launcher(const Program& program);
 
-    // What goes wrong is shown. True when the game has been started. It returns at once; the run box goes, without a
+    // Writes a profile into the game. What goes wrong is shown.
+    void Transfer(const Profile& profile, const TransferNote& note);
+
+    // The same, and starts the game. True when it has been started. It returns at once; the run box goes, without a
     // time limit, when the game's window has been there for one second or the player closes it. A launch that is under
     // way is given up for the new one.
-    bool TransferAndLaunch(const Profile& profile, const std::string& gameFolder);
+    bool TransferAndLaunch(const Profile& profile, const TransferNote& note);
 
     // Waits until the run box goes, or would go if it were shown.
     void WaitForGame();
@@ -25,9 +29,16 @@ public:
     // For the end of the program.
     void CloseRunBox() { runBox_.Unload(); }
 
-private:
-    bool LaunchGame(const Profile& profile, const std::string& gameFolder);
+    // The last transfer could be kept.
+    bool KeptLast() const { return keptLast_; }
 
+    std::function<void()> onChange;  // the game has been started or has ended, or its settings have been changed
+
+private:
+    bool LaunchGame(const Profile& profile);
+
+    const Program& program_;
+    bool keptLast_ = true;
     GameRun game_;
     frmRunBox runBox_;
 };

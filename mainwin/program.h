@@ -27,6 +27,7 @@ struct Program {
     std::string gameFolder;  // of subspace.exe, or kNotSet
     std::string qrnFolder;   // where profiles are looked for
     std::string helpFile;
+    std::string dataFolder;                      // for what the program keeps of its own; empty: it keeps nothing
     bool quiet = false;                          // start hidden in the tray
     std::string CurrentFile = kCurrentSettings;  // of the profile: a full path, or a name in "<>" when it has no file
     bool dirty = false;                          // the profile has changes that no QRN file holds

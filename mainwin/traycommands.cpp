@@ -53,7 +53,7 @@ void TrayCommands::mnuPUTrayIcon_Fav_Click(size_t slot) {
     Profile profile = program_.profile;
     if (!LoadProfileAndTell(profile, favourite.path)) return;
     mainWindow_.Hide();
-    launcher_.TransferAndLaunch(profile, program_.gameFolder);
+    launcher_.TransferAndLaunch(profile, {favourite.path, TransferWay::Tray});
 }
 
 void TrayCommands::mnuPUTrayIcon_Exit_Click() {

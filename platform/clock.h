@@ -7,4 +7,7 @@ namespace quirn {
 // Today's date, a blank, and the time, both in the user's short formats.
 std::string ShortDateAndTime();
 
+// The local time as a text that sorts and may be a file's name: "2026-11-23 14.05.10".
+std::string SortableTime();
+
 }  // namespace quirn

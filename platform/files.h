@@ -67,6 +67,11 @@ private:
 // The same for content that is there already.
 Failure WriteWholeFile(const std::string& path, std::string_view bytes);
 
+// Makes a file that is in nobody's way yet, or fills it anew; not in one step, so for what counts only once it is
+// whole. Flushed: it is on the disk when this returns, which takes longer than all else.
+enum class Flush { No, Yes };
+Failure WritePlainFile(const std::string& path, std::string_view bytes, Flush flush = Flush::No);
+
 // Where a file is written before it takes the place of the file at this path: the path with kUnfinishedSuffix, the name
 // cut at its front where the whole would be too long for the system.
 inline constexpr char kUnfinishedSuffix[] = "~quirn";

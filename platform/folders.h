@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,9 @@ struct FolderEntry {
 
 // Everything in the folder but "." and "..", hidden files too, in no order.
 Result<std::vector<FolderEntry>> ListFolder(const std::string& folder);
+
+// One file or folder; nothing when it is not there.
+std::optional<FolderEntry> FindEntry(const std::string& path);
 
 // Makes the folder and those above it. One that is there already is no failure.
 Failure MakeFolders(const std::string& folder);

@@ -19,8 +19,8 @@ bool LoadAndRun(Program& program, const std::string& argument) {
     // A bare name without an extension ends in a point, on purpose: it finds only a file that has none.
     const std::string file = bareName ? program.qrnFolder + "\\" + parts.File() : argument;
     if (!LoadProfileAndTell(program.profile, file)) return false;
-    Launcher launcher;
-    if (!launcher.TransferAndLaunch(program.profile, program.gameFolder)) return false;
+    Launcher launcher(program);
+    if (!launcher.TransferAndLaunch(program.profile, {file, TransferWay::CommandLine})) return false;
     launcher.WaitForGame();
     return true;
 }

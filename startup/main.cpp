@@ -6,6 +6,7 @@
 #include "mainwin/appsettings.h"
 #include "mainwin/frmmain.h"
 #include "platform/files.h"
+#include "platform/folders.h"
 #include "platform/process.h"
 #include "platform/text.h"
 #include "startup/commandline.h"
@@ -38,6 +39,7 @@ void RunProgram(Program& program) {
     }
 
     ReadFileLocations(program);
+    if (const std::string folder = LocalDataFolder(); !folder.empty()) program.dataFolder = folder + "\\QUIRN";
     InitCatalogue(program.profile);
     for (const std::string& argument : SplitCommandLine(CommandLineTail()))
         if (HandleCommandLineArg(program, argument)) return;

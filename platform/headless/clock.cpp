@@ -8,4 +8,8 @@ std::string ShortDateAndTime() {
     return headless::TheWorld().dateAndTime;
 }
 
+std::string SortableTime() {
+    return headless::TheWorld().sortableTime;
+}
+
 }  // namespace quirn

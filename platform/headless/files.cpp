@@ -193,6 +193,12 @@ Failure FileReplacer::Finish() {
     return failure;
 }
 
+Failure WritePlainFile(const std::string& path, std::string_view bytes, Flush) {
+    if (Failure failure = CheckReplaceable(path)) return failure;
+    if (!headless::Store(TheWorld().files[KeyOf(path)], bytes)) return MakeError(ErrorNumber::DiskFull);
+    return {};
+}
+
 bool RemoveFile(const std::string& path) {
     File* file = headless::FindFile(path);
     if (file == nullptr || file->readOnly || file->beingWritten || file->holders > 0) return false;

@@ -39,6 +39,14 @@ Result<std::vector<FolderEntry>> ListFolder(const std::string& folder) {
     return entries;
 }
 
+std::optional<FolderEntry> FindEntry(const std::string& path) {
+    const Result<std::vector<FolderEntry>> entries = ListFolder(FolderOf(KeyOf(path)));
+    if (entries.Failed()) return std::nullopt;
+    for (const FolderEntry& entry : entries.Value())
+        if (EqualNoCase(KeyOf(path), FolderOf(KeyOf(path)) + "\\" + entry.name)) return entry;
+    return std::nullopt;
+}
+
 Failure MakeFolders(const std::string& folder) {
     const std::string key = KeyOf(folder);
     if (key.empty() || !TheWorld().folders.contains(key.substr(0, key.find('\\'))))

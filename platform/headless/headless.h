@@ -90,6 +90,7 @@ struct World {
     std::optional<size_t> broughtToFront;  // index of the window
 
     std::string dateAndTime = "3/14/2004 9:26 PM";
+    std::string sortableTime = "2004-03-14 21.26.53";
 };
 
 World& TheWorld();

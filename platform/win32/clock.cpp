@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <array>
+#include <cstdio>
 
 namespace quirn {
 
@@ -18,6 +19,15 @@ std::string ShortDateAndTime() {
         GetTimeFormatA(LOCALE_USER_DEFAULT, 0, &now, format.data(), time.data(), static_cast<int>(time.size()));
     else GetTimeFormatA(LOCALE_USER_DEFAULT, TIME_NOSECONDS, &now, nullptr, time.data(), static_cast<int>(time.size()));
     return std::string(date.data()) + " " + time.data();
+}
+
+std::string SortableTime() {
+    SYSTEMTIME now{};
+    GetLocalTime(&now);
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%04d-%02d-%02d %02d.%02d.%02d", now.wYear, now.wMonth, now.wDay, now.wHour,
+                  now.wMinute, now.wSecond);
+    return text.data();
 }
 
 }  // namespace quirn

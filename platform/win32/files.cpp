@@ -193,6 +193,15 @@ Failure FileReplacer::Finish() {
     return failure;
 }
 
+Failure WritePlainFile(const std::string& path, std::string_view bytes, Flush flush) {
+    const KernelHandle file(
+        CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file) return LastError();
+    if (Failure failure = WriteTo(file.Get(), bytes)) return failure;
+    if (flush == Flush::Yes && !FlushFileBuffers(file.Get())) return LastError();
+    return {};
+}
+
 bool RemoveFile(const std::string& path) {
     return DeleteFileA(path.c_str()) != FALSE;
 }

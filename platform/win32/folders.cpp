@@ -12,6 +12,17 @@ namespace quirn {
 
 using win32::LastError;
 
+namespace {
+
+FolderEntry EntryOf(const WIN32_FIND_DATAA& found) {
+    const auto whole = [](DWORD high, DWORD low) { return uint64_t{high} << 32 | low; };
+    const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    return {found.cFileName, isFolder, isFolder ? 0 : whole(found.nFileSizeHigh, found.nFileSizeLow),
+            whole(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime)};
+}
+
+}  // namespace
+
 Result<std::vector<FolderEntry>> ListFolder(const std::string& folder) {
     WIN32_FIND_DATAA found;
     const win32::SearchHandle search(FindFirstFileA((folder + "\\*").c_str(), &found));
@@ -23,14 +34,16 @@ Result<std::vector<FolderEntry>> ListFolder(const std::string& folder) {
     }
     std::vector<FolderEntry> entries;
     do {
-        const std::string name = found.cFileName;
-        if (name == "." || name == "..") continue;
-        const auto whole = [](DWORD high, DWORD low) { return uint64_t{high} << 32 | low; };
-        const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-        entries.push_back({name, isFolder, isFolder ? 0 : whole(found.nFileSizeHigh, found.nFileSizeLow),
-                           whole(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime)});
+        const std::string_view name = found.cFileName;
+        if (name != "." && name != "..") entries.push_back(EntryOf(found));
     } while (FindNextFileA(search.Get(), &found));
     return entries;
+}
+
+std::optional<FolderEntry> FindEntry(const std::string& path) {
+    WIN32_FIND_DATAA found;
+    const win32::SearchHandle search(FindFirstFileA(path.c_str(), &found));
+    return search ? std::optional(EntryOf(found)) : std::nullopt;
 }
 
 Failure MakeFolders(const std::string& folder) {

@@ -33,7 +33,7 @@ protected:
         PutFile(game_ + "\\record1.wav", "pong");
     }
 
-    GameState State() { return ReadGameState(SampleProfile(), game_).Take(); }
+    GameState State() { return ReadGameState(game_).Take(); }
 
     const std::string game_ = Scratch() + "\\game";
 };
@@ -42,12 +42,13 @@ TEST_F(GameStateTest, IsPutBackByteForByte) {
     const GameState before = State();
     EXPECT_EQ(before.settings.at("Dialog").size(), 7u);
     EXPECT_EQ(before.settings.at("Dialog").at("PlayerName")->bytes, "C:\\\"Caf\xE9\"\0"s);
-    EXPECT_EQ(before.settings.at("HiddenOptions").at("Force60"), std::nullopt);
+    EXPECT_EQ(before.settings.at("Advanced").at("GammaPercent"), std::nullopt);
+    EXPECT_FALSE(before.settings.contains("HiddenOptions"));
 
     PutFile(Scratch() + "\\new.wav", "ping");
     Profile other = SampleProfile();
     other.WaveFiles.fill(Scratch() + "\\new.wav");
-    EXPECT_TRUE(TransferToGame(other, game_).errors.empty());
+    EXPECT_TRUE(TransferToGame(other, game_, TransferLog(""), {}).errors.empty());
     PutValue(kDialog, "Foreign", 1, "y\0"s);
     EXPECT_NE(State(), before);
 
@@ -73,8 +74,8 @@ TEST_F(GameStateTest, WhatFailsIsToldAndTheRestDone) {
     EXPECT_EQ(GetValue("Software\\Virgin\\SubSpace\\Options", "ResolutionX")->bytes, "\2\0\0\0"s);
     EXPECT_EQ(FileBytes(game_ + "\\record1.wav"), "new");
     const HeldFile held(game_ + "\\record1.wav");
-    EXPECT_TRUE(ReadGameState(SampleProfile(), game_).Failed());
-    EXPECT_FALSE(ReadGameState(SampleProfile(), kNotSet).Failed());
+    EXPECT_TRUE(ReadGameState(game_).Failed());
+    EXPECT_FALSE(ReadGameState(kNotSet).Failed());
 }
 
 TEST_F(GameStateTest, SurvivesTheRegistryEditorsText) {
@@ -84,7 +85,7 @@ TEST_F(GameStateTest, SurvivesTheRegistryEditorsText) {
     for (const char* part : {"REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\Software\\Virgin\\SubSpace\\Advanced]\r\n",
                              "\"PlayerName\"=\"C:\\\\\\\"Caf\xE9\\\"\"\r\n", "\"ServerName\"=\"\"\r\n",
                              "\"PlayerShipType\"=dword:f1223344\r\n", "\"ProxyIP\"=hex(3):00,01,ff\r\n",
-                             "\"PlayerPassword\"=hex(1):74,77,6f,0d,", "\"Force60\"=-\r\n"})
+                             "\"PlayerPassword\"=hex(1):74,77,6f,0d,", "\"GammaPercent\"=-\r\n"})
         EXPECT_NE(text.find(part), std::string::npos) << part << " in\n" << text;
 
     const std::string head = "REGEDIT4\r\n[HKEY_CURRENT_USER\\Software\\Virgin\\SubSpace\\Dialog]\r\n";

@@ -46,7 +46,7 @@ TEST_F(SettingsStoreTest, ReadsTextsAndNumbersOnly) {
 
 TEST_F(SettingsStoreTest, EverySettingComesBack) {
     profile_.WaveFiles = {kNotSet, kNotSet};
-    TransferToGame(profile_, game_);
+    TransferToGame(profile_, game_, TransferLog(""), {});
     EXPECT_EQ(Stored(profile_.Dialog, 1), (StoredValue{1, "D1\0"s}));
     EXPECT_EQ(Stored(profile_.Options, 39), (StoredValue{4, "\x28\0\0\0"s}));
     Profile read = EmptyProfile();
@@ -62,7 +62,7 @@ TEST_F(SettingsStoreTest, TextsBecomeNumbersByTheirStart) {
     int index = 0;
     for (const auto& row : rows) profile_.Options.Value(++index) = row.text;
     profile_.WaveFiles = {kNotSet, kNotSet};
-    TransferToGame(profile_, game_);
+    TransferToGame(profile_, game_, TransferLog(""), {});
     index = 0;
     for (const auto& row : rows) {
         const std::string bytes(reinterpret_cast<const char*>(&row.number), sizeof(row.number));
@@ -75,7 +75,7 @@ TEST_F(SettingsStoreTest, ValuesOfOtherTypesAreLeftAlone) {
     PutValue(kRoot + "Options", "Clock", 7, "a\0b\0\0"s);
     PutValue(kRoot + "Dialog", "Favourite", 1, "other\0"s);
     profile_.WaveFiles = {kNotSet, kNotSet};
-    TransferToGame(profile_, game_);
+    TransferToGame(profile_, game_, TransferLog(""), {});
     EXPECT_EQ(GetValue(kRoot + "Dialog", "PlayerName"), (StoredValue{3, "\1\2\3"s}));
     EXPECT_EQ(GetValue(kRoot + "Options", "Clock"), (StoredValue{7, "a\0b\0\0"s}));
     EXPECT_EQ(GetValue(kRoot + "Dialog", "Favourite"), (StoredValue{1, "other\0"s}));
@@ -92,7 +92,7 @@ class NoGameTest : public WorldTest {};
 
 TEST_F(NoGameTest, CreatesNoKeys) {
     Profile profile = SampleProfile();
-    TransferToGame(profile, kNotSet);
+    TransferToGame(profile, kNotSet, TransferLog(""), {});
     EXPECT_FALSE(KeyExists("Software\\Virgin"));
     ReadProfileFromGame(profile, kNotSet);
     ExpectSame(profile, EmptyProfile());

@@ -29,7 +29,7 @@ TEST_F(TransferTest, WhatFailsIsToldAndAllElseIsWritten) {
     TransferResult result;
     {
         const HeldFile held(game + "\\ignore.txt");
-        result = TransferToGame(profile, game);
+        result = TransferToGame(profile, game, TransferLog(""), {});
     }
     std::vector<int> errors;
     for (const RuntimeError& error : result.errors) errors.push_back(error.number);
@@ -45,7 +45,8 @@ TEST_F(TransferTest, WhatFailsIsToldAndAllElseIsWritten) {
     EXPECT_EQ(FileBytes(game + "\\ignore.txt"), "old");
     EXPECT_EQ(FileBytes(game + "\\record1.wav"), "ping");
 
-    EXPECT_EQ(TransferToGame(profile, kNotSet).errors.size(), 1u);  // nowhere to write files: not a word of them
+    EXPECT_EQ(TransferToGame(profile, kNotSet, TransferLog(""), {}).errors.size(),
+              1u);  // nowhere to write files: not a word of them
 }
 
 }  // namespace

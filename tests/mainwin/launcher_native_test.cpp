@@ -16,6 +16,7 @@ using headless::TheWorld;
 class LauncherTest : public WorldTest {
 protected:
     LauncherTest() {
+        program_.gameFolder = game_;
         PutFile(game_ + "\\subspace.exe", "game");
         profile_.WaveFiles = {kNotSet, kNotSet};
         profile_.Advanced.Value(kSkipSplash) = "0";
@@ -27,24 +28,27 @@ protected:
 
     const std::string game_ = Scratch() + "\\game";
     Profile profile_ = SampleProfile();
-    Launcher launcher_;
+    Program program_;
+    Launcher launcher_{program_};
 };
 
 TEST_F(LauncherTest, SaysWhyTheGameIsNotStarted) {
+    program_.gameFolder = kNotSet;
     ExpectMessage("You must set the location of the SUBSPACE.EXE file in the Options.", kExclamation);
-    EXPECT_FALSE(launcher_.TransferAndLaunch(profile_, kNotSet));
+    EXPECT_FALSE(launcher_.TransferAndLaunch(profile_, {}));
+    program_.gameFolder = game_;
     for (const char* skipSplash : {"0", "1"}) {
         profile_.Advanced.Value(kSkipSplash) = skipSplash;
         TheWorld().programsFailToStart = true;
         ExpectMessage("ERROR - Could not start Subspace, but Macros were transfered.", kCritical);
-        EXPECT_FALSE(launcher_.TransferAndLaunch(profile_, game_));
+        EXPECT_FALSE(launcher_.TransferAndLaunch(profile_, {}));
     }
 }
 
 TEST_F(LauncherTest, WaitsForTheGameAndOneSecondMore) {
     const long slow = 600'000;  // no time-out
     GameWindowAppearsAfter(slow);
-    EXPECT_TRUE(launcher_.TransferAndLaunch(profile_, game_));
+    EXPECT_TRUE(launcher_.TransferAndLaunch(profile_, {}));
     launcher_.WaitForGame();
     EXPECT_GE(headless::Now(), slow + 1000);
     EXPECT_LE(headless::Now(), slow + 1100);
@@ -54,7 +58,7 @@ TEST_F(LauncherTest, WaitsForTheGameAndOneSecondMore) {
 
     // The game runs already: its window is there at once.
     const long before = headless::Now();
-    EXPECT_TRUE(launcher_.TransferAndLaunch(profile_, game_));
+    EXPECT_TRUE(launcher_.TransferAndLaunch(profile_, {}));
     launcher_.WaitForGame();
     EXPECT_GE(headless::Now(), before + 1000);
     EXPECT_LE(headless::Now(), before + 1100);

@@ -7,6 +7,7 @@
 
 #include "mainwin/menurows.h"
 #include "platform/files.h"
+#include "platform/folders.h"
 #include "platform/headless/events.h"
 #include "platform/headless/headless.h"
 #include "platform/version.h"
@@ -125,6 +126,7 @@ bool Player::IsAllowed(Allowed::What what) const {
 
 bool Player::MayChange(const std::string& path) const {
     const PathParts parts = SplitPath(path);
+    if (FoldCase(path).starts_with(FoldCase(LocalDataFolder()))) return true;  // what the program keeps of its own
     return std::any_of(allowed_.begin(), allowed_.end(), [&](const Allowed& allowed) {
         if (allowed.what == Allowed::Save)
             return SamePath(path, allowed.path) ||
