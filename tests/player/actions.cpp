@@ -50,6 +50,8 @@ const int kKeys[] = {kKeyTab, kKeyEnter, kKeyEscape, kKeyDelete, kKeyF1, kKeyF3,
 constexpr char kAccessKeys[] = "abcdefghilmnoprstvw";
 constexpr unsigned kTrayMessages[] = {kMouseLeftDoubleClick, kMouseRightDown, 512};
 constexpr int kPauses[] = {1, 50, 200, 1000, 4000};
+constexpr Answer kOkOrNot[] = {Answer::Ok, Answer::Ok, Answer::Cancel};
+constexpr Answer kYesOrNot[] = {Answer::Yes, Answer::No, Answer::Cancel};
 
 }  // namespace
 
@@ -78,77 +80,38 @@ void Player::MakeWorld() {
 int Player::DoSomething() {
     const std::vector<Form*> forms = UsableForms();
     const size_t kind = random_.Below(100);
-    if (!dialogs_.empty() && kind < 60) {
-        AnswerDialog();
-    } else if (!forms.empty() && kind < 80) {
-        UseForm(*random_.From(forms));
-    } else if (kind < 86) {
-        UseTray();
-    } else if (kind < 89) {
-        StartSecondCopy();
-    } else if (kind < 90) {
-        EndSession();
-    } else if (kind < 93) {
-        ChangeFiles();
-    } else if (kind < 96) {
-        ChangeWorld();
-    } else {
-        Tell("time passes");
-        return random_.From(kPauses);
-    }
+    if (!dialogs_.empty() && kind < 60) AnswerDialog();
+    else if (!forms.empty() && kind < 80) UseForm(*random_.From(forms));
+    else if (kind < 86) UseTray();
+    else if (kind < 89) StartSecondCopy();
+    else if (kind < 90) EndSession();
+    else if (kind < 96) ChangeWorld();
+    else return random_.From(kPauses);
     return 0;
 }
 
 void Player::AnswerDialog() {
     OpenDialog& open = dialogs_.back();
     headless::Dialog& dialog = *open.dialog;
+    const unsigned buttons = dialog.style % kCritical;
     open.answered = true;
-    switch (dialog.kind) {
-        case headless::Dialog::Kind::Message: {
-            constexpr Answer kOk[] = {Answer::Ok}, kOkOrNot[] = {Answer::Ok, Answer::Cancel};
-            constexpr Answer kAll[] = {Answer::Yes, Answer::No, Answer::Cancel};
-            const unsigned buttons = dialog.style % kCritical;
-            dialog.answer = buttons == kYesNoCancel ? random_.From(kAll)
-                            : buttons == kOkCancel  ? random_.From(kOkOrNot)
-                                                    : random_.From(kOk);
-            break;
-        }
-        case headless::Dialog::Kind::Font: dialog.font = Font{.face = "Arial", .points = 12}; break;
-        case headless::Dialog::Kind::Color: dialog.color = Rgb(1, 2, 3); break;
-        default:
-            dialog.path = kFiles[random_.Below(random_.OneIn(3) ? std::size(kFiles) : 4)].path;  // or a profile
-            if ((dialog.style & kFileMustExist) != 0 && headless::FindFile(*dialog.path) == nullptr)
-                dialog.path.reset();
-    }
-    if (random_.OneIn(5)) {
-        dialog.path.reset();
-        dialog.font.reset();
-        dialog.color.reset();
+    dialog.answer = buttons == kPlain ? Answer::Ok : random_.From(buttons == kOkCancel ? kOkOrNot : kYesOrNot);
+    if (!random_.OneIn(5)) {
+        dialog.font = Font{.face = "Arial", .points = 12};
+        dialog.color = Rgb(1, 2, 3);
+        dialog.path = kFiles[random_.Below(random_.OneIn(3) ? std::size(kFiles) : 4)].path;  // or a profile
+        if ((dialog.style & kFileMustExist) != 0 && headless::FindFile(*dialog.path) == nullptr) dialog.path.reset();
     }
     Tell("answer " + std::to_string(static_cast<int>(dialog.answer)) + " " + dialog.path.value_or(""));
 }
 
 void Player::UseForm(Form& form) {
     const size_t kind = random_.Below(20);
-    if (kind < 2) {
-        PressKey(form);
-    } else if (kind < 3) {
-        UseWindow(form);
-    } else if (form.IsMinimized()) {
-        Tell("restore");
-        form.WindowMinimized(false);
-        form.WindowResized();
-    } else if (kind < 4 && form.onDropFile) {
-        const std::string path = random_.From(kFiles).path;
-        Tell("drop " + path);
-        Allow(Allowed::Load);
-        const std::string before = program_.CurrentFile;
-        form.onDropFile(path);
-        const bool isProfile = FileBytes(path).value_or("").find("[Dialog]") != std::string::npos;
-        if (program_.CurrentFile == path && before != path && !isProfile) Fail("a Save would now destroy " + path);
-    } else if (kind < 8 && form.MenuBar() != nullptr) {
-        ChooseFromMenu(form, *form.MenuBar());
-    } else {
+    if (kind < 2) PressKey(form);
+    else if (kind < 3 || form.IsMinimized()) UseWindow(form);
+    else if (kind < 4 && form.onDropFile) Drop(form);
+    else if (kind < 8 && form.MenuBar() != nullptr) ChooseFromMenu(form, *form.MenuBar());
+    else {
         std::vector<Control*> controls;
         native::ForEachControl(form, [&](Control& control) {
             const TabPage* page = PageOf(control.Holder());
@@ -159,21 +122,44 @@ void Player::UseForm(Form& form) {
     }
 }
 
+void Player::Drop(Form& form) {
+    const std::string path = random_.From(kFiles).path;
+    Tell("drop " + path);
+    Allow(Allowed::Load);
+    const std::string before = program_.CurrentFile;
+    form.onDropFile(path);
+    const bool isProfile = FileBytes(path).value_or("").find("[Dialog]") != std::string::npos;
+    if (program_.CurrentFile == path && before != path && !isProfile && !MayChange(path))
+        Fail("a Save would now destroy " + path);
+}
+
 void Player::UseControl(Control& control) {
     Tell("use \"" + control.Text().substr(0, 60) + "\" of " + control.Holder().Owner().Caption());
+    if (auto* strip = dynamic_cast<TabStrip*>(&control)) {
+        TurnTo(*strip, static_cast<int>(random_.Below(strip->Pages().size())));
+        return;
+    }
+    Allow(Allowed::Edit);
     AllowClickOn(&control);
     if (auto* label = dynamic_cast<Label*>(&control)) Click(*label);
     else if (auto* picture = dynamic_cast<Picture*>(&control)) Click(*picture);
     else if (auto* button = dynamic_cast<Button*>(&control)) Click(*button);
     else if (auto* box = dynamic_cast<CheckBox*>(&control)) Click(*box);
     else if (auto* option = dynamic_cast<OptionButton*>(&control)) Click(*option);
-    else if (auto* text = dynamic_cast<TextBox*>(&control)) UseText(*text);
-    else if (auto* masked = dynamic_cast<MaskedBox*>(&control)) UseMasked(*masked);
     else if (auto* lines = dynamic_cast<VirtualList*>(&control)) UseList(*lines);
-    else if (auto* strip = dynamic_cast<TabStrip*>(&control))
-        TurnTo(*strip, static_cast<int>(random_.Below(strip->Pages().size())));
     else if (auto* arrows = dynamic_cast<UpDown*>(&control)) Spin(*arrows, random_.OneIn(2) ? 1 : -1);
-    else if (auto* combo = dynamic_cast<ComboBox*>(&control); combo != nullptr && !combo->Items().empty()) {
+    else if (auto* text = dynamic_cast<TextBox*>(&control)) {
+        text->SetFocus();
+        if (text->Style() != TextStyle::Line) return;
+        if (random_.OneIn(4)) text->UserEdits(random_.OneIn(4) ? std::string(300, 'x') : "");
+        else Type(*text, random_.From(kTexts));
+    } else if (auto* masked = dynamic_cast<MaskedBox*>(&control)) {
+        masked->SetFocus();
+        const size_t caret = random_.Below(masked->Text().size() + 1);
+        if (random_.OneIn(4)) Paste(*masked, random_.From(kTexts), caret);
+        else if (random_.OneIn(4)) masked->UserClears(0, caret);
+        else Type(*masked, random_.OneIn(3) ? "\x08" : random_.From(kTexts), caret);
+    } else if (auto* combo = dynamic_cast<ComboBox*>(&control); combo != nullptr && !combo->Items().empty()) {
         combo->SetFocus();
         combo->UserHighlights(static_cast<int>(random_.Below(combo->Items().size())));
         if (random_.OneIn(2)) Choose(*combo, static_cast<int>(random_.Below(combo->Items().size())));
@@ -183,22 +169,6 @@ void Player::UseControl(Control& control) {
         Choose(*list, {static_cast<int>(random_.Below(list->Items().size()))});
         list->UserReleasesMouse();
     }
-}
-
-void Player::UseText(TextBox& box) {
-    box.SetFocus();
-    if (box.Style() != TextStyle::Line) return;
-    if (random_.OneIn(4)) box.UserEdits("");
-    else if (random_.OneIn(10)) box.UserEdits(std::string(300, 'x'));
-    else Type(box, random_.From(kTexts));
-}
-
-void Player::UseMasked(MaskedBox& box) {
-    box.SetFocus();
-    const size_t caret = random_.Below(box.Text().size() + 1);
-    if (random_.OneIn(4)) Paste(box, random_.From(kTexts), caret);
-    else if (random_.OneIn(4)) box.UserClears(0, caret);
-    else Type(box, random_.OneIn(3) ? "\x08" : random_.From(kTexts), caret);
 }
 
 void Player::UseList(VirtualList& list) {
@@ -215,14 +185,15 @@ void Player::UseList(VirtualList& list) {
 }
 
 void Player::UseWindow(Form& form) {
-    const bool sizable = form.Border() == FormBorder::Sizable || form.Border() == FormBorder::SizableDialog;
-    if (random_.OneIn(2)) {
-        Tell("close " + form.Caption());
+    Tell("window " + form.Caption());
+    if (form.IsMinimized()) {
+        form.WindowMinimized(false);
+        form.WindowResized();
+    } else if (random_.OneIn(2)) {
         form.UserCloses(UnloadMode::CloseBox);
     } else if (form.Border() == FormBorder::Sizable || form.Border() == FormBorder::Fixed) {
-        Tell("minimise " + form.Caption());
         form.WindowMinimized(true);
-    } else if (sizable) {
+    } else if (form.Border() == FormBorder::SizableDialog) {
         Bounds place = form.Place();
         place.width = form.MinimumWidth() + static_cast<int>(random_.Below(9000));
         form.WindowMoved(place, random_.OneIn(3));
@@ -237,7 +208,8 @@ void Player::PressKey(Form& form) {
     if (&form == MainWindow() && control && key == 'S') Allow(Allowed::Save, program_.CurrentFile);
     if (&form == MainWindow() && control && (key == 'N' || key == 'O')) Allow(Allowed::Load);
     if (key == kKeyEnter || key == ' ') AllowClickOn(form.ActiveControl());
-    if (random_.OneIn(5)) form.UserPressesAccessKey(kAccessKeys[random_.Below(sizeof kAccessKeys - 1)]);
+    if (key != kKeyTab && !control) Allow(Allowed::Edit);
+    if (!control && random_.OneIn(5)) form.UserPressesAccessKey(kAccessKeys[random_.Below(sizeof kAccessKeys - 1)]);
     else if (key == kKeyTab && !control) form.FocusNext(form.ActiveControl());
     else Press(form, key, control, random_.OneIn(8));
 }
@@ -253,6 +225,7 @@ void Player::ChooseFromMenu(Form& form, Menu& menu) {
         if (command == mnuFile_Save) Allow(Allowed::Save, program_.CurrentFile);
         if (command == mnuFile_New || command == mnuFile_Open || (command >= mnuFileMRU && command < mnuFileBarMRU))
             Allow(Allowed::Load);
+        if (command == mnuFile_Import) Allow(Allowed::Edit);
         if (command >= mnuPUTrayIcon_Fav && command < mnuPUTrayIconBarExit) Allow(Allowed::Transfer);
     }
     menu.UserChooses(command);
@@ -273,13 +246,10 @@ void Player::EndSession() {
     std::vector<Form*> forms = headless::LoadedForms();
     if (random_.OneIn(2)) std::reverse(forms.begin(), forms.end());
     for (Form* form : forms) {
-        const auto isLoaded = [form] {
-            const auto& loaded = headless::LoadedForms();
-            return std::find(loaded.begin(), loaded.end(), form) != loaded.end();
-        };
-        if (!isLoaded()) continue;
-        if (form->IsBlocked()) return;
-        form->UserCloses(UnloadMode::SystemShutdown);
+        const auto& loaded = headless::LoadedForms();
+        const auto isLoaded = [&] { return std::find(loaded.begin(), loaded.end(), form) != loaded.end(); };
+        if (isLoaded() && form->IsBlocked()) return;
+        if (isLoaded()) form->UserCloses(UnloadMode::SystemShutdown);
         if (isLoaded()) return;
     }
 }
@@ -288,41 +258,41 @@ void Player::EndSession() {
 void Player::StartSecondCopy() {
     Tell("second copy");
     frmMain* const main = MainWindow();
-    if (main == nullptr || main->IsLoading()) return;
+    if (main == nullptr) return;
     native::ShowForm(*main, true);
     main->WindowMinimized(false);
 }
 
-void Player::ChangeFiles() {
-    const std::string path = random_.From(kFiles).path;
-    headless::File* const file = headless::FindFile(path);
-    const size_t kind = random_.Below(5);
-    Tell("file " + path + " " + std::to_string(kind));
-    if (kind == 0 || file == nullptr) PutFile(path, random_.OneIn(2) ? kLog : kProfile + "0");
-    else if (kind == 1) TheWorld().files.erase(AbsolutePath(path));
-    else if (kind == 2) file->readOnly = !file->readOnly;
-    else if (kind == 3) file->holders = 1 - file->holders;
-    else TheWorld().diskRoom = TheWorld().diskRoom ? std::nullopt : std::optional<size_t>(random_.Below(8000));
-    seen_ = Look();
-}
-
+// Others write, lock and remove files, fill the disk, and end games.
 void Player::ChangeWorld() {
     auto& world = TheWorld();
-    const size_t kind = random_.Below(6);
-    Tell("world " + std::to_string(kind));
-    if (kind < 2) {
-        if (world.windows.empty()) world.windows = {{"SubSpaceClass", "Game"}};
-        else world.windows.clear();
-    } else if (kind == 2) {
-        if (!world.startedPrograms.empty()) world.startedPrograms.back().running = false;
-    } else if (kind == 3) {
-        world.programsFailToStart = !world.programsFailToStart;
-    } else if (kind == 4) {
-        world.clipboardIsHeld = !world.clipboardIsHeld;
-    } else {
-        world.shellFailure =
-            world.shellFailure ? std::nullopt : std::optional<ErrorNumber>(ErrorNumber::PermissionDenied);
+    const std::string path = random_.From(kFiles).path;
+    headless::File* const file = headless::FindFile(path);
+    const size_t kind = random_.Below(10);
+    Tell("world " + std::to_string(kind) + " " + path);
+    switch (kind) {
+        case 0: PutFile(path, random_.OneIn(2) ? kLog : kProfile + "0"); break;
+        case 1: world.files.erase(AbsolutePath(path)); break;
+        case 2:
+            if (file != nullptr) file->readOnly = !file->readOnly;
+            break;
+        case 3:
+            if (file != nullptr) file->holders = 1 - file->holders;
+            break;
+        case 4: world.diskRoom = world.diskRoom ? std::nullopt : std::optional(random_.Below(8000)); break;
+        case 5:
+            if (!world.startedPrograms.empty()) world.startedPrograms.back().running = false;
+            break;
+        case 6: world.programsFailToStart = !world.programsFailToStart; break;
+        case 7: world.clipboardIsHeld = !world.clipboardIsHeld; break;
+        case 8:
+            world.shellFailure = world.shellFailure ? std::nullopt : std::optional(ErrorNumber::PermissionDenied);
+            break;
+        default:
+            if (world.windows.empty()) world.windows = {{"SubSpaceClass", "Game"}};
+            else world.windows.clear();
     }
+    stored_ = Stored();
 }
 
 void Player::AllowClickOn(const Control* control) {

@@ -28,6 +28,24 @@ bool SamePath(const std::string& a, const std::string& b) {
     return EqualNoCase(AbsolutePath(a), AbsolutePath(b));
 }
 
+using Texts = std::vector<std::string>;
+
+// Without the macros on demand: Import takes those from the window.
+Texts TextsOf(const Profile& profile, bool withMacros) {
+    Texts texts(profile.WaveFiles.begin(), profile.WaveFiles.end());
+    for (const Section* section : profile.Sections())
+        if (withMacros || section != &profile.Messages)
+            texts.insert(texts.end(), section->values.begin(), section->values.end());
+    texts.push_back(std::to_string(profile.IgnoreList.size()));
+    texts.insert(texts.end(), profile.IgnoreList.begin(), profile.IgnoreList.end());
+    return texts;
+}
+
+std::string FirstChange(const Texts& before, const Texts& now) {
+    const auto [was, is] = std::mismatch(before.begin(), before.end(), now.begin(), now.end());
+    return '"' + (was == before.end() ? "" : *was) + "\" is now \"" + (is == now.end() ? "" : *is) + '"';
+}
+
 }  // namespace
 
 uint64_t Random::Next() {
@@ -52,7 +70,7 @@ Player::~Player() {
 
 void Player::Play() {
     MakeWorld();
-    seen_ = Look();
+    stored_ = Stored();
     Tell("start " + TheWorld().commandLineTail);
     if (TheWorld().commandLineTail.starts_with("/LR")) Allow(Allowed::Transfer);
     RunProgram(program_);
@@ -79,13 +97,13 @@ int Player::Leave() {
     ++depth_;
     if (!dialogs_.empty()) {
         dialogs_.back().answered = true;
-        if (dialogs_.back().dialog->style % 16 == kYesNoCancel) dialogs_.back().dialog->answer = Answer::No;
+        if (dialogs_.back().dialog->style % kCritical == kYesNoCancel) dialogs_.back().dialog->answer = Answer::No;
     } else if (!forms.empty() && forms.back() != MainWindow()) {
         forms.back()->UserCloses(UnloadMode::CloseBox);
     } else if (frmMain* main = MainWindow(); main != nullptr && !main->IsBlocked()) {
         main->MenuBar()->UserChooses(mnuFile_Exit);
-    } else {
-        TheWorld().windows = {{"SubSpaceClass", "Game"}};  // what /LR: waits for
+    } else if (TheWorld().commandLineTail.starts_with("/LR")) {
+        TheWorld().windows = {{"SubSpaceClass", "Game"}};  // what it waits for
     }
     --depth_;
     return 1000;
@@ -103,21 +121,10 @@ void Player::WaitForAnswer(headless::Dialog& dialog) {
 }
 
 void Player::Check() {
-    CheckFiles();
+    CheckStored();
     CheckWindows();
+    CheckRecord();
     if (depth_ == 0) CheckDirty();
-}
-
-Player::Seen Player::Look() const {
-    Seen seen;
-    for (const auto& [path, file] : TheWorld().files) seen.files.emplace(path, file.bytes);
-    for (const auto& [path, values] : TheWorld().registry) {
-        if (!path.starts_with(kGameKeys)) continue;
-        seen.gameKeys += path;
-        for (const auto& [name, value] : values)
-            seen.gameKeys += name + '=' + std::to_string(value.type) + value.bytes + '\n';
-    }
-    return seen;
 }
 
 bool Player::IsAllowed(Allowed::What what) const {
@@ -131,21 +138,30 @@ bool Player::MayChange(const std::string& path) const {
         if (allowed.what == Allowed::Save)
             return SamePath(path, allowed.path) ||
                    SamePath(path, program_.gameFolder + "\\" + SplitPath(allowed.path).name + ".ssm");
-        return allowed.what == Allowed::Transfer && SamePath(parts.Folder(), program_.gameFolder) &&
-               (EqualNoCase(parts.File(), "ignore.txt") || EqualNoCase(parts.extension, "wav"));
+        const bool isGameFile = EqualNoCase(parts.File(), "ignore.txt") || EqualNoCase(parts.extension, "wav");
+        return allowed.what == Allowed::Transfer &&
+               (path.starts_with(kGameKeys) || (isGameFile && SamePath(parts.Folder(), program_.gameFolder)));
     });
 }
 
-void Player::CheckFiles() {
-    Seen now = Look();
-    for (const auto& [path, bytes] : now.files) {
-        const auto before = seen_.files.find(path);
-        if ((before == seen_.files.end() || before->second != bytes) && !MayChange(path)) Fail(path + " has changed");
+std::map<std::string, std::string> Player::Stored() const {
+    std::map<std::string, std::string> stored;
+    for (const auto& [path, file] : TheWorld().files) stored.emplace(path, file.bytes);
+    for (const auto& [path, values] : TheWorld().registry)
+        if (path.starts_with(kGameKeys))
+            for (const auto& [name, value] : values) stored[path] += name + std::to_string(value.type) + value.bytes;
+    return stored;
+}
+
+void Player::CheckStored() {
+    auto now = Stored();
+    for (const auto& [path, bytes] : now) {
+        const auto before = stored_.find(path);
+        if ((before == stored_.end() || before->second != bytes) && !MayChange(path)) Fail(path + " has changed");
     }
-    for (const auto& [path, bytes] : seen_.files)
-        if (!now.files.contains(path) && !MayChange(path)) Fail(path + " has gone");
-    if (now.gameKeys != seen_.gameKeys && !IsAllowed(Allowed::Transfer)) Fail("the game's keys have changed");
-    seen_ = std::move(now);
+    for (const auto& [path, bytes] : stored_)
+        if (!now.contains(path) && !MayChange(path)) Fail(path + " has gone");
+    stored_ = std::move(now);
 }
 
 // A window that waits for another must have one to wait for, and the keyboard must be where the player can see it.
@@ -159,19 +175,28 @@ void Player::CheckWindows() {
             Fail("the keyboard is in a control of " + form->Caption() + " that cannot be used");
 }
 
+// What is edited in the window stays there until it is saved or played: whoever discards it must not find it again.
+void Player::CheckRecord() {
+    if (MainWindow() == nullptr) return;
+    Texts now = TextsOf(program_.profile, false);
+    if (!record_.empty() && now != record_ && !IsAllowed(Allowed::Load) && !IsAllowed(Allowed::Save) &&
+        !IsAllowed(Allowed::Transfer))
+        Fail("the profile has taken an edit: " + FirstChange(record_, now));
+    record_ = std::move(now);
+}
+
 // Not dirty: the window is as it was loaded or saved, or as it was when the player did not want to save.
 void Player::CheckDirty() {
-    if (MainWindow() == nullptr || MainWindow()->IsLoading() || program_.dirty) {
+    if (MainWindow() == nullptr || program_.dirty) {
+        if (!wasDirty_ && program_.dirty && !IsAllowed(Allowed::Edit)) Fail("marked as edited without an edit");
         wasDirty_ = true;
         return;
     }
     wasDirty_ |= IsAllowed(Allowed::Load);
     // Looking would complete a chat name that is being typed.
     if (MainWindow()->ActiveControl() != nullptr && MainWindow()->ActiveControl()->onLostFocus) return;
-    std::vector<std::string> shown = Shown();
-    if (!wasDirty_ && shown != clean_)
-        for (size_t i = 0; i < std::min(shown.size(), clean_.size()); ++i)
-            if (shown[i] != clean_[i]) Fail("an edit is not marked: \"" + clean_[i] + "\" is now \"" + shown[i] + "\"");
+    Texts shown = Shown();
+    if (!wasDirty_ && shown != clean_) Fail("an edit is not marked: " + FirstChange(clean_, shown));
     wasDirty_ = false;
     clean_ = std::move(shown);
 }
@@ -179,11 +204,7 @@ void Player::CheckDirty() {
 std::vector<std::string> Player::Shown() {
     const Profile before = program_.profile;
     MainWindow()->CollectProfile();
-    std::vector<std::string> shown(program_.profile.WaveFiles.begin(), program_.profile.WaveFiles.end());
-    for (const Section* section : std::as_const(program_.profile).Sections())
-        shown.insert(shown.end(), section->values.begin(), section->values.end());
-    shown.push_back(std::to_string(program_.profile.IgnoreList.size()));
-    for (const std::string& name : program_.profile.IgnoreList) shown.push_back(name);
+    Texts shown = TextsOf(program_.profile, true);
     program_.profile = before;
     return shown;
 }
@@ -196,7 +217,7 @@ void Player::CheckEnd() {
 
 frmMain* Player::MainWindow() const {
     for (Form* form : headless::LoadedForms())
-        if (form->Caption().starts_with(VersionTitle()) && form->MenuBar() != nullptr)
+        if (form->Caption().starts_with(VersionTitle()) && form->MenuBar() != nullptr && !form->IsLoading())
             return static_cast<frmMain*>(form);
     return nullptr;
 }

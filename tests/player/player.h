@@ -43,12 +43,8 @@ public:
 private:
     // What an action may bring about, until it has ended with all that happened inside it.
     struct Allowed {
-        enum What { Save, Transfer, Load } what;
+        enum What { Edit, Save, Transfer, Load } what;
         std::string path;
-    };
-    struct Seen {
-        std::map<std::string, std::string> files;
-        std::string gameKeys;
     };
     struct OpenDialog {
         headless::Dialog* dialog;
@@ -65,30 +61,29 @@ private:
     void AnswerDialog();
     void UseForm(Form& form);
     void UseControl(Control& control);
-    void UseText(TextBox& box);
-    void UseMasked(MaskedBox& box);
     void UseList(VirtualList& list);
     void UseWindow(Form& form);
+    void Drop(Form& form);
     void PressKey(Form& form);
     void ChooseFromMenu(Form& form, Menu& menu);
     void UseTray();
     void EndSession();
     void StartSecondCopy();
-    void ChangeFiles();
     void ChangeWorld();
 
     // What must hold.
     void Check();
-    void CheckFiles();
+    void CheckStored();
     void CheckWindows();
+    void CheckRecord();
     void CheckDirty();
     void CheckEnd();
     bool IsAllowed(Allowed::What what) const;
     bool MayChange(const std::string& path) const;
-    std::vector<std::string> Shown();  // the profile as the window has it
-    Seen Look() const;
+    std::map<std::string, std::string> Stored() const;  // files and the game's keys
+    std::vector<std::string> Shown();                   // the profile as the window has it
 
-    frmMain* MainWindow() const;
+    frmMain* MainWindow() const;  // once it is loaded
     std::vector<Form*> UsableForms() const;
     void Allow(Allowed::What what, const std::string& path = {});
     void AllowClickOn(const Control* control);
@@ -105,9 +100,10 @@ private:
     int depth_ = 0;  // of actions inside of actions
     std::vector<OpenDialog> dialogs_;
     std::vector<Allowed> allowed_;
-    Seen seen_;
-    bool wasDirty_ = true;            // nothing is known before the first look
-    std::vector<std::string> clean_;  // what the window showed when it was loaded or saved
+    std::map<std::string, std::string> stored_;
+    std::vector<std::string> record_;  // the profile behind the window, but for its macros
+    bool wasDirty_ = true;             // nothing is known before the first look
+    std::vector<std::string> clean_;   // what the window showed when it was loaded or saved
 };
 
 }  // namespace quirn::test
