@@ -4,6 +4,7 @@
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/measures.h"
+#include "platform/text.h"
 #include "profile/splitpath.h"
 
 namespace quirn {
@@ -32,6 +33,11 @@ constexpr Bounds kAdd{     4500,  240,  1140, kButtonHeight};
 constexpr Bounds kRemove{  4500,  690,  1140, kButtonHeight};
 constexpr Bounds kClear{   4500, 1140,  1140, kButtonHeight};
 // clang-format on
+
+// An empty folder would stand for the root of the current drive.
+std::string LocationIn(const TextBox& box) {
+    return Trim(box.Text()).empty() ? kNotSet : box.Text();
+}
 
 }  // namespace
 
@@ -145,8 +151,8 @@ void frmOptions::ClearRow(int row) {
 }
 
 void frmOptions::Commit() {
-    if (subLocChanged_) program_.gameFolder = txtSubLoc.Text();
-    if (qrnLocChanged_) program_.qrnFolder = txtQRNLoc.Text();
+    if (subLocChanged_) program_.gameFolder = LocationIn(txtSubLoc);
+    if (qrnLocChanged_) program_.qrnFolder = LocationIn(txtQRNLoc);
     for (size_t i = 0; i < paths_.size(); ++i) program_.favourites[i] = {lstFavourites.Items()[i], paths_[i]};
     applied_();
 }
