@@ -125,6 +125,7 @@ def test_every_kind_of_control_on_every_page_comes_back(desk):
     player.expect_status("File has been loaded")
     assert player.beside("Shift-F11 :", "Static", 1)["caption"] == r"C:\SubSpace\waves\goal.wav"
     assert [player.beside("Use Proxy Address :", "Edit", i)["caption"] for i in range(4)] == ["10", "20", "30", "40"]
+    assert player.beside("Port :", "Static", 1)["caption"] == "5200"
     player.turn_to("Advanced")
     assert code_button(player)["caption"] == "4ZZH-0000-0000" and player.checked(player.find("Mines"))
     player.turn_to("Ignore List")
@@ -141,24 +142,6 @@ def test_every_kind_of_control_on_every_page_comes_back(desk):
     assert desk.file("record0.wav").read_bytes() == desk.file("waves/goal.wav").read_bytes()
     wait_for(lambda: not player.visible(), what="the hidden window")
     desk.close_game()
-
-
-def test_the_controls_that_follow_others(desk):
-    player = start(desk)
-    # The proxy's fields follow its box.
-    proxy = player.find("Use Proxy Address :")
-    for _ in range(2):
-        enabled = [player.beside("Use Proxy Address :", "Edit", i)["enabled"] for i in range(4)]
-        assert enabled == [player.checked(proxy)] * 4
-        player.click(proxy)
-    # Address, port and description follow the open list of zones.
-    zone = player.beside("Zone to Start In :", "ComboBox")
-    player.click(zone)
-    player.keys("Home", "Down", "Down", "Down", "Down")
-    wait_for(lambda: "zone5.example" in [c["caption"] for c in player.controls()], what="the zone's address")
-    assert player.beside("Port :", "Static", 1)["caption"] == "6100"
-    assert "Schächte, Minen, keine Bomben für Anfänger." in [c["caption"] for c in player.controls()]
-    player.keys("Escape")
 
 
 def test_a_masked_password_is_not_copied(desk):

@@ -1,8 +1,7 @@
-"""Messages of start-up, loading and launching, read from their real boxes, and what a start does after them."""
+"""Messages of start-up and loading, read from their real boxes, and what a start does after them."""
 import random
 
 from catalogue import SZ
-from conftest import OWN_KEY
 
 NOT_FOUND = "ERROR - Could not find profile named '{}'"
 NOT_VALID = "ERROR - The file '{}' is not a valid QRN file."
@@ -47,25 +46,3 @@ def test_an_old_profile_with_too_much_of_everything_is_played(desk):
     assert quirn.ended(60) == 0
     assert desk.registry()[r"Dialog\PlayerName"] == (SZ, "Bo")
     assert desk.registry()[r"Dialog\ServerName"] == (SZ, "n" * 254)
-
-
-def test_the_game_folder_is_not_set(desk):
-    desk.machine.reg("delete", OWN_KEY + r"\File Locations", "/v", "SubSpace", "/f")
-    files = desk.folder_state()
-    quirn = desk.start("/LR:DUEL.QRN")
-    # Ignore list and waves have no folder to go to; the one message says what to do.
-    quirn.expect("You must set the location of the SUBSPACE.EXE file in the Options.")
-    # Nor is there a list of zones; whoever does not want to set the folder now leaves.
-    quirn.expect(NO_ZONES, button="Cancel")
-    assert quirn.ended() == 0
-    assert desk.registry()[r"Dialog\PlayerName"] == (SZ, "Vex Calder")
-    assert desk.folder_state() == files
-
-
-def test_the_game_cannot_be_started(desk):
-    desk.file("subspace.exe").unlink()
-    quirn = desk.start("/LR:DUEL.QRN")
-    quirn.expect("ERROR - Could not start Subspace, but Macros were transfered.")
-    main = quirn.main_window()
-    assert [w["handle"] for w in quirn.windows()] == [main["handle"]], "the run box is still there"
-    assert desk.registry()[r"Messages\ShiftF1"] == (SZ, "Well flown!")

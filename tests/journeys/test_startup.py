@@ -5,7 +5,7 @@ import pytest
 
 from conftest import TITLE
 from machine import wait_for
-from player import SET_OPTIONS, Player, start
+from player import Player
 from test_messages import NO_ZONES
 
 
@@ -71,16 +71,6 @@ def test_a_window_that_is_still_being_loaded_cannot_be_used(desk, arguments):
     main.click(main.find("Transfer Profile And Run Subspace"))
     desk.game_report()
     assert desk.registry() == before
-
-
-def test_a_second_copy_gives_the_keyboard_to_an_open_dialog(desk):
-    player = start(desk)
-    player.quirn.choose(SET_OPTIONS)
-    dialog = player.dialog("Options")
-    assert desk.start().ended() == 0
-    wait_for(lambda: desk.user.ask("foreground")["handle"] == dialog.handle, what="the dialog in front")
-    dialog.xdo("key", "Escape")
-    dialog.gone()
 
 
 def test_a_second_copy_while_the_first_has_no_window_yet(desk):

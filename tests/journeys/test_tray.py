@@ -6,7 +6,7 @@ import pytest
 from catalogue import SZ
 from conftest import OWN_KEY, WM_CLOSE
 from machine import wait_for
-from player import CLOSE, EXIT, Player, start
+from player import CLOSE, Player, start
 from test_messages import NOT_FOUND, PROFILES
 from test_startup import hidden_window
 
@@ -128,20 +128,6 @@ def test_exit_ends_the_program_while_a_game_without_a_window_starts(favourites):
     assert desk.start().main_window()
 
 
-def test_an_exit_that_is_stopped_keeps_the_window_and_not_the_icon(desk):
-    player = start(desk)
-    wait_for(player.tray_icons, what="the icon")
-    player.replace(player.beside("Pilot Name :"), "Unsaved")
-    player.quirn.choose(EXIT)
-    player.quirn.expect("Save changes to <current SS settings>", caption="Save Changes?", button="Cancel")
-    wait_for(lambda: not player.tray_icons(), what="the icon's end")
-    assert player.visible() and player.quirn.process.poll() is None
-    assert r"Settings\MainLeft" not in desk.own_settings()
-    player.quirn.choose(EXIT)
-    player.quirn.expect("Save changes to <current SS settings>", caption="Save Changes?", button="No")
-    assert player.quirn.ended() == 0
-
-
 def test_a_second_copy_shows_a_window_that_never_was(desk):
     player = hidden_player(desk, "/Q")
     assert desk.start().ended() == 0
@@ -153,8 +139,3 @@ def test_a_second_copy_shows_a_window_that_never_was(desk):
     player.keys("End")
     player.type("x")
     assert player.text(name) == name["caption"] + "x"
-    # And one that was minimised.
-    desk.user.ask("minimise", player.handle)
-    wait_for(lambda: player.window()["minimised"], what="the small window")
-    assert desk.start().ended() == 0
-    wait_for(lambda: not player.window()["minimised"], what="the restored window")

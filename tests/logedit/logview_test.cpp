@@ -127,44 +127,6 @@ TEST_F(LogViewTest, NumbersLinesAndDeletesThem) {
     EXPECT_EQ(view.Count(), 500u);
 }
 
-// A list on screen: ten items fit, and the last screenful cannot be scrolled further.
-struct Screen {
-    size_t count;
-    size_t top = 0;
-    std::optional<size_t> current{};
-    FindList list{[this] { return top; }, [this] { return current; },
-                  [this](size_t item) {
-                      current = item;
-                      top = std::min(item, count < 10 ? 0 : count - 10);
-                  }};
-};
-
-TEST_F(LogViewTest, FindsOnFromTheTop) {
-    std::string text;
-    for (int i = 0; i < 40; ++i) text += "  Ann> line " + std::to_string(i) + (i % 8 == 0 ? " B\xE9la\r\n" : "\r\n");
-    Open(text);
-    Screen screen{view.Count()};
-    EXPECT_FALSE(FindInLog(view, "b\xC9LA", screen.list));  // on the top line: found, but the list did not move
-    EXPECT_EQ(screen.current, 0u);
-    for (const size_t expected : {8u, 16u, 24u}) {
-        EXPECT_TRUE(FindInLog(view, "b\xC9LA", screen.list));
-        EXPECT_EQ(screen.top, expected);
-    }
-    EXPECT_TRUE(FindInLog(view, "b\xC9LA", screen.list));  // the last screenful, but it was not there yet
-    EXPECT_EQ(screen.top, 30u);
-    EXPECT_EQ(screen.current, 32u);
-    EXPECT_FALSE(FindInLog(view, "b\xC9LA", screen.list));  // again from the top line, which is not the current one
-    EXPECT_EQ(screen.top, 30u);
-    EXPECT_FALSE(FindInLog(view, "no such", screen.list));
-    EXPECT_EQ(CannotFindText("no such"), "Cannot find 'no such'");
-    Screen fresh{view.Count()};
-    EXPECT_FALSE(FindInLog(view, "", fresh.list));  // the first line searched, which is the top one
-    EXPECT_TRUE(FindInLog(view, "", fresh.list));
-    EXPECT_EQ(fresh.top, 1u);
-    view.Clear();
-    EXPECT_EQ(FindItem(view, "", 0), std::nullopt);
-}
-
 // Against a search through each item's text.
 TEST_F(LogViewTest, FindsWhatIsThere) {
     Open(GenerateLog({120000, 30, 5}));
@@ -188,20 +150,7 @@ TEST_F(LogViewTest, FindsWhatIsThere) {
 }
 
 TEST_F(LogViewTest, SavesWhatIsShownAndReadsItAgain) {
-    Open(std::string(kFour) + "\r\n{7} T Ann> six\n  bob> seven\r");
     const std::string header = "[~ Filtered by QUIRN v1.61 ~]\r\n";
-    EXPECT_FALSE(SaveFilteredLog(view, In("save.log")));
-    EXPECT_EQ(FileBytes(In("save.log")),
-              header +
-                  "  bob> one\r\nT Ann> two\r\n  Player entered arena\r\nP :Ann:> four\r\n  Cid> five\r\n"
-                  "T Ann> six\r\n  bob> seven\r\r\n");
-    Apply(kTeam, true);
-    EXPECT_FALSE(SaveFilteredLog(view, In("save.log")));
-    EXPECT_EQ(FileBytes(In("save.log")), header + "{2} T Ann> two\r\n{7} T Ann> six\r\n");
-    Apply(0, false);
-    EXPECT_FALSE(SaveFilteredLog(view, In("save.log")));
-    EXPECT_EQ(FileBytes(In("save.log")), header);
-
     // A big one, some of it deleted, over the file that it came from; with and without tags.
     for (const bool lineNumbers : {false, true}) {
         Open(GenerateLog({3000000, 200, 8}));

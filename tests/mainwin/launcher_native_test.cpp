@@ -42,6 +42,7 @@ TEST_F(LauncherTest, SaysWhyTheGameIsNotStarted) {
         TheWorld().programsFailToStart = true;
         ExpectMessage("ERROR - Could not start Subspace, but Macros were transfered.", kCritical);
         EXPECT_FALSE(launcher_.TransferAndLaunch(profile_, {}));
+        EXPECT_TRUE(headless::LoadedForms().empty()) << "the run box";
     }
 }
 

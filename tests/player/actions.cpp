@@ -208,7 +208,7 @@ void Player::PressKey(Form& form) {
     if (&form == MainWindow() && control && key == 'S') Allow(Allowed::Save, program_.CurrentFile);
     if (&form == MainWindow() && control && (key == 'N' || key == 'O')) Allow(Allowed::Load);
     if (key == kKeyEnter || key == ' ') AllowClickOn(form.ActiveControl());
-    if (key != kKeyTab && !control) Allow(Allowed::Edit);
+    if (key != kKeyTab && (!control || key == kKeyEnter || key == ' ')) Allow(Allowed::Edit);
     if (!control && random_.OneIn(5)) form.UserPressesAccessKey(kAccessKeys[random_.Below(sizeof kAccessKeys - 1)]);
     else if (key == kKeyTab && !control) form.FocusNext(form.ActiveControl());
     else Press(form, key, control, random_.OneIn(8));

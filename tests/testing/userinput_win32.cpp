@@ -178,14 +178,10 @@ void Click(const Table& table, UINT down, UINT up, WPARAM keys, LPARAM point) {
 }  // namespace
 
 void ClickRow(Table& table, size_t row, bool shift, bool control) {
-    std::array<BYTE, 256> keys{};
-    if (shift) keys[VK_SHIFT] = 0x80;
-    if (control) keys[VK_CONTROL] = 0x80;
-    SetKeyboardState(keys.data());
+    Hold(control, shift);
     const WPARAM held = static_cast<WPARAM>((shift ? MK_SHIFT : 0) | (control ? MK_CONTROL : 0));
     Click(table, WM_LBUTTONDOWN, WM_LBUTTONUP, held | MK_LBUTTON, PointIn(table, row, LVIR_LABEL));
-    keys.fill(0);
-    SetKeyboardState(keys.data());
+    Hold(false, false);
 }
 
 void DoubleClickRow(Table& table, size_t row) {
