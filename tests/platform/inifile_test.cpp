@@ -124,20 +124,6 @@ TEST_F(IniFileTest, WritesValues) {
     }
 }
 
-TEST_F(IniFileTest, EveryByteOfAValueSurvives) {
-    std::string values;
-    for (int c = 1; c < 256; ++c)
-        if (c != '\r' && c != '\n') values += static_cast<char>(c);
-    for (const char c : values) {
-        const std::string key = "k" + std::to_string(static_cast<unsigned char>(c));
-        ASSERT_TRUE(WriteIniValue(file_, "s", key, "<"s + c + ">"));
-        EXPECT_EQ(Read("s", key), "<"s + c + ">");
-    }
-    EXPECT_TRUE(WriteIniValue(file_, "s", "all", "<" + values + ">"));
-    EXPECT_EQ(Read("s", "all", 300), "<" + values + ">");
-    EXPECT_EQ(Read("s", "k1"), "<\x01>");
-}
-
 TEST_F(IniFileTest, WritesSections) {
     const struct {
         std::string before, entries, after;

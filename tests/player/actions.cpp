@@ -141,12 +141,7 @@ void Player::UseControl(Control& control) {
     }
     Allow(Allowed::Edit);
     AllowClickOn(&control);
-    if (auto* label = dynamic_cast<Label*>(&control)) Click(*label);
-    else if (auto* picture = dynamic_cast<Picture*>(&control)) Click(*picture);
-    else if (auto* button = dynamic_cast<Button*>(&control)) Click(*button);
-    else if (auto* box = dynamic_cast<CheckBox*>(&control)) Click(*box);
-    else if (auto* option = dynamic_cast<OptionButton*>(&control)) Click(*option);
-    else if (auto* lines = dynamic_cast<VirtualList*>(&control)) UseList(*lines);
+    if (auto* lines = dynamic_cast<VirtualList*>(&control)) UseList(*lines);
     else if (auto* arrows = dynamic_cast<UpDown*>(&control)) Spin(*arrows, random_.OneIn(2) ? 1 : -1);
     else if (auto* text = dynamic_cast<TextBox*>(&control)) {
         text->SetFocus();
@@ -168,6 +163,8 @@ void Player::UseControl(Control& control) {
         list->SetFocus();
         Choose(*list, {static_cast<int>(random_.Below(list->Items().size()))});
         list->UserReleasesMouse();
+    } else {
+        Click(control);
     }
 }
 

@@ -12,11 +12,7 @@
 // sends the windows the messages that mouse and keyboard would bring. The form must be shown.
 namespace quirn::test {
 
-void Click(Button& button);
-void Click(CheckBox& box);
-void Click(OptionButton& option);
-void Click(Label& label);
-void Click(Picture& picture);
+void Click(Control& control);  // a button, box, option, label or picture
 void DoubleClick(Label& label);
 void RightClick(Label& label);
 void Type(TextBox& box, const std::string& text);                    // at the end

@@ -4,27 +4,22 @@
 
 namespace quirn::test {
 
-void Click(Button& button) {
-    button.SetFocus();
-    button.UserClicks();
+namespace {
+
+template <class Kind>
+bool Clicked(Control& control) {
+    auto* const found = dynamic_cast<Kind*>(&control);
+    if (found != nullptr) found->UserClicks();
+    return found != nullptr;
 }
 
-void Click(CheckBox& box) {
-    box.SetFocus();
-    box.UserClicks();
-}
+}  // namespace
 
-void Click(OptionButton& option) {
-    option.SetFocus();
-    option.UserClicks();
-}
-
-void Click(Label& label) {
-    label.UserClicks();
-}
-
-void Click(Picture& picture) {
-    picture.UserClicks();
+void Click(Control& control) {
+    if (Clicked<Label>(control) || Clicked<Picture>(control)) return;
+    control.SetFocus();
+    if (Clicked<Button>(control) || Clicked<CheckBox>(control)) return;
+    Clicked<OptionButton>(control);
 }
 
 void DoubleClick(Label& label) {

@@ -59,26 +59,13 @@ void Hold(bool control, bool shift) {
 
 }  // namespace
 
-void Click(Button& button) {
-    Send(button, BM_CLICK);
-}
-
-void Click(CheckBox& box) {
-    Send(box, BM_CLICK);
-}
-
-void Click(OptionButton& option) {
-    Send(option, BM_CLICK);
-}
-
-void Click(Label& label) {
-    Send(label, WM_LBUTTONDOWN, MK_LBUTTON);
-    Send(label, WM_LBUTTONUP);
-}
-
-void Click(Picture& picture) {
-    Send(picture, WM_LBUTTONDOWN, MK_LBUTTON);
-    Send(picture, WM_LBUTTONUP);
+void Click(Control& control) {
+    if (dynamic_cast<Label*>(&control) == nullptr && dynamic_cast<Picture*>(&control) == nullptr) {
+        Send(control, BM_CLICK);
+        return;
+    }
+    Send(control, WM_LBUTTONDOWN, MK_LBUTTON);
+    Send(control, WM_LBUTTONUP);
 }
 
 void DoubleClick(Label& label) {
