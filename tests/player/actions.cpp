@@ -127,9 +127,10 @@ void Player::Drop(Form& form) {
     Tell("drop " + path);
     Allow(Allowed::Load);
     const std::string before = program_.CurrentFile;
+    const auto isProfile = [&] { return FileBytes(path).value_or("").find("[Dialog]") != std::string::npos; };
+    const bool wasProfile = isProfile();  // others may write or remove it while a box waits
     form.onDropFile(path);
-    const bool isProfile = FileBytes(path).value_or("").find("[Dialog]") != std::string::npos;
-    if (program_.CurrentFile == path && before != path && !isProfile && !MayChange(path))
+    if (program_.CurrentFile == path && before != path && !wasProfile && !isProfile() && !MayChange(path))
         Fail("a Save would now destroy " + path);
 }
 
