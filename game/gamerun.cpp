@@ -22,6 +22,10 @@ bool GameRun::Start(const std::string& gameFolder) {
     return true;
 }
 
+bool GameRun::IsRunning() const {
+    return process_.IsRunning() || WindowOfClassExists(kGameWindowClass);
+}
+
 void GameRun::Look() {
     if (WindowOfClassExists(kGameWindowClass)) Become(State::Running);
     else if (!process_.IsRunning()) Become(State::Ended);

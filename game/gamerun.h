@@ -24,6 +24,9 @@ public:
     // before is then looked after as ever.
     bool Start(const std::string& gameFolder);
 
+    // The game that was started, or one that somebody else has started.
+    bool IsRunning() const;
+
     // Called at each change. A window of the game that was there before makes it Running too.
     std::function<void(State)> onState;
 

@@ -45,10 +45,6 @@ std::string WordFor(const std::optional<std::string>& bytes) {
     return bytes ? kAFile : kNoFile;
 }
 
-bool IsEntry(const FolderEntry& folder) {
-    return folder.isFolder && !folder.name.ends_with(kNew);
-}
-
 std::optional<TransferEntry> ReadEntry(const std::string& folder, const std::string& time) {
     const Result<std::string> info = ReadWholeFile(folder + kInfo);
     if (info.Failed()) return std::nullopt;
@@ -130,27 +126,28 @@ const char* NameOf(TransferWay way) {
 TransferLog::TransferLog(const std::string& dataFolder)
     : folder_(dataFolder.empty() ? "" : dataFolder + "\\Transfers") {}
 
+std::vector<std::string> TransferLog::Times() const {
+    std::vector<std::string> times;
+    const Result<std::vector<FolderEntry>> folders =
+        folder_.empty() ? Result<std::vector<FolderEntry>>(ErrorNumber::PathNotFound) : ListFolder(folder_);
+    if (folders.Failed()) return times;
+    for (const FolderEntry& folder : folders.Value())
+        if (folder.isFolder && !folder.name.ends_with(kNew)) times.push_back(folder.name);
+    std::sort(times.rbegin(), times.rend());
+    return times;
+}
+
 std::vector<TransferEntry> TransferLog::Entries() const {
     std::vector<TransferEntry> found;
-    if (folder_.empty()) return found;
-    const Result<std::vector<FolderEntry>> folders = ListFolder(folder_);
-    if (folders.Failed()) return found;
-    for (const FolderEntry& folder : folders.Value()) {
-        if (!IsEntry(folder)) continue;
-        if (auto entry = ReadEntry(folder_ + "\\" + folder.name, folder.name)) found.push_back(*std::move(entry));
-    }
-    std::sort(found.begin(), found.end(), [](auto& a, auto& b) { return a.time > b.time; });
+    for (const std::string& time : Times())
+        if (auto entry = ReadEntry(folder_ + "\\" + time, time)) found.push_back(*std::move(entry));
     return found;
 }
 
-bool TransferLog::IsEmpty() const {
-    const Result<std::vector<FolderEntry>> folders = ListFolder(folder_);
-    return folders.Failed() || std::none_of(folders.Value().begin(), folders.Value().end(), IsEntry);
-}
-
 std::optional<TransferEntry> TransferLog::Last() const {
-    std::vector<TransferEntry> entries = Entries();
-    return entries.empty() ? std::nullopt : std::optional(std::move(entries.front()));
+    for (const std::string& time : Times())
+        if (auto entry = ReadEntry(folder_ + "\\" + time, time)) return entry;
+    return std::nullopt;
 }
 
 Result<GameState> TransferLog::Before(const TransferEntry& entry) const {

@@ -55,7 +55,7 @@ public:
     // The newest first. The oldest is the game as this program first found it.
     std::vector<TransferEntry> Entries() const;
     std::optional<TransferEntry> Last() const;
-    bool IsEmpty() const;
+    bool IsEmpty() const { return Times().empty(); }
 
     // What an entry holds: all settings, and the files that the transfer changed. Failure: it cannot be read.
     Result<GameState> Before(const TransferEntry& entry) const;
@@ -76,6 +76,8 @@ public:
     Failure Leave(const LeftState& left) const;
 
 private:
+    std::vector<std::string> Times() const;  // of the entries, which their folders are named by
+
     std::string folder_;
 };
 

@@ -54,8 +54,16 @@ frmMain::frmMain(Program& program)
                         .ShowMacros = [this] { ShowMacros(); },
                         .CollectMacros = [this] { CollectMacros(); },
                         .ShowMacroPage = [this] { SSTab1.SetTab(kMacrosShiftPage); },
-                        .SetTitle = [this](const std::string& title) { SetCaption(title); },
-                        .SetStatus = [this](const std::string& text) { StatusBar1.SetText(text); },
+                        .SetTitle =
+                            [this](const std::string& title) {
+                                SetCaption(title);
+                                profilesCommands_.LookSoon();
+                            },
+                        .SetStatus =
+                            [this](const std::string& text) {
+                                StatusBar1.SetText(text);
+                                profilesCommands_.LookSoon();
+                            },
                         .RefreshRecentMenu = [this] { RefreshRecentMenu(menuBar_, program_.recentFiles); },
                     }),
       launcher_(program),
@@ -74,10 +82,19 @@ frmMain::frmMain(Program& program)
       Command4(rShiftPage_, kCopyMacros, "Copy from Shift"),
       chkDistinguish(rShiftPage_, kDistinguish, kDistinguishRow.caption),
       Command3(*this, kRun, "Transfer Profile And Run Subspace"),
+      noticeBar_(*this, [this](Notice::Action action) { profilesCommands_.FollowNotice(action); }),
       picker_(*this, SSTab1, edited_),
       StatusBar1(*this),
-      anchors_(kInnerWidth, kInnerHeight) {
+      anchors_(kInnerWidth, kInnerHeight),
+      profilesCommands_(*this, program, launcher_, noticeBar_,
+                        {
+                            .CollectProfile = [this] { CollectProfile(); },
+                            .ShowProfile = [this] { ShowProfile(); },
+                            .SetStatus = [this](const std::string& text) { StatusBar1.SetText(text); },
+                            .ShowKeepRow = [this](bool some) { trayCommands_.ShowKeepRow(some); },
+                        }) {
     anchors_.Add(SSTab1, Anchor::Center, Anchor::Stay).Add(Command3, Anchor::Center, Anchor::Center);
+    for (Control* control : noticeBar_.Controls()) anchors_.Add(*control, Anchor::Center, Anchor::Center);
     for (CheckBox& box : optionsPage_.Boxes()) chkSettings.push_back(&box);
     chkSettings.push_back(&advancedPage_.EmulatorBox());
     chkSettings.push_back(&chkDistinguish);
@@ -97,6 +114,7 @@ frmMain::frmMain(Program& program)
     // Closing only hides the window; the text is kept on purpose.
     ShowMenuHelp(*this, StatusBar1, {&menuBar_, &trayCommands_.IconMenu()},
                  "Close this window and terminate this program");
+    trayCommands_.onKeepChanges = [this] { profilesCommands_.FollowNotice(Notice::Action::Keep); };
     trayCommands_.onFillFavourite = [this] { ShowOptions(true); };
 
     HideRecentMenu(menuBar_);
@@ -104,6 +122,7 @@ frmMain::frmMain(Program& program)
 
     onLoad = [this] { Form_Load(); };
     onResize = [this] { Form_Resize(); };
+    onActivate = [this] { profilesCommands_.LookSoon(); };
     onQueryUnload = [this](UnloadMode mode) { return Form_QueryUnload(mode); };
     onUnload = [this] { return Form_Unload(); };
     onDropFile = [this](const std::string& path) { fileCommands_.OpenDropped(path); };
@@ -127,6 +146,7 @@ void frmMain::Form_Load() {
     identityPage_.SetZones(std::move(*zones));
     ShowError(ReadProfileFromGame(program_.profile, program_.gameFolder));
     ShowProfile();
+    profilesCommands_.Look();
     trayCommands_.Icon().Add();
     if (program_.quiet) Hide();
 }
@@ -237,6 +257,7 @@ void frmMain::ShowOptions(bool favourites) {
     frmOptions dialog(program_, [this] { trayCommands_.BuildFavouritesMenu(); });
     if (favourites) dialog.SelectTab(frmOptions::kFavourites);
     dialog.ShowModal(*this);
+    profilesCommands_.LookSoon();
 }
 
 void frmMain::Command3_Click() {

@@ -11,6 +11,7 @@
 #include "mainwin/macropage.h"
 #include "mainwin/macropicker.h"
 #include "mainwin/optionspage.h"
+#include "mainwin/profilescommands.h"
 #include "mainwin/program.h"
 #include "mainwin/traycommands.h"
 #include "platform/anchors.h"
@@ -72,9 +73,11 @@ private:
     CheckBox chkDistinguish;
     std::vector<CheckBox*> chkSettings;  // wherever they stand, in no order: their tags say what they are
     Button Command3;
+    NoticeBar noticeBar_;
     MacroPicker picker_;
     StatusBar StatusBar1;
     Anchors anchors_;
+    ProfilesCommands profilesCommands_;
 
     LogEdit logEdit_;
     std::unique_ptr<frmLogEdit>

@@ -29,6 +29,8 @@ public:
     // For the end of the program.
     void CloseRunBox() { runBox_.Unload(); }
 
+    bool GameIsRunning() const { return game_.IsRunning(); }
+
     // The last transfer could be kept.
     bool KeptLast() const { return keptLast_; }
 

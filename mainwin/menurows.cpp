@@ -45,6 +45,15 @@ std::vector<MenuRow> frmMain::MenuRows() {
         {mnuLog, 0, "&Log Utility", "", "",
             [this] { mnuLog_Click(); }},
 
+        {mnuProfiles, 0, "&Profiles"},
+        {mnuProfiles_Transfer, 1, "&Transfer Without Running", "Ctrl+T",
+            "Write the profile into the game without starting it",
+            [this] { profilesCommands_.mnuProfiles_Transfer_Click(); }, [this] { return profilesCommands_.HasGameFolder(); }},
+        {mnuProfilesBarUndo, 1, "-"},
+        {mnuProfiles_Undo, 1, "&Undo Last Transfer...", "Ctrl+Shift+Z",
+            "Put back what the game had before the last transfer",
+            [this] { profilesCommands_.mnuProfiles_Undo_Click(); }, [this] { return profilesCommands_.HasTransfer(); }},
+
         {mnuHelp, 0, "&Help"},
         {mnuHelp_Contents, 1, "&Contents", "F1", "View the QUIRN Help File",
             [this] { mnuHelp_Contents_Click(); }},
@@ -75,6 +84,9 @@ std::vector<MenuRow> TrayCommands::MenuRows() {
         {mnuPUTrayIconBarExit, 0, "-"},
         {mnuPUTrayIcon_Exit, 0, "E&xit", "", "",
             [this] { mnuPUTrayIcon_Exit_Click(); }},
+        // Only while there are some.
+        {mnuPUTrayIcon_Keep, 0, "Keep the Game's Changes...", "", "",
+            [this] { mainWindow_.Show(); onKeepChanges(); }},
     };
 }
 // clang-format on

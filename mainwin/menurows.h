@@ -32,6 +32,11 @@ enum MainCommand : int {
     mnuHelp_GotoSSWebSite,
     mnuHelpBarAbout,
     mnuHelp_About,
+
+    mnuProfiles = 40,
+    mnuProfiles_Transfer,
+    mnuProfilesBarUndo,
+    mnuProfiles_Undo,
 };
 static_assert(mnuFile_Print == 9 && mnuFile_Close == 17 && mnuOptions_Set == 20 && mnuHelp_About == 29);
 
@@ -41,6 +46,7 @@ enum TrayCommand : int {
     mnuPUTrayIcon_Fav,  // the first of five
     mnuPUTrayIconBarExit = mnuPUTrayIcon_Fav + 5,
     mnuPUTrayIcon_Exit,
+    mnuPUTrayIcon_Keep,
 };
 
 }  // namespace quirn

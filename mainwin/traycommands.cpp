@@ -18,6 +18,7 @@ TrayCommands::TrayCommands(Form& mainWindow, const Program& program, Launcher& l
       launcher_(launcher),
       mnuPUTrayIcon(MenuRows()),
       tray_(mainWindow, kTip) {
+    ShowKeepRow(false);
     tray_.onMouse = [this](unsigned message) { Tray_Mouse(message); };
 }
 

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "mainwin/launcher.h"
+#include "mainwin/menurows.h"
 #include "mainwin/program.h"
 #include "platform/menu.h"
 #include "platform/tray.h"
@@ -20,6 +21,9 @@ public:
     // Gives the favourites' items their names.
     void BuildFavouritesMenu();
 
+    void ShowKeepRow(bool some) { mnuPUTrayIcon.SetVisible(mnuPUTrayIcon_Keep, some); }
+
+    std::function<void()> onKeepChanges;    // the game's changes are to be kept; the main window is shown
     std::function<void()> onFillFavourite;  // he has chosen an empty favourite; the main window is shown
 
 private:

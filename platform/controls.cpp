@@ -70,7 +70,13 @@ Frame::operator Parent() const {
 }
 
 Button::Button(Parent parent, const Bounds& place, const std::string& caption)
-    : Control(parent, native::kButton, place, caption) {}
+    : Button(parent, native::kButton, place, caption) {}
+
+Button::Button(Parent parent, const native::Kind& kind, const Bounds& place, const std::string& caption)
+    : Control(parent, kind, place, caption) {}
+
+LinkButton::LinkButton(Parent parent, const Bounds& place, const std::string& caption)
+    : Button(parent, native::kLinkButton, place, caption) {}
 
 void Button::UserClicks() {
     if (Enabled()) CallHandler(onClick);

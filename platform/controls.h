@@ -65,6 +65,15 @@ public:
     void UserClicks();
     bool UserPressesEnter() override;
     bool UserPressesAccessKey() override;
+
+protected:
+    Button(Parent parent, const native::Kind& kind, const Bounds& place, const std::string& caption);
+};
+
+// A button that looks like a link: underlined text. Readers and the keyboard know it as a button.
+class LinkButton : public Button {
+public:
+    LinkButton(Parent parent, const Bounds& place, const std::string& caption);
 };
 
 class CheckBox : public Control {

@@ -14,13 +14,14 @@ enum MessageStyle : unsigned {
     kPlain = 0,
     kOkCancel = 1,
     kYesNoCancel = 3,
+    kRetryCancel = 5,
     kCritical = 16,
     kQuestion = 32,
     kExclamation = 48,
     kInformation = 64,
 };
 
-enum class Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+enum class Answer { Ok = 1, Cancel = 2, Retry = 4, Yes = 6, No = 7 };
 
 // A modal message box; in front of the program's active window when it has one. The default caption is the
 // program's title.

@@ -192,6 +192,10 @@ bool Form::UserTurnsPage(int steps) {
     return std::any_of(all.begin(), all.end(), [&](Control* c) { return c->Visible() && c->UserTurns(steps); });
 }
 
+void Form::WindowActivated() {
+    if (loaded_ && !loading_ && !IsBlocked()) CallHandler(onActivate);
+}
+
 void Form::WindowResized() {
     if (loaded_) CallHandler(onResize);
 }

@@ -94,6 +94,7 @@ public:
 
     std::function<void()> onLoad;
     std::function<void()> onResize;
+    std::function<void()> onActivate;                      // it has come to the front and can be used
     std::function<bool(UnloadMode)> onQueryUnload;         // false: the form stays
     std::function<bool()> onUnload;                        // false: the form stays
     std::function<bool(int key, bool control)> onKeyDown;  // without Shift, before shortcuts; true swallows it
@@ -112,6 +113,7 @@ public:
     void FocusNext(const Control* after);     // the first that can have it, in tab order and round the end
     void WindowMoved(const Bounds& place, bool maximized);
     void WindowResized();
+    void WindowActivated();
     void WindowShown(bool visible) { visible_ = visible; }
     void WindowMinimized(bool minimized) { minimized_ = minimized; }
     void FocusMoved(Control* control) { active_ = control; }

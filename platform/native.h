@@ -12,8 +12,8 @@
 namespace quirn::native {
 
 // One constant for each kind of control; what is in it is the back end's business.
-extern const Kind kLabel, kPicture, kFrame, kButton, kCheckBox, kOptionButton, kTextBox, kMaskedBox, kUpDown, kComboBox,
-    kListBox, kVirtualList, kTable, kTabStrip, kProgressBar, kStatusBar;
+extern const Kind kLabel, kPicture, kFrame, kButton, kLinkButton, kCheckBox, kOptionButton, kTextBox, kMaskedBox,
+    kUpDown, kComboBox, kListBox, kVirtualList, kTable, kTabStrip, kProgressBar, kStatusBar;
 
 // Makes a hidden, disabled window from the form's state; sets form.window. The windows of its controls come with the
 // first ShowForm, those of a page when it is first in front, that of a hidden control when it is first made visible.

@@ -163,7 +163,7 @@ namespace native {
 
 // All kinds are alike here: what they do is in their portable part.
 struct Kind {};
-const Kind kLabel{}, kPicture{}, kFrame{}, kButton{}, kCheckBox{}, kOptionButton{}, kTextBox{}, kMaskedBox{}, kUpDown{},
+const Kind kLabel{}, kPicture{}, kFrame{}, kButton{}, kLinkButton{}, kCheckBox{}, kOptionButton{}, kTextBox{}, kMaskedBox{}, kUpDown{},
     kComboBox{}, kListBox{}, kVirtualList{}, kTable{}, kTabStrip{}, kProgressBar{}, kStatusBar{};
 
 void CreateForm(Form& form) {
@@ -213,6 +213,7 @@ void RunModal(Form& form, Form& owner) {
 
 void BringToFront(Form& form) {
     form.WindowMinimized(false);
+    form.WindowActivated();
 }
 void Repaint(Form&) {}
 void Repaint(Control&) {}

@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include "platform/win32/kind.h"
+#include "platform/win32/metrics.h"
 
 // Push buttons, check boxes and option buttons.
 namespace quirn {
@@ -19,6 +20,29 @@ Look ButtonLook(const Button& button) {
     const bool isDefault = &button == button.Holder().Owner().DefaultButton();
     return {.className = "BUTTON",
             .style = WS_TABSTOP | static_cast<DWORD>(isDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON)};
+}
+
+Look LinkLook(const LinkButton&) {
+    return {.className = "BUTTON", .style = WS_TABSTOP | BS_OWNERDRAW};
+}
+
+void DrawLink(const LinkButton& link, const DRAWITEMSTRUCT& item) {
+    Font font = link.FontUsed();
+    font.underline = true;
+    RECT area = item.rcItem;
+    FillRect(item.hDC, &area, GetSysColorBrush(COLOR_BTNFACE));
+    const HGDIOBJ before = SelectObject(item.hDC, FontFor(font, DpiOf(link)));
+    SetTextColor(item.hDC, GetSysColor(link.Enabled() ? COLOR_HOTLIGHT : COLOR_GRAYTEXT));
+    SetBkMode(item.hDC, TRANSPARENT);
+    DrawTextA(item.hDC, link.Text().c_str(), -1, &area, DT_LEFT | DT_SINGLELINE | DT_END_ELLIPSIS);
+    SelectObject(item.hDC, before);
+    if ((item.itemState & ODS_FOCUS) != 0) DrawFocusRect(item.hDC, &area);
+}
+
+std::optional<LRESULT> LinkMessage(const LinkButton&, const Message& m) {
+    if (m.message != WM_SETCURSOR) return std::nullopt;
+    SetCursor(LoadCursorA(nullptr, IDC_HAND));
+    return TRUE;
 }
 
 // Neither changes by itself when clicked: the control's state does, and the window follows.
@@ -85,6 +109,10 @@ namespace native {
 using namespace win32;
 
 const Kind kButton{.look = For<ButtonLook>, .command = For<ButtonCommand<Button>>};
+const Kind kLinkButton{.look = For<LinkLook>,
+                       .command = For<ButtonCommand<LinkButton>>,
+                       .draw = For<DrawLink>,
+                       .message = For<LinkMessage>};
 const Kind kCheckBox{
     .look = For<CheckLook>, .fill = For<FillCheck>, .apply = For<ApplyCheck>, .command = For<ButtonCommand<CheckBox>>};
 const Kind kOptionButton{.look = For<OptionLook>,

@@ -167,7 +167,9 @@ LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
         case WM_DROPFILES: DropFile(*form, reinterpret_cast<HDROP>(wParam)); return 0;
         case WM_SETFOCUS: RestoreFocus(*form); return 0;
         case WM_ACTIVATE:
-            if (LOWORD(wParam) != WA_INACTIVE && PassOnActivation(*form)) return 0;
+            if (LOWORD(wParam) == WA_INACTIVE) break;
+            if (PassOnActivation(*form)) return 0;
+            form->WindowActivated();
             break;
         // Another program may show a window that never was: a second copy does. One that is being loaded stays hidden.
         case WM_WINDOWPOSCHANGING:

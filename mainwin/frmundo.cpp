@@ -1,0 +1,62 @@
+#include "mainwin/frmundo.h"
+
+#include "mainwin/transferwords.h"
+#include "platform/measures.h"
+#include "platform/text.h"
+
+namespace quirn {
+
+namespace {
+
+constexpr int kWidth = 6300;
+constexpr int kHeight = 2850;
+
+// clang-format off
+//                         left   top  width  height
+constexpr Bounds kQuestion{ 180,  180,  5820, 3 * kLabelHeight};
+constexpr Bounds kBack{     180,  870,  5820, 2 * kLabelHeight};
+constexpr Bounds kStay{     180, 1350,  5820, 2 * kLabelHeight};
+constexpr Bounds kPutBack{ 3090, 1920,  1380, kButtonHeight};
+constexpr Bounds kCancel{  4620, 1920,  1380, kButtonHeight};
+// clang-format on
+
+std::string Question(const TransferEntry& entry, const std::string& presentGameFolder) {
+    const std::string name = NameInWords(entry);
+    std::string text = entry.finished
+                           ? "Put back the settings that the game had before " + name + " was transferred?"
+                           : "The transfer of " + name + " was not finished. Put back what the game had before it?";
+    if (!EqualNoCase(entry.gameFolder, presentGameFolder))
+        text += " Files go back into " + DoubleAmpersands(entry.gameFolder) + ".";
+    return text;
+}
+
+std::string WhatStays(const GameState& changed) {
+    if (changed.IsEmpty()) return {};
+    return "The game has changed something since: " + WordsFor(changed) + ". This stays.";
+}
+
+}  // namespace
+
+frmUndo::frmUndo(const TransferEntry& entry, const Undo& undo, const std::string& presentGameFolder)
+    : Form(FormBorder::Dialog, kWidth, kHeight),
+      Label1(*this, kQuestion, Question(entry, presentGameFolder)),
+      Label2(*this, kBack, "What goes back: " + WordsFor(undo.back) + "."),
+      Label3(*this, kStay, WhatStays(undo.changedSince)),
+      cmdPutBack(*this, kPutBack, "&Put Back"),
+      cmdCancel(*this, kCancel, "Cancel") {
+    SetCaption("Undo Last Transfer");
+    SetButtons(&cmdPutBack, &cmdCancel);
+    cmdPutBack.SetEnabled(!undo.back.IsEmpty());
+    cmdPutBack.onClick = [this] {
+        putBack_ = true;
+        Unload();
+    };
+    cmdCancel.onClick = [this] { Unload(); };
+}
+
+bool frmUndo::Ask(Form& owner) {
+    ShowModal(owner);
+    return putBack_;
+}
+
+}  // namespace quirn

@@ -1,0 +1,113 @@
+#include "mainwin/profilescommands.h"
+
+#include "mainwin/frmundo.h"
+#include "platform/dialogs.h"
+#include "platform/folders.h"
+#include "platform/text.h"
+
+namespace quirn {
+
+namespace {
+
+constexpr int kSoon = 10;  // milliseconds
+
+// Old programs' files below the program folders and the like are redirected to a copy of the folder in here.
+bool IsRedirected(const std::string& gameFolder) {
+    const std::string local = LocalDataFolder();
+    return !local.empty() && gameFolder.size() > 2 && FindEntry(local + "\\VirtualStore" + gameFolder.substr(2));
+}
+
+}  // namespace
+
+ProfilesCommands::ProfilesCommands(Form& mainWindow, Program& program, Launcher& launcher, NoticeBar& notices,
+                                   ProfilesView view)
+    : mainWindow_(mainWindow), program_(program), launcher_(launcher), notices_(notices), view_(std::move(view)) {
+    lookTimer_.SetInterval(kSoon);
+    lookTimer_.onTimer = [this] {
+        lookTimer_.SetEnabled(false);
+        if (!mainWindow_.IsBlocked()) Look();
+    };
+    launcher_.onChange = [this] { LookSoon(); };
+}
+
+// No question and no launch. The profile goes into the game as the window shows it.
+void ProfilesCommands::mnuProfiles_Transfer_Click() {
+    view_.CollectProfile();
+    launcher_.Transfer(program_.profile, {program_.CurrentFile, TransferWay::NoRun});
+    view_.SetStatus("Profile has been transferred");
+}
+
+void ProfilesCommands::mnuProfiles_Undo_Click() {
+    const TransferLog log(program_.dataFolder);
+    const std::optional<TransferEntry> last = log.Last();
+    if (!last || !MayWriteNow()) return;
+    const Result<Undo> undo = PlanUndo(log, *last);
+    if (undo.Failed()) {
+        ShowError(undo.Error());
+        return;
+    }
+    frmUndo question(*last, undo.Value(), program_.gameFolder);
+    if (question.Ask(mainWindow_) && MayWriteNow())
+        PutBack(undo.Value().back, last->gameFolder, {last->note.profile, TransferWay::Undo});
+}
+
+// What goes wrong is shown. It is a transfer like all others, so it can be undone.
+void ProfilesCommands::PutBack(const GameState& state, const std::string& gameFolder, const TransferNote& note) {
+    const TransferResult result = PutIntoGame(state, gameFolder, TransferLog(program_.dataFolder), note);
+    ShowErrors(result.errors);
+    if (result.errors.empty()) view_.SetStatus("Settings have been put back");
+    LookSoon();
+}
+
+// The game writes its settings when it ends, over whatever has been put back meanwhile.
+bool ProfilesCommands::MayWriteNow() const {
+    while (launcher_.GameIsRunning())
+        if (ShowMessage("The game is running and writes its settings when it ends. End it first.",
+                        kRetryCancel + kExclamation) != Answer::Retry)
+            return false;
+    return true;
+}
+
+bool ProfilesCommands::HasGameFolder() const {
+    return program_.gameFolder != kNotSet;
+}
+
+bool ProfilesCommands::HasTransfer() const {
+    return !TransferLog(program_.dataFolder).IsEmpty();
+}
+
+void ProfilesCommands::FollowNotice(Notice::Action action) {
+    if (action == Notice::Action::Undo) mnuProfiles_Undo_Click();
+}
+
+void ProfilesCommands::LookSoon() {
+    lookTimer_.SetEnabled(true);
+}
+
+void ProfilesCommands::Look() {
+    if (firstGameFolder_.empty()) firstGameFolder_ = program_.gameFolder;
+    const NoticeFacts facts = Facts();
+    notices_.Show(WorstOf(facts));
+    notices_.ShowSave(SaveNotice(program_.CurrentFile));
+    view_.ShowKeepRow(facts.changes > 0 || facts.filesChanged);
+}
+
+NoticeFacts ProfilesCommands::Facts() const {
+    const TransferLog log(program_.dataFolder);
+    const std::optional<TransferEntry> last = log.Last();
+    const GameChanges changes = FindGameChanges(log, program_.gameFolder);
+    const Result<GameSettings> settings = ReadGameSettings();
+    NoticeFacts facts;
+    facts.unfinished = last && !last->finished;
+    facts.notKept = !launcher_.KeptLast();
+    facts.gameRuns = launcher_.GameIsRunning();
+    facts.noSettings = !settings.Failed() && settings.Value().empty();
+    facts.folderChanged = !EqualNoCase(program_.gameFolder, firstGameFolder_);
+    facts.redirected = IsRedirected(program_.gameFolder);
+    facts.changes = changes.now.SettingCount();
+    facts.filesChanged = !changes.now.files.empty();
+    facts.since = changes.since;
+    return facts;
+}
+
+}  // namespace quirn
