@@ -17,11 +17,12 @@ Launcher::Launcher(const Program& program) : program_(program) {
     };
 }
 
-void Launcher::Transfer(const Profile& profile, const TransferNote& note) {
+bool Launcher::Transfer(const Profile& profile, const TransferNote& note) {
     const TransferResult result = TransferToGame(profile, program_.gameFolder, TransferLog(program_.dataFolder), note);
     keptLast_ = result.kept;
     ShowErrors(result.errors);
     CallHandler(onChange);
+    return result.errors.empty();
 }
 
 bool Launcher::TransferAndLaunch(const Profile& profile, const TransferNote& note) {

@@ -15,8 +15,8 @@ class Launcher {
 public:
     explicit Launcher(const Program& program);
 
-    // Writes a profile into the game. What goes wrong is shown.
-    void Transfer(const Profile& profile, const TransferNote& note);
+    // Writes a profile into the game. What goes wrong is shown. True when nothing did.
+    bool Transfer(const Profile& profile, const TransferNote& note);
 
     // The same, and starts the game. True when it has been started. It returns at once; the run box goes, without a
     // time limit, when the game's window has been there for one second or the player closes it. A launch that is under

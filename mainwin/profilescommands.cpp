@@ -33,8 +33,8 @@ ProfilesCommands::ProfilesCommands(Form& mainWindow, Program& program, Launcher&
 // No question and no launch. The profile goes into the game as the window shows it.
 void ProfilesCommands::mnuProfiles_Transfer_Click() {
     view_.CollectProfile();
-    launcher_.Transfer(program_.profile, {program_.CurrentFile, TransferWay::NoRun});
-    view_.SetStatus("Profile has been transferred");
+    if (launcher_.Transfer(program_.profile, {program_.CurrentFile, TransferWay::NoRun}))
+        view_.SetStatus("Profile has been transferred");
 }
 
 void ProfilesCommands::mnuProfiles_Undo_Click() {

@@ -205,6 +205,7 @@ void Player::PressKey(Form& form) {
     Tell("key " + std::to_string(key) + (control ? " with Ctrl in " : " in ") + form.Caption());
     if (&form == MainWindow() && control && key == 'S') Allow(Allowed::Save, program_.CurrentFile);
     if (&form == MainWindow() && control && (key == 'N' || key == 'O')) Allow(Allowed::Load);
+    if (&form == MainWindow() && control && (key == 'T' || key == 'Z')) Allow(Allowed::Transfer);
     if (key == kKeyEnter || key == ' ') AllowClickOn(form.ActiveControl());
     if (key != kKeyTab && (!control || key == kKeyEnter || key == ' ')) Allow(Allowed::Edit);
     if (!control && random_.OneIn(5)) form.UserPressesAccessKey(kAccessKeys[random_.Below(sizeof kAccessKeys - 1)]);
@@ -224,7 +225,9 @@ void Player::ChooseFromMenu(Form& form, Menu& menu) {
         if (command == mnuFile_New || command == mnuFile_Open || (command >= mnuFileMRU && command < mnuFileBarMRU))
             Allow(Allowed::Load);
         if (command == mnuFile_Import) Allow(Allowed::Edit);
-        if (command >= mnuPUTrayIcon_Fav && command < mnuPUTrayIconBarExit) Allow(Allowed::Transfer);
+        if ((command >= mnuPUTrayIcon_Fav && command < mnuPUTrayIconBarExit) || command == mnuProfiles_Transfer ||
+            command == mnuProfiles_Undo)
+            Allow(Allowed::Transfer);
     }
     menu.UserChooses(command);
 }
@@ -294,7 +297,9 @@ void Player::ChangeWorld() {
 }
 
 void Player::AllowClickOn(const Control* control) {
-    if (control != nullptr && control->Text() == "Transfer Profile And Run Subspace") Allow(Allowed::Transfer);
+    if (control != nullptr &&
+        (control->Text() == "Transfer Profile And Run Subspace" || control->Text() == "&Put Back"))
+        Allow(Allowed::Transfer);
 }
 
 }  // namespace quirn::test

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "game/playerfiles.h"
 #include "mainwin/menurows.h"
 #include "platform/files.h"
 #include "platform/folders.h"
@@ -138,9 +139,9 @@ bool Player::MayChange(const std::string& path) const {
         if (allowed.what == Allowed::Save)
             return SamePath(path, allowed.path) ||
                    SamePath(path, program_.gameFolder + "\\" + SplitPath(allowed.path).name + ".ssm");
-        const bool isGameFile = EqualNoCase(parts.File(), "ignore.txt") || EqualNoCase(parts.extension, "wav");
-        return allowed.what == Allowed::Transfer &&
-               (path.starts_with(kGameKeys) || (isGameFile && SamePath(parts.Folder(), program_.gameFolder)));
+        const bool isGameFile = std::any_of(std::begin(kPlayerFiles), std::end(kPlayerFiles),
+                                            [&](auto* name) { return EqualNoCase(parts.File(), name); });
+        return allowed.what == Allowed::Transfer && (path.starts_with(kGameKeys) || isGameFile);
     });
 }
 
