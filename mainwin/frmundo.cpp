@@ -46,7 +46,7 @@ frmUndo::frmUndo(const TransferEntry& entry, const Undo& undo, const std::string
       cmdCancel(*this, kCancel, "Cancel") {
     SetCaption("Undo Last Transfer");
     SetButtons(&cmdPutBack, &cmdCancel);
-    cmdPutBack.SetEnabled(!undo.back.IsEmpty());
+    cmdPutBack.SetEnabled(!undo.back.IsEmpty() || !entry.finished);
     cmdPutBack.onClick = [this] {
         putBack_ = true;
         Unload();

@@ -47,16 +47,19 @@ void ProfilesCommands::mnuProfiles_Undo_Click() {
         return;
     }
     frmUndo question(*last, undo.Value(), program_.gameFolder);
-    if (question.Ask(mainWindow_) && MayWriteNow())
-        PutBack(undo.Value().back, last->gameFolder, {last->note.profile, TransferWay::Undo});
+    if (!question.Ask(mainWindow_) || !MayWriteNow()) return;
+    // One that was cut off is over now, also when it had not come to change anything.
+    if (PutBack(undo.Value().back, last->gameFolder, {last->note.profile, TransferWay::Undo}) && !last->finished)
+        ShowError(log.Finish(last->folder));
 }
 
 // What goes wrong is shown. It is a transfer like all others, so it can be undone.
-void ProfilesCommands::PutBack(const GameState& state, const std::string& gameFolder, const TransferNote& note) {
+bool ProfilesCommands::PutBack(const GameState& state, const std::string& gameFolder, const TransferNote& note) {
     const TransferResult result = PutIntoGame(state, gameFolder, TransferLog(program_.dataFolder), note);
     ShowErrors(result.errors);
     if (result.errors.empty()) view_.SetStatus("Settings have been put back");
     LookSoon();
+    return result.errors.empty();
 }
 
 // The game writes its settings when it ends, over whatever has been put back meanwhile.

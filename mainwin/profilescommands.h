@@ -36,7 +36,7 @@ public:
     void Look();
 
 private:
-    void PutBack(const GameState& state, const std::string& gameFolder, const TransferNote& note);
+    bool PutBack(const GameState& state, const std::string& gameFolder, const TransferNote& note);
     bool MayWriteNow() const;
     NoticeFacts Facts() const;
 
