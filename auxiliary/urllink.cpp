@@ -9,7 +9,6 @@ namespace {
 
 constexpr char kDefaultText[] = "Example Home Page";
 constexpr char kDefaultURL[] = "www.home.example/";
-constexpr Color kLinkColor = Rgb(0, 72, 192);
 
 std::string ValueIn(const URLLink::PropertyBag& bag, const char* name, const char* defaultValue) {
     const auto found = bag.find(name);

@@ -76,7 +76,9 @@ Button::Button(Parent parent, const native::Kind& kind, const Bounds& place, con
     : Control(parent, kind, place, caption) {}
 
 LinkButton::LinkButton(Parent parent, const Bounds& place, const std::string& caption)
-    : Button(parent, native::kLinkButton, place, caption) {}
+    : Button(parent, native::kLinkButton, place, caption) {
+    SetForeColor(kLinkColor);
+}
 
 void Button::UserClicks() {
     if (Enabled()) CallHandler(onClick);

@@ -70,6 +70,8 @@ protected:
     Button(Parent parent, const native::Kind& kind, const Bounds& place, const std::string& caption);
 };
 
+inline constexpr Color kLinkColor = Rgb(0, 72, 192);
+
 // A button that looks like a link: underlined text. Readers and the keyboard know it as a button.
 class LinkButton : public Button {
 public:

@@ -32,7 +32,8 @@ class Transfers:
 
     def state(self):
         files = [self.desk.file(name) for name in PLAYER_FILES]
-        return self.desk.registry(), [f.read_bytes() if f.exists() else None for f in files]
+        # On a loaded machine the registry's own program now and then does not come up.
+        return wait_for(self.desk.registry, what="the registry"), [f.read_bytes() if f.exists() else None for f in files]
 
     def kill_soon(self, quirn, known, pause):
         """Some milliseconds after something has been written down, or after three seconds at the latest."""

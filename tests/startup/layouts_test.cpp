@@ -10,6 +10,7 @@
 #include "mainwin/frmmain.h"
 #include "mainwin/frmoptions.h"
 #include "mainwin/frmrunbox.h"
+#include "mainwin/frmundo.h"
 #include "platform/measures.h"
 #include "tests/testing/profiles.h"
 #include "tests/testing/userinput.h"
@@ -99,6 +100,12 @@ TEST_F(LayoutsTest, NothingStandsOutsideOrAcrossAnother) {
     frmOptions options(program_, [] {});
     options.Load();
     Check(options, "options");
+    TransferEntry entry;
+    entry.gameFolder = "C:\\A rather long folder\\of the game that was there before";
+    entry.note.profile = "C:\\a profile with a long name.qrn";
+    frmUndo undo(entry, {{}, {}}, program_.gameFolder);
+    undo.Load();
+    Check(undo, "undo");
     frmConfig config;
     config.Load();
     Check(config, "config code");

@@ -1,0 +1,71 @@
+#include "mainwin/profilescommands.h"
+
+#include "mainwin/frmmain.h"
+#include "mainwin/menurows.h"
+#include "mainwin/transferwords.h"
+#include "platform/headless/events.h"
+#include "platform/headless/headless.h"
+#include "tests/auxiliary/controlsof.h"
+#include "tests/testing/profiles.h"
+#include "tests/testing/userinput.h"
+
+namespace quirn {
+namespace {
+
+using namespace test;
+using namespace std::string_literals;
+
+TEST(NoticeTest, TellsTheWorstFirst) {
+    NoticeFacts facts;
+    EXPECT_EQ(WorstOf(facts).text, "");
+    facts.changes = 1;
+    facts.since = "2004-03-13 09.05.59";
+    EXPECT_EQ(WorstOf(facts).text, "The game changed 1 setting since 2004-03-13 09:05.");
+    EXPECT_EQ(WorstOf(facts).action, Notice::Action::Keep);
+    facts.gameRuns = true;
+    EXPECT_EQ(WorstOf(facts).link, "");
+    facts.unfinished = true;
+    EXPECT_EQ(WorstOf(facts).text, "The last transfer was not finished.");
+    EXPECT_EQ(TimeInWords("2026-11-23 14.05.10 2", "2026-11-23 18.00.00"), "14:05");
+    EXPECT_EQ(SaveNotice("C:\\p\\DUEL.QRN"), "Save writes DUEL.QRN");
+    EXPECT_EQ(WordsFor(38, true, 1), "38 settings, the ignore list and 1 wave message");
+    EXPECT_EQ(WordsFor(1, false, 2), "1 setting and 2 wave messages");
+}
+
+class ProfilesCommandsTest : public WorldTest {
+protected:
+    ProfilesCommandsTest() {
+        program_.gameFolder = Scratch();
+        program_.dataFolder = Scratch() + "\\data";
+        PutFile(Scratch() + "\\favorite.lst", "Alpha Reach,a.example,5000\r\n-First\r\n");
+        MakeKey("Software\\Virgin\\SubSpace\\Messages");
+        PutValue("Software\\Virgin\\SubSpace\\Messages", "ShiftF1", 1, "found\0"s);
+        InitCatalogue(program_.profile);
+        main_.Load();
+    }
+
+    std::string StoredMacro() { return GetValue("Software\\Virgin\\SubSpace\\Messages", "ShiftF1")->bytes; }
+    void Choose(int command) { main_.MenuBar()->UserChooses(command); }
+    bool Offers(int command) { return main_.MenuBar()->Find(command)->IsEnabled(); }
+
+    Program program_;
+    frmMain main_{program_};
+};
+
+TEST_F(ProfilesCommandsTest, WhatWasTransferredByMistakeIsUndone) {
+    EXPECT_FALSE(Offers(mnuProfiles_Undo));
+    program_.profile.Messages.Value(1) = "mine";
+    main_.ShowProfile();
+    Choose(mnuProfiles_Transfer);
+    EXPECT_EQ(StoredMacro(), "mine\0"s);
+    ASSERT_TRUE(Offers(mnuProfiles_Undo));
+    for (const char* button : {"Cancel", "&Put Back"}) {
+        EXPECT_EQ(StoredMacro(), "mine\0"s);
+        headless::PostAfter(10, [button] { Click(ButtonOf(*headless::LoadedForms().back(), button)); });
+        Choose(mnuProfiles_Undo);
+    }
+    EXPECT_EQ(StoredMacro(), "found\0"s);
+}
+
+}  // namespace
+}  // namespace quirn
