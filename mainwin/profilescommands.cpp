@@ -1,9 +1,11 @@
 #include "mainwin/profilescommands.h"
 
 #include "mainwin/frmundo.h"
+#include "mainwin/transferwords.h"
 #include "platform/dialogs.h"
 #include "platform/folders.h"
 #include "platform/text.h"
+#include "profile/settingvalues.h"
 
 namespace quirn {
 
@@ -15,6 +17,21 @@ constexpr int kSoon = 10;  // milliseconds
 bool IsRedirected(const std::string& gameFolder) {
     const std::string local = LocalDataFolder();
     return !local.empty() && gameFolder.size() > 2 && FindEntry(local + "\\VirtualStore" + gameFolder.substr(2));
+}
+
+// The settings that a state holds, a line each as their pages word them, with their values in a profile.
+std::string Listed(const GameState& state, const Profile& profile) {
+    constexpr size_t kMostLines = 20;
+    std::string text;
+    size_t lines = 0;
+    for (const SettingRow& row : setting::kRows) {
+        const auto section = state.settings.find(setting::kGroupNames[static_cast<size_t>(row.group)]);
+        if (section == state.settings.end() || !section->second.contains(row.name)) continue;
+        if (++lines <= kMostLines) text += DisplayCaption(row) + ": " + DisplayValue(row, profile.Value(row)) + "\n";
+    }
+    if (lines > kMostLines) text += "and " + std::to_string(lines - kMostLines) + " more settings\n";
+    if (!state.files.empty()) text += WordsFor({{}, state.files}) + "\n";
+    return text;
 }
 
 }  // namespace
@@ -53,6 +70,24 @@ void ProfilesCommands::mnuProfiles_Undo_Click() {
         ShowError(log.Finish(last->folder));
 }
 
+void ProfilesCommands::KeepChanges() {
+    const TransferLog log(program_.dataFolder);
+    const GameChanges changes = FindGameChanges(log, program_.gameFolder);
+    if (changes.now.IsEmpty()) return;
+    Profile kept = program_.profile;
+    TakeIntoProfile(changes.now, program_.gameFolder, kept);
+    if (ShowMessage("Take what the game has changed into the profile in the window?\n\n" + Listed(changes.now, kept) +
+                        "\nNothing is saved before you save it.",
+                    kOkCancel + kQuestion, "Keep the Game's Changes") != Answer::Ok)
+        return;
+    view_.CollectProfile();
+    TakeIntoProfile(changes.now, program_.gameFolder, program_.profile);
+    program_.dirty = true;
+    view_.ShowProfile();
+    ShowError(AcceptGameChanges(log, changes.now));
+    LookSoon();
+}
+
 // What goes wrong is shown. It is a transfer like all others, so it can be undone.
 bool ProfilesCommands::PutBack(const GameState& state, const std::string& gameFolder, const TransferNote& note) {
     const TransferResult result = PutIntoGame(state, gameFolder, TransferLog(program_.dataFolder), note);
@@ -81,6 +116,7 @@ bool ProfilesCommands::HasTransfer() const {
 
 void ProfilesCommands::FollowNotice(Notice::Action action) {
     if (action == Notice::Action::Undo) mnuProfiles_Undo_Click();
+    if (action == Notice::Action::Keep) KeepChanges();
 }
 
 void ProfilesCommands::LookSoon() {

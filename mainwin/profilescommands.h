@@ -25,6 +25,7 @@ public:
 
     void mnuProfiles_Transfer_Click();
     void mnuProfiles_Undo_Click();
+    void KeepChanges();  // asks, and takes what the game has changed into the profile in the window
 
     bool HasGameFolder() const;
     bool HasTransfer() const;

@@ -79,7 +79,7 @@ class Chance:
 
     def click(self, window):
         left, top, right, bottom = window["rect"]
-        x, y = self.random.randint(left, max(left, right)), self.random.randint(top, max(top, bottom))
+        x, y = (max(0, self.random.randint(low, max(low, high))) for low, high in ((left, right), (top, bottom)))
         self.tell("click", x, y, window["caption"])
         subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", self.random.choice("1113")],
                        env=self.desk.screen.environment, check=False)
@@ -128,9 +128,15 @@ class Chance:
         """A second copy brings the first one's window back, or takes its place when that has just ended."""
         self.tell("second copy")
         copy = self.desk.machine.start(r"C:\QUIRN\QUIRN.exe")
-        wait_for(lambda: copy.poll() is not None or self.process.poll() is not None, 20, "the second copy's end")
+        wait_for(lambda: self.copy_is_done(copy), 20, "the second copy's end")
         if copy.poll() is None and self.process.returncode == 0:
             self.process = copy
+
+    def copy_is_done(self, copy):
+        for window in self.windows():
+            if (self.user.ask("message", window["handle"]) or {}).get("text") == "QUIRN is already running.":
+                self.user.ask("press", window["handle"], "OK")
+        return copy.poll() is not None or self.process.poll() is not None
 
     def check(self):
         """The program lives and answers, and some window of it can be used."""

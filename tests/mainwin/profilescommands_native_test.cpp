@@ -67,5 +67,25 @@ TEST_F(ProfilesCommandsTest, WhatWasTransferredByMistakeIsUndone) {
     EXPECT_EQ(StoredMacro(), "found\0"s);
 }
 
+TEST_F(ProfilesCommandsTest, WhatTheGameChangesIsNoticedAndKept) {
+    Choose(mnuProfiles_Transfer);
+    PutValue("Software\\Virgin\\SubSpace\\Messages", "ShiftF1", 1, "by the game\0"s);
+    main_.Show();
+    main_.BringToFront();
+    WaitForEvents(50);
+    LinkButton& link = ControlOf<LinkButton>(main_, "Keep them...");
+    ASSERT_TRUE(link.Visible());
+    program_.dirty = false;
+    ExpectMessage(
+        "Take what the game has changed into the profile in the window?\n\nShift F1: by the game\n\n"
+        "Nothing is saved before you save it.",
+        kOkCancel + kQuestion, Answer::Ok, "Keep the Game's Changes");
+    Click(link);
+    EXPECT_TRUE(program_.dirty);
+    EXPECT_EQ(program_.profile.Messages.Value(1), "by the game");
+    WaitForEvents(50);
+    EXPECT_FALSE(link.Visible());
+}
+
 }  // namespace
 }  // namespace quirn
