@@ -53,6 +53,8 @@ std::vector<MenuRow> frmMain::MenuRows() {
         {mnuProfiles_Undo, 1, "&Undo Last Transfer...", "Ctrl+Shift+Z",
             "Put back what the game had before the last transfer",
             [this] { profilesCommands_.mnuProfiles_Undo_Click(); }, [this] { return profilesCommands_.HasTransfer(); }},
+        {mnuProfiles_History, 1, "Transfer &History...", "", "View what QUIRN has changed in the game",
+            [this] { profilesCommands_.mnuProfiles_History_Click(); }},
 
         {mnuHelp, 0, "&Help"},
         {mnuHelp_Contents, 1, "&Contents", "F1", "View the QUIRN Help File",

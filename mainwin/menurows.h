@@ -37,6 +37,7 @@ enum MainCommand : int {
     mnuProfiles_Transfer,
     mnuProfilesBarUndo,
     mnuProfiles_Undo,
+    mnuProfiles_History,
 };
 static_assert(mnuFile_Print == 9 && mnuFile_Close == 17 && mnuOptions_Set == 20 && mnuHelp_About == 29);
 

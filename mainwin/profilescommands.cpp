@@ -1,5 +1,6 @@
 #include "mainwin/profilescommands.h"
 
+#include "mainwin/frmhistory.h"
 #include "mainwin/frmundo.h"
 #include "mainwin/transferwords.h"
 #include "platform/dialogs.h"
@@ -68,6 +69,26 @@ void ProfilesCommands::mnuProfiles_Undo_Click() {
     // One that was cut off is over now, also when it had not come to change anything.
     if (PutBack(undo.Value().back, last->gameFolder, {last->note.profile, TransferWay::Undo}) && !last->finished)
         ShowError(log.Finish(last->folder));
+}
+
+void ProfilesCommands::mnuProfiles_History_Click() {
+    const TransferLog log(program_.dataFolder);
+    frmHistory history(log, [&](const TransferEntry& entry) { PutBackWhole(log, entry); });
+    history.ShowModal(mainWindow_);
+    LookSoon();
+}
+
+void ProfilesCommands::PutBackWhole(const TransferLog& log, const TransferEntry& entry) {
+    const Result<GameState> before = log.WholeBefore(entry);
+    if (before.Failed()) {
+        ShowError(before.Error());
+        return;
+    }
+    if (ShowMessage("Put back all that the game had before " + NameInWords(entry) +
+                        " was transferred? What it has now is kept in the history.",
+                    kOkCancel + kQuestion) == Answer::Ok &&
+        MayWriteNow())
+        PutBack(before.Value(), entry.gameFolder, {entry.note.profile, TransferWay::PutBack});
 }
 
 void ProfilesCommands::KeepChanges() {

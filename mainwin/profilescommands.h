@@ -25,6 +25,7 @@ public:
 
     void mnuProfiles_Transfer_Click();
     void mnuProfiles_Undo_Click();
+    void mnuProfiles_History_Click();
     void KeepChanges();  // asks, and takes what the game has changed into the profile in the window
 
     bool HasGameFolder() const;
@@ -38,6 +39,7 @@ public:
 
 private:
     bool PutBack(const GameState& state, const std::string& gameFolder, const TransferNote& note);
+    void PutBackWhole(const TransferLog& log, const TransferEntry& entry);
     bool MayWriteNow() const;
     NoticeFacts Facts() const;
 

@@ -40,10 +40,13 @@ std::string WordsFor(const TransferEntry& entry) {
     return WordsFor(entry.settings, names, entry.files.size() - (names ? 1 : 0));
 }
 
-std::string NameInWords(const TransferEntry& entry) {
+std::string FileNameOf(const TransferEntry& entry) {
     const std::string& profile = entry.note.profile;
-    const std::string name = IsUntitled(profile) ? profile : SplitPath(profile).File();
-    return "'" + name + "' (" + TimeInWords(entry.time, SortableTime()) + ")";
+    return IsUntitled(profile) ? profile : SplitPath(profile).File();
+}
+
+std::string NameInWords(const TransferEntry& entry) {
+    return "'" + FileNameOf(entry) + "' (" + TimeInWords(entry.time, SortableTime()) + ")";
 }
 
 }  // namespace quirn

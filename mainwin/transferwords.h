@@ -12,6 +12,9 @@ std::string WordsFor(size_t settings, bool ignoreList, size_t waves);
 std::string WordsFor(const GameState& state);
 std::string WordsFor(const TransferEntry& entry);
 
+// The profile without its folder.
+std::string FileNameOf(const TransferEntry& entry);
+
 // "'nova.qrn' (2026-11-22 14:05)", without the date when it is today's.
 std::string NameInWords(const TransferEntry& entry);
 

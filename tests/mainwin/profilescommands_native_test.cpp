@@ -67,6 +67,35 @@ TEST_F(ProfilesCommandsTest, WhatWasTransferredByMistakeIsUndone) {
     EXPECT_EQ(StoredMacro(), "found\0"s);
 }
 
+TEST_F(ProfilesCommandsTest, AnyKeptStateComesBackFromTheHistory) {
+    for (const char* macro : {"one", "two"}) {
+        program_.profile.Messages.Value(1) = macro;
+        main_.ShowProfile();
+        Choose(mnuProfiles_Transfer);
+    }
+    ExpectMessage(
+        "Put back all that the game had before '<current SS settings>' (21:26) was transferred? What it has "
+        "now is kept in the history.",
+        kOkCancel + kQuestion);
+    ExpectMessage("Forget all kept transfers? There is no way back to what the game had before them then.",
+                  kOkCancel + kExclamation);
+    headless::PostAfter(10, [this] {
+        Form& history = *headless::LoadedForms().back();
+        EXPECT_FALSE(ButtonOf(history, "&Put Back").Enabled());
+        auto& table = ControlOf<Table>(history, "");
+        EXPECT_EQ(table.RowCount(), 2u);
+        EXPECT_EQ(table.cellText(0, 3), "1 setting");
+        ClickRow(table, 1);
+        Click(ButtonOf(history, "&Put Back"));
+        EXPECT_EQ(StoredMacro(), "found\0"s);
+        EXPECT_EQ(table.cellText(0, 2), "Put back");
+        Click(ButtonOf(history, "&Forget All"));
+        EXPECT_EQ(table.RowCount(), 0u);
+        Click(ButtonOf(history, "Close"));
+    });
+    Choose(mnuProfiles_History);
+}
+
 TEST_F(ProfilesCommandsTest, WhatTheGameChangesIsNoticedAndKept) {
     Choose(mnuProfiles_Transfer);
     PutValue("Software\\Virgin\\SubSpace\\Messages", "ShiftF1", 1, "by the game\0"s);

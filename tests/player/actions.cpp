@@ -226,7 +226,7 @@ void Player::ChooseFromMenu(Form& form, Menu& menu) {
             Allow(Allowed::Load);
         if (command == mnuFile_Import) Allow(Allowed::Edit);
         if ((command >= mnuPUTrayIcon_Fav && command < mnuPUTrayIconBarExit) || command == mnuProfiles_Transfer ||
-            command == mnuProfiles_Undo)
+            command == mnuProfiles_Undo || command == mnuProfiles_History)
             Allow(Allowed::Transfer);
     }
     menu.UserChooses(command);

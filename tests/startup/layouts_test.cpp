@@ -7,6 +7,7 @@
 #include "auxiliary/frmsplash.h"
 #include "logedit/frmlogedit.h"
 #include "mainwin/frmconfig.h"
+#include "mainwin/frmhistory.h"
 #include "mainwin/frmmain.h"
 #include "mainwin/frmoptions.h"
 #include "mainwin/frmrunbox.h"
@@ -106,6 +107,10 @@ TEST_F(LayoutsTest, NothingStandsOutsideOrAcrossAnother) {
     frmUndo undo(entry, {{}, {}}, program_.gameFolder);
     undo.Load();
     Check(undo, "undo");
+    const TransferLog log(Scratch());
+    frmHistory history(log, {});
+    history.Load();
+    CheckSizes(history, "history");
     frmConfig config;
     config.Load();
     Check(config, "config code");

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "game/transferlog.h"
+#include "platform/anchors.h"
+#include "platform/form.h"
+#include "platform/table.h"
+
+namespace quirn {
+
+// The dialog "Transfer History": what transfers have changed in the game, and the way back to before any of them.
+class frmHistory : public Form {
+public:
+    // putBack: the player wants back what the game had before this transfer. It asks, and shows what goes wrong.
+    frmHistory(const TransferLog& log, std::function<void(const TransferEntry&)> putBack);
+
+private:
+    void Fill();
+    void Select();
+    void cmdPutBack_Click();
+    void cmdForgetAll_Click();
+    void ForgetCurrent();
+    const TransferEntry* Current() const;
+
+    const TransferLog& log_;
+    std::function<void(const TransferEntry&)> putBack_;
+    std::vector<TransferEntry> entries_;
+
+    Table tblTransfers;
+    Button cmdPutBack, cmdForgetAll, cmdClose;
+    Anchors anchors_;
+};
+
+}  // namespace quirn
