@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <string>
 
 #include "platform/text.h"
@@ -22,9 +21,6 @@ struct RegistryValue {
     std::string bytes;
     bool operator==(const RegistryValue&) const = default;
 };
-
-// By name.
-using RegistryValues = std::map<std::string, RegistryValue, LessNoCase>;
 
 // An open key; closed at the end of its life. Statuses are the registry functions' own, 0 for success.
 class RegistryKey {
@@ -47,7 +43,6 @@ public:
     long Write(const std::string& name, const RegistryValue& value) const;
 
     long Remove(const std::string& name) const;
-    long List(RegistryValues& values) const;
 
 private:
     void* handle_ = nullptr;

@@ -67,13 +67,6 @@ long RegistryKey::Remove(const std::string& name) const {
     return kRegistrySuccess;
 }
 
-long RegistryKey::List(RegistryValues& values) const {
-    const headless::RegistryValues* stored = ValuesOf(handle_);
-    if (stored == nullptr) return kRegistryDeleted;
-    for (const auto& [name, value] : *stored) values[name] = {static_cast<RegistryType>(value.type), value.bytes};
-    return kRegistrySuccess;
-}
-
 std::string ReadMachineText(const std::string& path, const std::string& name) {
     const auto& texts = headless::TheWorld().machineTexts;
     const auto found = texts.find(path + "\\" + name);

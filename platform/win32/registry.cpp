@@ -40,27 +40,6 @@ long RegistryKey::Remove(const std::string& name) const {
     return RegDeleteValueA(static_cast<HKEY>(handle_), name.c_str());
 }
 
-long RegistryKey::List(RegistryValues& values) const {
-    const HKEY key = static_cast<HKEY>(handle_);
-    DWORD count = 0;
-    DWORD longestName = 0;
-    DWORD longestValue = 0;
-    long status = RegQueryInfoKeyA(key, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &count, &longestName,
-                                   &longestValue, nullptr, nullptr);
-    for (DWORD i = 0; status == ERROR_SUCCESS && i < count; ++i) {
-        std::string name(longestName + 1, '\0');
-        std::string bytes(longestValue + 1, '\0');
-        auto nameLength = static_cast<DWORD>(name.size());
-        auto size = static_cast<DWORD>(bytes.size());
-        DWORD type = 0;
-        status = RegEnumValueA(key, i, name.data(), &nameLength, nullptr, &type, reinterpret_cast<BYTE*>(bytes.data()),
-                               &size);
-        if (status == ERROR_SUCCESS)
-            values[name.substr(0, nameLength)] = {static_cast<RegistryType>(type), bytes.substr(0, size)};
-    }
-    return status;
-}
-
 std::string ReadMachineText(const std::string& path, const std::string& name) {
     HKEY opened = nullptr;
     if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, path.c_str(), 0, KEY_QUERY_VALUE, &opened) != ERROR_SUCCESS) return {};

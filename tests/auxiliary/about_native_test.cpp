@@ -81,22 +81,5 @@ TEST_F(AuxiliaryTest, TheSystemInformationIsFoundInTwoPlaces) {
     Click(button);
 }
 
-TEST_F(AuxiliaryTest, TheNotesShowTheFileLineByLine) {
-    PutFile("C:\\Program\\readme.txt", "One\r\n\r\nThree, caf\xE9");
-    frmRelNotes form;
-    form.Show();
-    EXPECT_EQ(form.Caption(), "QUIRN Readme/Revision Notes");
-    const auto& text = ControlOf<TextBox>(form, "");
-    EXPECT_EQ(text.Text(), "One\r\n\r\nThree, caf\xE9\r\n");
-    PutFile("C:\\Program\\revision.txt", "");
-    Click(ButtonOf(form, "revision.txt"));
-    EXPECT_EQ(text.Text(), "");
-    Click(ButtonOf(form, "readme.txt"));
-    EXPECT_EQ(text.Text().substr(0, 3), "One");
-    const HeldFile held("C:\\Program\\revision.txt");
-    Click(ButtonOf(form, "revision.txt"));
-    EXPECT_EQ(text.Text(), "----\r\nERROR - Could not read C:\\Program\\revision.txt\r\n----");
-}
-
 }  // namespace
 }  // namespace quirn::test

@@ -21,12 +21,6 @@ AdvancedStates Decoded(std::string_view code, int before = 0) {
     return states;
 }
 
-TEST(ConfigCodeTest, BoxesCarryCellAndName) {
-    EXPECT_EQ(AdvancedTag(*setting::kAdvancedSwitches[0]), "A3:SystemFont");
-    EXPECT_EQ(AdvancedTag(*setting::kAdvancedSwitches[kSkipSplashBox]), "xx:SkipSplash");
-    EXPECT_EQ(AdvancedTag(*setting::kAdvancedSwitches[54]), "A4:TripleBuffer");
-}
-
 TEST(ConfigCodeTest, PacksRowsIntoSymbols) {
     EXPECT_EQ(EncodeConfigCode(All(0)), "0000-0000-0000");
     EXPECT_EQ(EncodeConfigCode(All(1)), "GZZZ-ZZZZ-ZZZ0");

@@ -38,31 +38,6 @@ protected:
     const std::string game_ = Scratch() + "\\game";
 };
 
-TEST_F(GameStateTest, IsPutBackByteForByte) {
-    const GameState before = State();
-    EXPECT_EQ(before.settings.at("Dialog").size(), 7u);
-    EXPECT_EQ(before.settings.at("Dialog").at("PlayerName")->bytes, "C:\\\"Caf\xE9\"\0"s);
-    EXPECT_EQ(before.settings.at("Advanced").at("GammaPercent"), std::nullopt);
-    EXPECT_FALSE(before.settings.contains("HiddenOptions"));
-
-    PutFile(Scratch() + "\\new.wav", "ping");
-    Profile other = SampleProfile();
-    other.WaveFiles.fill(Scratch() + "\\new.wav");
-    EXPECT_TRUE(TransferToGame(other, game_, TransferLog(""), {}).errors.empty());
-    PutValue(kDialog, "Foreign", 1, "y\0"s);
-    EXPECT_NE(State(), before);
-
-    EXPECT_TRUE(WriteGameState({{{"Dialog", {{"ServerName", std::nullopt}}}}, {}}, game_).empty());  // a part
-    EXPECT_EQ(GetValue(kDialog, "ServerName"), std::nullopt);
-    EXPECT_EQ(FileBytes(game_ + "\\record0.wav"), "ping");
-
-    EXPECT_TRUE(WriteGameState(before, game_).empty());
-    EXPECT_EQ(State(), before);
-    EXPECT_EQ(FileBytes(game_ + "\\record0.wav"), std::nullopt);
-    EXPECT_EQ(GetValue(kDialog, "Foreign")->bytes, "y\0"s);
-    EXPECT_FALSE(KeyExists("Software\\Virgin\\SubSpace\\HiddenOptions"));
-}
-
 TEST_F(GameStateTest, WhatFailsIsToldAndTheRestDone) {
     GameState wanted = State();
     wanted.settings["HiddenOptions"]["Force60"] = RegistryValue{RegistryType::Number, "\1\0\0\0"s};

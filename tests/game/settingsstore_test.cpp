@@ -70,24 +70,6 @@ TEST_F(SettingsStoreTest, TextsBecomeNumbersByTheirStart) {
     }
 }
 
-TEST_F(SettingsStoreTest, ValuesOfOtherTypesAreLeftAlone) {
-    PutValue(kRoot + "Dialog", "PlayerName", 3, "\1\2\3"s);
-    PutValue(kRoot + "Options", "Clock", 7, "a\0b\0\0"s);
-    PutValue(kRoot + "Dialog", "Favourite", 1, "other\0"s);
-    profile_.WaveFiles = {kNotSet, kNotSet};
-    TransferToGame(profile_, game_, TransferLog(""), {});
-    EXPECT_EQ(GetValue(kRoot + "Dialog", "PlayerName"), (StoredValue{3, "\1\2\3"s}));
-    EXPECT_EQ(GetValue(kRoot + "Options", "Clock"), (StoredValue{7, "a\0b\0\0"s}));
-    EXPECT_EQ(GetValue(kRoot + "Dialog", "Favourite"), (StoredValue{1, "other\0"s}));
-
-    SettingValue value = 5;
-    EXPECT_EQ(QueryValueEx(RegistryKey(kRoot + "Dialog"), "PlayerName", value), kUnsupportedType);
-    EXPECT_NE(QueryValueEx(RegistryKey(kRoot + "Dialog"), "Absent", value), kRegistrySuccess);
-    EXPECT_EQ(value, SettingValue(5));
-    EXPECT_EQ(SetValueEx(RegistryKey(kRoot + "Dialog"), "Favourite", RegistryType::None, "x"s), kRegistrySuccess);
-    EXPECT_EQ(GetValue(kRoot + "Dialog", "Favourite"), (StoredValue{1, "other\0"s}));
-}
-
 class NoGameTest : public WorldTest {};
 
 TEST_F(NoGameTest, CreatesNoKeys) {

@@ -48,15 +48,3 @@ def test_help_and_addresses_go_to_their_programs(desk):
         about.front()
         about.click(next(c for c in about.controls() if "Click here" in c["caption"]))
         assert "www.quirn." in desk.game_report()["CommandLine"]
-
-
-def test_the_splash_is_up_while_the_start_waits(desk):
-    desk.file("favorite.lst").unlink()
-    quirn = desk.start()
-    box = quirn.box()
-    splash = [w for w in quirn.windows() if w["class"] == "QUIRNForm"]
-    assert len(splash) == 1
-    texts = [c["caption"] for c in desk.user.ask("controls", splash[0]["handle"])["controls"]]
-    assert {"QUIRN", "The Vellick Subspace Manager", "Version 1.61"} <= set(texts)
-    box.press("Cancel")
-    assert quirn.ended() == 0

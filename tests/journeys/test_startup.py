@@ -73,16 +73,6 @@ def test_a_window_that_is_still_being_loaded_cannot_be_used(desk, arguments):
     assert desk.registry() == before
 
 
-def test_a_second_copy_while_the_first_has_no_window_yet(desk):
-    first = desk.start("nonsense")
-    box = first.box()
-    second = desk.start()
-    second.expect("QUIRN is already running.")
-    assert second.ended() == 0
-    box.press()
-    first.main_window()
-
-
 def test_of_two_copies_started_at_one_moment_one_survives(desk):
     for _ in range(3):
         copies = [desk.machine.start(r"C:\QUIRN\QUIRN.exe") for _ in range(2)]

@@ -277,22 +277,6 @@ TEST_F(LogEditTest, AWindowOpenedAgainStartsAnew) {
     EXPECT_EQ(Shown(Log()), (Lines{"  Bo> one", "P Cy> two", "T Ann> three", "  Welcome", "  Cy> four BO"}));
 }
 
-TEST_F(LogEditTest, TheControlsFollowTheWindow) {
-    for (const Bounds place : {Bounds{0, 0, 10950, 8100}, Bounds{0, 0, 15000, 11000}}) {
-        form_->Move(place);
-        DoEvents();
-        form_->onResize();
-        const Bounds include = List("Include").Place();
-        EXPECT_EQ(Log().Place().Right(), form_->InnerWidth() - 150);
-        EXPECT_EQ(include.Bottom(), form_->InnerHeight() - StatusBar::kHeight - 800);
-        EXPECT_GE(Find<Label>(*form_, "Include").Place().top, Log().Place().Bottom());
-        for (const char* button : {"<<", ">>", "Apply"}) {
-            const Bounds at = Find<Button>(*form_, button).Place();
-            EXPECT_TRUE(at.top >= include.top && at.Bottom() <= include.Bottom()) << button;
-        }
-    }
-}
-
 TEST_F(LogEditTest, TheFindDialogSearchesWithEnterAndStaysOnScreen) {
     Lines searched;
     std::string last = "old";

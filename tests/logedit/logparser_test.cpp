@@ -82,48 +82,6 @@ TEST(LogParser, GivesLinesTheirTypeAndSpeaker) {
     }
 }
 
-TEST(LogParser, CreditsEmptyNamesAndOtherSpellings) {
-    const auto log = Parse(
-        "  > first\r\n   > second\r\n  Bob> x\r\n  BOB> x\r\n  > third\r\n  (> x\r\n  \xE9t\xE9> x\r\n"
-        "  \xC9T\xC9> x\r\n  a name that is longer than any name in the game One> x\r\n"
-        "  a name that is longer than any name in the game oNE> x\r\n"
-        "  a name that is longer than any name in the game two> x\r\n");
-    ASSERT_EQ(log->Players().size(), 5u);
-    EXPECT_EQ(log->Players()[0], "Bob");
-    EXPECT_EQ(log->Players()[1], "");  // once there is a player, nobody is a player of its own
-    EXPECT_EQ(log->Players()[2], "\xE9t\xE9");
-    const uint32_t numbers[] = {1, 1, 1, 1, 2, 2, 3, 3, 4, 4, 5};
-    for (size_t i = 0; i < std::size(numbers); ++i) EXPECT_EQ(PlayerOf(log->Info(i)), numbers[i]) << i;
-
-    const auto nobody = Parse("  > alone\r\n");
-    EXPECT_EQ(PlayerOf(nobody->Info(0)), 1u);
-    EXPECT_TRUE(nobody->Players().empty());
-}
-
-TEST(LogParser, FindsLineEndsAndKeepsEveryOtherByte) {
-    const std::string zero("T a\0b> \0\r\r\n", 11);
-    const auto log = Parse(zero + "\n\r\n \r\nlast\r");
-    ASSERT_EQ(log->LineCount(), 2u);
-    EXPECT_EQ(log->Line(0), zero.substr(0, 9));
-    EXPECT_EQ(log->Line(1), "last\r");
-    EXPECT_EQ(log->LongestLine(), 9u);
-
-    const std::string longLine = "  Bob> " + std::string(300000, 'x');
-    const auto longs = Parse("  Ann> y\r\n" + longLine + "\r\n" + longLine, 5000);
-    ASSERT_EQ(longs->LineCount(), 3u);
-    EXPECT_EQ(longs->Line(1), longLine);
-    EXPECT_EQ(longs->Line(2), longLine);
-    EXPECT_EQ(PlayerOf(longs->Info(2)), 2u);
-
-    // Without a kept line there is one empty element all the same.
-    for (const char* text : {"", "\r\n", "   \n[~ Filtered ~]\r\n"}) {
-        const auto empty = Parse(text);
-        EXPECT_EQ(empty->LineCount(), 1u);
-        EXPECT_EQ(empty->Line(0), "");
-        EXPECT_EQ(empty->Info(0), 0);
-    }
-}
-
 // Generated logs with bytes replaced, doubled, taken out and cut off, two hundred thousand lines in all.
 TEST(LogParser, AgreesWithThePlainOne) {
     std::mt19937 random(20);

@@ -149,34 +149,6 @@ TEST_F(LogViewTest, FindsWhatIsThere) {
     for (const char* text : {"c\r", "\n", "xyz", "abcdef"}) EXPECT_EQ(FindItem(view, text, 0), std::nullopt) << text;
 }
 
-TEST_F(LogViewTest, SavesWhatIsShownAndReadsItAgain) {
-    const std::string header = "[~ Filtered by QUIRN v1.61 ~]\r\n";
-    // A big one, some of it deleted, over the file that it came from; with and without tags.
-    for (const bool lineNumbers : {false, true}) {
-        Open(GenerateLog({3000000, 200, 8}));
-        Apply(0x7FF, lineNumbers);
-        ListSelection selection;
-        selection.Reset(view.Count());
-        for (size_t i = 0; i < view.Count(); i += 7)
-            selection.SelectRange(i, std::min(i + i % 3, view.Count() - 1), i % 2);
-        view.Delete(selection);
-        std::vector<std::string> lines;
-        std::string bytes = header;
-        for (size_t i = 0; i < view.Count(); ++i) {
-            // What stood behind a tag alone does not come back without one.
-            if (lineNumbers || !(Trim(view.Line(i)).empty() || view.Line(i).starts_with("[~")))
-                lines.emplace_back(view.Line(i));
-            bytes += view.Text(i) + "\r\n";
-        }
-        EXPECT_FALSE(SaveFilteredLog(view, In("a.log")));
-        const auto same = [&] { return FileBytes(In("a.log")) == bytes; };
-        EXPECT_TRUE(same());
-        Open(*FileBytes(In("a.log")));
-        ASSERT_EQ(view.Count(), lines.size());
-        for (size_t i = 0; i < lines.size(); ++i) ASSERT_EQ(view.Text(i), lines[i]);
-    }
-}
-
 TEST(LogMRU, KeepsTheLastFive) {
     RecentFiles list{"a", "b", "c", "d", "e"};
     AddToLogMRU(list, "C");

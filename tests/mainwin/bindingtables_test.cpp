@@ -7,36 +7,6 @@ namespace {
 
 using namespace test;
 
-TEST(BindingTest, LooksSettingsUpByName) {
-    Profile profile = EmptyProfile();
-    profile.Options.Value(2) = "5";
-    profile.Advanced.Value(1) = "-1";
-    EXPECT_EQ(OptionsSetting(profile, "ShowStars", SettingMode::CheckState), 1);
-    EXPECT_EQ(OptionsSetting(profile, "ShowStars", SettingMode::Index), 2);
-    EXPECT_EQ(OptionsSetting(profile, "showstars", SettingMode::Index), 0);
-    EXPECT_EQ(OptionsSetting(profile, "SkipSplash", SettingMode::Index), 0);
-    EXPECT_EQ(AdvancedSetting(profile, "SkipSplash", SettingMode::CheckState), 1);
-    for (const char* off : {"", "0", "0.0", "on", " -0x"}) {
-        profile.Advanced.Value(1) = off;
-        EXPECT_EQ(AdvancedSetting(profile, "SkipSplash", SettingMode::CheckState), 0) << off;
-    }
-}
-
-TEST(BindingTest, ResolutionsFollowTheWidth) {
-    const struct {
-        const char* width;
-        int index;
-    } rows[] = {{"640", 0}, {"800", 1}, {"1024", 2}, {"1800", 6}, {"1920", 0}, {"", 0}, {"768", 2}, {"12", 4}};
-    for (const auto& row : rows) EXPECT_EQ(ResolutionIndex(row.width), row.index) << row.width;
-    std::string width = "1";
-    std::string height = "2";
-    SplitResolution("", width, height);
-    EXPECT_EQ(width + height, "12");
-    SplitResolution(setting::kResolutions[3], width, height);
-    EXPECT_EQ(width, "1152");
-    EXPECT_EQ(height, "864");
-}
-
 TEST(BindingTest, ProxyAddressesComeBack) {
     const struct {
         const char* address;

@@ -1,5 +1,6 @@
 #include "mainwin/frmoptions.h"
 
+#include "mainwin/favourites.h"
 #include "platform/headless/dialogs.h"
 #include "tests/auxiliary/controlsof.h"
 #include "tests/testing/userinput.h"
@@ -8,21 +9,55 @@
 namespace quirn::test {
 namespace {
 
-class OptionsTest : public WorldTest {};
+class OptionsTest : public WorldTest {
+protected:
+    OptionsTest() {
+        program_.gameFolder = Scratch();
+        for (size_t i = 0; i < program_.favourites.size(); ++i) program_.favourites[i].name = EmptyFavouriteName(i);
+        dialog_.Load();
+        dialog_.Show();
+    }
+
+    template <class Kind>
+    Kind& On(int page, size_t nth) {
+        return dynamic_cast<Kind&>(
+            *ControlOf<TabStrip>(dialog_, "").Pages()[static_cast<size_t>(page)]->Controls()[nth]);
+    }
+
+    Program program_;
+    frmOptions dialog_{program_, [] {}};
+};
 
 // The next transfer would write into the root of the current drive.
 TEST_F(OptionsTest, ALocationThatIsEmptiedIsNotSet) {
-    Program program;
-    program.gameFolder = Scratch();
-    frmOptions dialog(program, [] {});
-    dialog.Load();
-    dialog.Show();
     headless::ExpectOpenFile("Locate Subspace.EXE", Scratch() + "\\subspace.exe");
-    const auto& controls = ControlOf<TabStrip>(dialog, "").Pages()[0]->Controls();
-    Click(dynamic_cast<Button&>(*controls[2]));
-    dynamic_cast<TextBox&>(*controls[1]).UserEdits(" ");
-    Click(ControlOf<Button>(dialog, "Apply"));
-    EXPECT_EQ(program.gameFolder, kNotSet);
+    Click(On<Button>(0, 2));
+    On<TextBox>(0, 1).UserEdits(" ");
+    Click(ControlOf<Button>(dialog_, "Apply"));
+    EXPECT_EQ(program_.gameFolder, kNotSet);
+}
+
+TEST_F(OptionsTest, OnlyWhatIsChosenAndConfirmedCounts) {
+    On<TextBox>(0, 1).UserEdits("C:\\Typed");
+    headless::ExpectOpenFile("Default QRN File Location", Scratch() + "\\any.txt");
+    Click(On<Button>(0, 5));
+    PutFile(Scratch() + "\\nobody.qrn", "[Other]\r\n");
+    dialog_.SelectTab(frmOptions::kFavourites);
+    auto& rows = On<ListBox>(1, 0);
+    for (int i = 0; i < 2; ++i) {
+        headless::ExpectOpenFile("Add Favourite QRN File", Scratch() + "\\nobody.qrn");
+        Click(On<Button>(1, 1));
+        // A name in "<" counts as an empty row, so there is room still.
+        EXPECT_EQ(rows.Items()[0], "<invalid> - <invalid>");
+        EXPECT_EQ(rows.Items()[1], EmptyFavouriteName(1));
+    }
+    Click(ControlOf<Button>(dialog_, "Apply"));
+    EXPECT_EQ(program_.gameFolder, Scratch());
+    EXPECT_EQ(program_.qrnFolder, Scratch());
+    Click(On<Button>(1, 3));
+    EXPECT_EQ(rows.Items()[0], EmptyFavouriteName(0));
+    Click(ControlOf<Button>(dialog_, "Cancel"));
+    EXPECT_EQ(program_.favourites[0].path, Scratch() + "\\nobody.qrn");
 }
 
 }  // namespace

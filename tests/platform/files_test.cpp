@@ -41,18 +41,6 @@ TEST_F(FilesTest, FindsPlainFilesOnly) {
     EXPECT_FALSE(FolderExists(""));
 }
 
-TEST_F(FilesTest, EveryByteSurvives) {
-    std::string bytes;
-    for (int i = 0; i < 70000; ++i) bytes += static_cast<char>(i);
-    EXPECT_FALSE(WriteWholeFile(In("all.bin"), bytes));
-    EXPECT_EQ(ReadWholeFile(In("ALL.BIN")).Value(), bytes);
-    EXPECT_FALSE(WriteWholeFile(In("all.bin"), "short"));  // nothing of the longer one stays behind
-    EXPECT_EQ(Bytes("all.bin"), "short");
-    EXPECT_FALSE(WriteWholeFile(In("all.bin"), ""));
-    EXPECT_EQ(ReadWholeFile(In("all.bin")).Value(), "");
-    EXPECT_FALSE(Unfinished("all.bin"));
-}
-
 TEST_F(FilesTest, RefusesAndLeavesTheOldFileWhole) {
     PutFile(In("fixed"), "old");
     SetReadOnly(In("fixed"));
@@ -189,21 +177,6 @@ TEST_F(FilesTest, MakesListsMovesAndRemovesFolders) {
     EXPECT_FALSE(RemoveFolder(moved));
     EXPECT_EQ(ListFolder(moved).Error().number, 76);
     EXPECT_FALSE(LocalDataFolder().ends_with('\\'));
-}
-
-TEST_F(FilesTest, MakesPathsAbsolute) {
-    const std::string drive = Scratch().substr(0, 2);
-    EXPECT_EQ(AbsolutePath(drive + "\\a\\.\\b\\..\\c"), drive + "\\a\\c");
-    EXPECT_EQ(AbsolutePath(drive + "\\a/b/"), drive + "\\a\\b\\");
-    EXPECT_EQ(AbsolutePath(drive + "\\..\\.."), drive + "\\");
-    EXPECT_EQ(AbsolutePath(drive + "\\a\\NAME."), drive + "\\a\\NAME");
-    EXPECT_EQ(AbsolutePath(""), "");
-    EXPECT_EQ(AbsolutePath("x.qrn"), AbsolutePath(".\\sub\\..\\x.qrn"));
-    EXPECT_TRUE(AbsolutePath("x.qrn").ends_with("\\x.qrn"));
-    EXPECT_FALSE(ProgramFolder().ends_with('\\'));
-    EXPECT_TRUE(FolderExists(ProgramFolder()));
-    EXPECT_FALSE(DiskIsFull(In("file"), 1));
-    EXPECT_FALSE(DiskIsFull("Z:\\proc\\file", 1));  // Wine's view of a file system that says 0 bytes of 0
 }
 
 }  // namespace

@@ -35,24 +35,5 @@ TEST_F(MemoryTest, IniFunctionsReportSuccessAndCutTheFile) {
     EXPECT_EQ(FileBytes(file_), "[s]\r\na=1\r\nk=");
 }
 
-// Windows documents these; not every system that runs its programs follows.
-TEST_F(MemoryTest, IniFunctionsDoAsWindowsDocuments) {
-    const struct {
-        std::string file, section, key;
-        size_t size;
-        std::string value;
-    } rows[] = {{"[\xC9t]\r\n\xD6=1\r\n", "\xE9T", "\xF6", 255, "1"},
-                {"[s]\r\nk\r\nk=v\r\n", "s", "k", 255, "v"},
-                {"[s]\r\n;k=v\r\n", "s", ";k", 255, "D"},
-                {"[s]\r\nk=\"value\"\r\n", "s", "k", 6, "value"}};
-    for (const auto& row : rows) {
-        PutFile(file_, row.file);
-        EXPECT_EQ(ReadIniValue(file_, row.section, row.key, "D", row.size), row.value) << row.file;
-    }
-    PutFile(file_, "[s]\n a = 1\n\n\n[t] junk\n\n");
-    EXPECT_TRUE(WriteIniValue(file_, "s", "k", "v"));
-    EXPECT_EQ(FileBytes(file_), "[s]\n a = 1\nk=v\r\n\n\n[t] junk\n\n");
-}
-
 }  // namespace
 }  // namespace quirn

@@ -27,18 +27,6 @@ protected:
     Profile profile_ = SampleProfile();
 };
 
-TEST_F(ProfileFileTest, OneKeyInDialogIsEnough) {
-    PutFile(file_, "[Dialog]\r\nServerPort=5400\r\n");
-    EXPECT_EQ(LoadProfile(profile_, file_), LoadResult::LoadedFromEarlierVersion);
-
-    Profile expected = EmptyProfile();
-    for (Section* section : expected.Sections())
-        for (int i = 1; i <= section->Count(); ++i) section->Value(i) = section->name == "Messages" ? "" : "0";
-    expected.Dialog.Value(4) = "5400";
-    expected.Advanced.Value(kGammaPercent) = "100";
-    ExpectSame(profile_, expected);
-}
-
 TEST_F(ProfileFileTest, RefusesWhatIsNoProfileAndKeepsTheOldOne) {
     const Profile before = profile_;
     const std::string hidden = Scratch() + "\\hidden.qrn";
