@@ -163,8 +163,9 @@ namespace native {
 
 // All kinds are alike here: what they do is in their portable part.
 struct Kind {};
-const Kind kLabel{}, kPicture{}, kFrame{}, kButton{}, kLinkButton{}, kCheckBox{}, kOptionButton{}, kTextBox{}, kMaskedBox{}, kUpDown{},
-    kComboBox{}, kListBox{}, kVirtualList{}, kTable{}, kTabStrip{}, kProgressBar{}, kStatusBar{};
+const Kind kLabel{}, kPicture{}, kFrame{}, kButton{}, kLinkButton{}, kCheckBox{}, kOptionButton{}, kTextBox{},
+    kMaskedBox{}, kUpDown{}, kComboBox{}, kListBox{}, kVirtualList{}, kTable{}, kTabStrip{}, kProgressBar{},
+    kStatusBar{};
 
 void CreateForm(Form& form) {
     loadedForms.push_back(&form);

@@ -68,10 +68,11 @@ TEST_F(RegistryTest, SetsValues) {
 TEST_F(RegistryTest, KeepsAndRemovesWholeValues) {
     MakeKey(kPath);
     const RegistryKey key(kPath);
-    const std::map<std::string, RegistryValue> values{{"\xC9t\xE9", {RegistryType::Text, "without NUL"}},
-                                {"", {RegistryType::Text, "\0"s}},
-                                {"empty", {static_cast<RegistryType>(3), ""}},
-                                {"long", {static_cast<RegistryType>(3), std::string(5000, '\xE9')}}};
+    const std::map<std::string, RegistryValue> values{
+        {"\xC9t\xE9", {RegistryType::Text, "without NUL"}},
+        {"", {RegistryType::Text, "\0"s}},
+        {"empty", {static_cast<RegistryType>(3), ""}},
+        {"long", {static_cast<RegistryType>(3), std::string(5000, '\xE9')}}};
     for (const auto& [name, value] : values) EXPECT_EQ(key.Write(name, value), kRegistrySuccess);
     RegistryValue read;
     EXPECT_EQ(key.Read("LONG", read), kRegistrySuccess);
