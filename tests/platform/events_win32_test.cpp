@@ -9,6 +9,7 @@
 
 #include "platform/form.h"
 #include "platform/tray.h"
+#include "platform/win32/metrics.h"
 #include "platform/win32/window.h"
 #include "tests/testing/world.h"
 
@@ -45,6 +46,22 @@ protected:
     int news_ = 0;
     std::string dropped_;
 };
+
+// The DPI itself cannot be changed from in here: what is seen is that the window follows, and every control with it.
+TEST_F(EventsTest, AChangeOfDpiPlacesTheWindowAndItsControlsAnew) {
+    const HWND box = win32::WindowOf(box_);
+    RECT before{};
+    GetWindowRect(box, &before);
+    MoveWindow(box, 77, 55, 33, 11, FALSE);
+    RECT place{40, 50, 540, 400};
+    SendMessageA(Window(), WM_DPICHANGED, MAKEWPARAM(96, 96), reinterpret_cast<LPARAM>(&place));
+    RECT after{};
+    GetWindowRect(box, &after);
+    EXPECT_EQ(after.right - after.left, before.right - before.left);
+    GetWindowRect(Window(), &after);
+    EXPECT_TRUE(EqualRect(&after, &place)) << after.left << ' ' << after.right;
+    EXPECT_EQ(form_.Place().width, 500 * 1440 / win32::DpiOf(Window()));
+}
 
 TEST_F(EventsTest, WhatIsSentWaitsUntilNothingElseIsUnderWay) {
     TrayIcon icon(form_, "Tip");
