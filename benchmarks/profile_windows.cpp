@@ -53,7 +53,7 @@ int main() {
 
     Time("save a QRN file", [&] { SaveProfile(profile, gameFolder, file); });
     Time("load a QRN file", [&] { LoadProfile(profile, file); });
-    Time("write a profile to the game", [&] { WriteSettings(profile); });
+    Time("write a profile to the game", [&] { TransferToGame(profile, gameFolder, TransferLog(""), {}); });
     Time("read a profile from the game", [&] { ReadProfileFromGame(profile, gameFolder); });
 
     Time("read the game's state", [&] { ReadGameState(gameFolder); });

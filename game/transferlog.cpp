@@ -12,7 +12,7 @@ namespace quirn {
 
 namespace {
 
-constexpr const char* kWayNames[] = {"Run", "Tray", "Command line", "Not run", "Compare", "Undo", "Put back"};
+constexpr const char* kWayNames[] = {"Run", "Tray", "Command line", "Not run", "Undo", "Put back"};
 
 constexpr char kNew[] = ".new";  // ends the name of a folder that is not complete, or being removed
 constexpr char kBeforeReg[] = "\\before.reg";
@@ -64,6 +64,12 @@ std::optional<TransferEntry> ReadEntry(const std::string& folder, const std::str
     return entry;
 }
 
+// Where an entry keeps its copy of a file.
+std::string CopyOf(const std::string& folder, const std::string& prefix, const std::string& name) {
+    std::string path = folder;
+    return path.append("\\").append(prefix).append(name);
+}
+
 // The settings in one of an entry's texts, and the files with their names' prefix.
 Result<GameState> ReadState(const std::string& folder, const char* regFile, const std::string& prefix) {
     const Result<std::string> reg = ReadWholeFile(folder + regFile);
@@ -77,7 +83,7 @@ Result<GameState> ReadState(const std::string& folder, const char* regFile, cons
         const std::string word = Read(info.Value(), prefix + name);
         if (word == kNoFile) state.files[name] = std::nullopt;
         if (word != kAFile) continue;
-        Result<std::string> bytes = ReadWholeFile(folder + "\\" + prefix + name);
+        Result<std::string> bytes = ReadWholeFile(CopyOf(folder, prefix, name));
         if (bytes.Failed()) return bytes.Error();
         state.files[name] = bytes.Take();
     }
@@ -87,7 +93,7 @@ Result<GameState> ReadState(const std::string& folder, const char* regFile, cons
 Failure WriteFiles(const std::string& folder, const std::string& prefix, const GameFiles& files, Flush flush) {
     for (const auto& [name, bytes] : files)
         if (bytes)
-            if (Failure failure = WritePlainFile(folder + "\\" + prefix + name, *bytes, flush)) return failure;
+            if (Failure failure = WritePlainFile(CopyOf(folder, prefix, name), *bytes, flush)) return failure;
     return {};
 }
 
