@@ -4,6 +4,7 @@
 #include <shlobj.h>
 
 #include <array>
+#include <atomic>
 #include <cstring>
 #include <thread>
 
@@ -31,12 +32,16 @@ protected:
     // As another program's thread sends it; returns when it has been answered.
     template <class Wait>
     void Sent(UINT message, WPARAM wParam, LPARAM lParam, Wait wait) {
-        std::thread other([=, window = Window()] {
+        std::atomic<bool> answered = false;
+        std::thread other([&answered, message, wParam, lParam, window = Window()] {
             SendMessageTimeoutA(window, message, wParam, lParam, SMTO_NORMAL, 5000, nullptr);
+            answered = true;
             PostMessageA(window, WM_NULL, 0, 0);
         });
-        MsgWaitForMultipleObjects(0, nullptr, FALSE, 5000, QS_SENDMESSAGE);
-        wait();
+        while (!answered) {
+            MsgWaitForMultipleObjects(0, nullptr, FALSE, 100, QS_SENDMESSAGE);
+            wait();
+        }
         other.join();
     }
 
