@@ -26,7 +26,6 @@ TEST(NoticeTest, TellsTheWorstFirst) {
     EXPECT_EQ(WorstOf(facts).link, "");
     facts.unfinished = true;
     EXPECT_EQ(WorstOf(facts).text, "The last transfer was not finished.");
-    EXPECT_EQ(TimeInWords("2026-11-23 14.05.10 2", "2026-11-23 18.00.00"), "14:05");
     EXPECT_EQ(SaveNotice("C:\\p\\DUEL.QRN"), "Save writes DUEL.QRN");
     EXPECT_EQ(WordsFor(38, true, 1), "38 settings, the ignore list and 1 wave message");
     EXPECT_EQ(WordsFor(1, false, 2), "1 setting and 2 wave messages");
