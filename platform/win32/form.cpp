@@ -164,6 +164,7 @@ LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
         case WM_INITMENUPOPUP:
             if (HIWORD(lParam) == FALSE) MenuOpens(*form, reinterpret_cast<HMENU>(wParam));  // not the system menu
             break;
+        case WM_EXITMENULOOP: MenuClosed(*form); break;
         case WM_DROPFILES: DropFile(*form, reinterpret_cast<HDROP>(wParam)); return 0;
         case WM_SETFOCUS: RestoreFocus(*form); return 0;
         case WM_ACTIVATE:

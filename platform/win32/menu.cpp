@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/native.h"
 #include "platform/win32/window.h"
@@ -62,6 +63,20 @@ size_t Fill(HMENU menu, const Items& items, size_t at, int level) {
     return at;
 }
 
+bool IsInMenu(HWND window) {
+    GUITHREADINFO thread{};
+    thread.cbSize = sizeof(thread);
+    return GetGUIThreadInfo(GetCurrentThreadId(), &thread) && thread.hwndMenuOwner == window;
+}
+
+void RefillMenuBar(const Form& form) {
+    const HMENU bar = GetMenu(WindowOf(form));
+    while (DeleteMenu(bar, 0, MF_BYPOSITION)) {
+    }
+    Fill(bar, form.MenuBar()->Items(), 0, 0);
+    if (form.Visible()) DrawMenuBar(WindowOf(form));
+}
+
 }  // namespace
 
 HMENU MakeMenuBar(const Menu& menu) {
@@ -95,18 +110,22 @@ void MenuOpens(Form& form, HMENU popup) {
     });
 }
 
+void MenuClosed(Form& form) {
+    if (std::exchange(StateOf(form).menuIsStale, false)) RefillMenuBar(form);
+}
+
 }  // namespace win32
 
 namespace native {
 
 using namespace win32;
 
+// A menu must not be deleted while the player is in it. It closes, since what it shows is no longer so, and is filled
+// anew then.
 void MenuChanged(Form& form) {
-    const HMENU bar = GetMenu(WindowOf(form));
-    while (DeleteMenu(bar, 0, MF_BYPOSITION)) {
-    }
-    Fill(bar, form.MenuBar()->Items(), 0, 0);
-    if (form.Visible()) DrawMenuBar(WindowOf(form));
+    if (!IsInMenu(WindowOf(form))) return RefillMenuBar(form);
+    StateOf(form).menuIsStale = true;
+    EndMenu();
 }
 
 void PopUpMenu(Form& form, Menu& menu, int defaultCommand) {

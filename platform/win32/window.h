@@ -16,6 +16,7 @@ namespace quirn::win32 {
 // What this back end keeps of a loaded form.
 struct FormWindow {
     bool controlsMade = false;
+    bool menuIsStale = false;      // the bar changed while the player was in it
     HWND disabledOwner = nullptr;  // while the form is modal
     HWND toolTip = nullptr;
     std::set<HWND> toolTipOwners;
@@ -71,6 +72,7 @@ void ToolTipChanged(Control& control);
 HMENU MakeMenuBar(const Menu& menu);
 void MenuHighlighted(Form& form, WPARAM wParam, LPARAM lParam);
 void MenuOpens(Form& form, HMENU popup);  // greys what cannot be chosen now
+void MenuClosed(Form& form);
 
 // modal.cpp
 void EndModal(Form& form);

@@ -68,6 +68,24 @@ TEST_F(EventsTest, AChangeOfDpiPlacesTheWindowAndItsControlsAnew) {
     EXPECT_EQ(form_.Place().width, 500 * 1440 / win32::DpiOf(Window()));
 }
 
+Menu* changing;
+
+void CALLBACK ChangeMenu(HWND, UINT, UINT_PTR, DWORD) {
+    changing->SetCaption(2, "Newer");
+}
+
+// A file that is dropped while the File menu is open changes the recent files in it.
+TEST_F(EventsTest, AMenuThatChangesWhileItIsOpenClosesAndShowsTheChange) {
+    changing = &menu_;
+    const UINT_PTR timer = SetTimer(nullptr, 0, 200, ChangeMenu);
+    SendMessageA(Window(), WM_SYSCOMMAND, SC_KEYMENU, 'f');  // returns when the menu has closed
+    KillTimer(nullptr, timer);
+    std::array<char, 20> caption{};
+    GetMenuStringA(GetSubMenu(GetMenu(Window()), 0), 0, caption.data(), static_cast<int>(caption.size()),
+                   MF_BYPOSITION);
+    EXPECT_STREQ(caption.data(), "Newer");
+}
+
 TEST_F(EventsTest, WhatIsSentWaitsUntilNothingElseIsUnderWay) {
     TrayIcon icon(form_, "Tip");
     icon.Add();
