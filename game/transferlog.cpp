@@ -12,7 +12,7 @@ namespace quirn {
 
 namespace {
 
-constexpr const char* kWayNames[] = {"Run", "Tray", "Command line", "Not run", "Undo", "Put back"};
+constexpr const char* kWayNames[] = {"Run", "Tray", "Command line", "Not run", "Undo", "Put back", "Compare"};
 
 constexpr char kNew[] = ".new";  // ends the name of a folder that is not complete, or being removed
 constexpr char kBeforeReg[] = "\\before.reg";

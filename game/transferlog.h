@@ -17,7 +17,7 @@
 // and beside them "left" files: what the last transfer left, to see what the game has changed since.
 namespace quirn {
 
-enum class TransferWay { Run, Tray, CommandLine, NoRun, Undo, PutBack };
+enum class TransferWay { Run, Tray, CommandLine, NoRun, Undo, PutBack, Compare };
 
 // As the history names it: "Run", "Tray", "Command line", ...
 const char* NameOf(TransferWay way);

@@ -105,6 +105,12 @@ void TakeName(const std::string& name, const Profile& from, Profile& into) {
 
 }  // namespace
 
+std::vector<const SettingRow*> CompareRow::Settings() const {
+    if (setting == nullptr) return {};
+    if (setting->kind != Kind::Resolution) return {setting};
+    return {setting, &setting::RowAt(setting::Group::Options, kResolutionY)};
+}
+
 bool CompareRow::Differs() const {
     return std::find(differs.begin(), differs.end(), true) != differs.end();
 }
@@ -134,16 +140,9 @@ std::vector<CompareRow> Compare(const std::vector<CompareSide>& sides) {
 
 void TakeRows(const std::vector<CompareRow>& rows, const Profile& from, Profile& into) {
     for (const CompareRow& row : rows) {
-        if (row.wave) {
-            into.WaveFiles[*row.wave] = from.WaveFiles[*row.wave];
-        } else if (row.setting == nullptr) {
-            TakeName(row.ignoredName, from, into);
-        } else if (row.setting->kind == Kind::Resolution) {
-            into.Options.Value(kResolutionX) = from.Options.Value(kResolutionX);
-            into.Options.Value(kResolutionY) = from.Options.Value(kResolutionY);
-        } else {
-            into.Value(*row.setting) = from.Value(*row.setting);
-        }
+        if (row.wave) into.WaveFiles[*row.wave] = from.WaveFiles[*row.wave];
+        if (row.IsName() && !from.ignoreFileUnread) TakeName(row.ignoredName, from, into);
+        for (const SettingRow* setting : row.Settings()) into.Value(*setting) = from.Value(*setting);
     }
 }
 

@@ -28,6 +28,8 @@ struct CompareRow {
     std::vector<std::string> cells;  // one for each side
     std::vector<bool> differs;       // from the first side
 
+    bool IsName() const { return setting == nullptr && !wave; }
+    std::vector<const SettingRow*> Settings() const;  // of the table: none, one, or width and height
     bool Differs() const;
     bool Holds(std::string_view text) const;  // in any column, upper or lower case
     bool IsSameRowAs(const CompareRow& other) const;
@@ -37,7 +39,7 @@ struct CompareRow {
 // both sides say something of it.
 std::vector<CompareRow> Compare(const std::vector<CompareSide>& sides);
 
-// Makes one profile like another in these rows.
+// Makes one profile like another in these rows, as far as that one says something of them.
 void TakeRows(const std::vector<CompareRow>& rows, const Profile& from, Profile& into);
 
 }  // namespace quirn

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <vector>
+
+#include "game/gamestate.h"
+#include "profile/compare.h"
+
+// Rows of a comparison as parts of the game's state.
+namespace quirn {
+
+// A profile with the content of its wave messages, as a side to compare. Nothing is asked or shown.
+CompareSide SideOf(const std::string& caption, const Profile& profile);
+
+// The game as it is now.
+CompareSide GameSide(const std::string& caption, const std::string& gameFolder);
+
+struct RowsPlan {
+    GameState state;
+    std::vector<RuntimeError> errors;
+};
+
+// What these rows of a profile make of the game: their settings as a transfer writes them, their wave messages, and
+// their names in the ignore list or out of it, whose other lines stay as they are. Nothing is changed. What cannot be
+// planned is left out, with an error.
+RowsPlan PlanRows(const std::vector<CompareRow>& rows, const GameSettings& now, const Profile& profile,
+                  const std::string& gameFolder);
+
+// The part of a state that the rows are about. One name stands for the whole ignore list.
+GameState PartOf(const GameState& state, const std::vector<CompareRow>& rows);
+
+}  // namespace quirn
