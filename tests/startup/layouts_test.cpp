@@ -6,6 +6,7 @@
 #include "auxiliary/frmrelnotes.h"
 #include "auxiliary/frmsplash.h"
 #include "logedit/frmlogedit.h"
+#include "mainwin/frmcompare.h"
 #include "mainwin/frmconfig.h"
 #include "mainwin/frmhistory.h"
 #include "mainwin/frmmain.h"
@@ -111,6 +112,13 @@ TEST_F(LayoutsTest, NothingStandsOutsideOrAcrossAnother) {
     frmHistory history(log, {});
     history.Load();
     CheckSizes(history, "history");
+    frmCompare compare({"Profile", "Game now", "Saved file"},
+                       [&] {
+                           return CompareSides{{"", program_.profile, {}}};
+                       },
+                       {{"Take Into &Profile", {}, {}}, {"Write Into &Game", {}, {}}});
+    compare.Load();
+    CheckSizes(compare, "compare");
     frmConfig config;
     config.Load();
     Check(config, "config code");
