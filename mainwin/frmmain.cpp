@@ -165,6 +165,7 @@ bool frmMain::Form_QueryUnload(UnloadMode mode) {
 // The icon is gone for good once the player has stayed at the question of an exit: then he must hear how to come back.
 void frmMain::mnuFile_Close_Click() {
     Hide();
+    profilesCommands_.LookSoon();
     if (!trayCommands_.Icon().IsThere())
         ShowMessage("QUIRN is still running, but its icon has gone from the tray. Start QUIRN again to see its window.",
                     kInformation);
@@ -178,6 +179,7 @@ bool frmMain::Form_Unload() {
     // Also when the player has stayed at the question: the icon is then gone, on purpose.
     trayCommands_.Icon().Remove();
     if (goOn) launcher_.CloseRunBox();
+    if (goOn) profilesCommands_.CloseWindows();
     return goOn;
 }
 

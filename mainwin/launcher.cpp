@@ -18,7 +18,14 @@ Launcher::Launcher(const Program& program) : program_(program) {
 }
 
 bool Launcher::Transfer(const Profile& profile, const TransferNote& note) {
-    const TransferResult result = TransferToGame(profile, program_.gameFolder, TransferLog(program_.dataFolder), note);
+    return ShowResult(TransferToGame(profile, program_.gameFolder, TransferLog(program_.dataFolder), note));
+}
+
+bool Launcher::Transfer(const GameState& part, const TransferNote& note) {
+    return ShowResult(PutIntoGame(part, program_.gameFolder, TransferLog(program_.dataFolder), note));
+}
+
+bool Launcher::ShowResult(const TransferResult& result) {
     keptLast_ = result.kept;
     ShowErrors(result.errors);
     CallHandler(onChange);

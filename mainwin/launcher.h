@@ -17,6 +17,7 @@ public:
 
     // Writes a profile into the game. What goes wrong is shown. True when nothing did.
     bool Transfer(const Profile& profile, const TransferNote& note);
+    bool Transfer(const GameState& part, const TransferNote& note);
 
     // The same, and starts the game. True when it has been started. It returns at once; the run box goes, without a
     // time limit, when the game's window has been there for one second or the player closes it. A launch that is under
@@ -37,6 +38,7 @@ public:
     std::function<void()> onChange;  // the game has been started or has ended, or its settings have been changed
 
 private:
+    bool ShowResult(const TransferResult& result);
     bool LaunchGame(const Profile& profile);
 
     const Program& program_;

@@ -38,6 +38,7 @@ enum MainCommand : int {
     mnuProfilesBarUndo,
     mnuProfiles_Undo,
     mnuProfiles_History,
+    mnuProfiles_Compare,
 };
 static_assert(mnuFile_Print == 9 && mnuFile_Close == 17 && mnuOptions_Set == 20 && mnuHelp_About == 29);
 

@@ -6,7 +6,6 @@
 #include "platform/dialogs.h"
 #include "platform/folders.h"
 #include "platform/text.h"
-#include "profile/settingvalues.h"
 
 namespace quirn {
 
@@ -20,26 +19,16 @@ bool IsRedirected(const std::string& gameFolder) {
     return !local.empty() && gameFolder.size() > 2 && FindEntry(local + "\\VirtualStore" + gameFolder.substr(2));
 }
 
-// The settings that a state holds, a line each as their pages word them, with their values in a profile.
-std::string Listed(const GameState& state, const Profile& profile) {
-    constexpr size_t kMostLines = 20;
-    std::string text;
-    size_t lines = 0;
-    for (const SettingRow& row : setting::kRows) {
-        const auto section = state.settings.find(setting::kGroupNames[static_cast<size_t>(row.group)]);
-        if (section == state.settings.end() || !section->second.contains(row.name)) continue;
-        if (++lines <= kMostLines) text += DisplayCaption(row) + ": " + DisplayValue(row, profile.Value(row)) + "\n";
-    }
-    if (lines > kMostLines) text += "and " + std::to_string(lines - kMostLines) + " more settings\n";
-    if (!state.files.empty()) text += WordsFor({{}, state.files}) + "\n";
-    return text;
-}
-
 }  // namespace
 
 ProfilesCommands::ProfilesCommands(Form& mainWindow, Program& program, Launcher& launcher, NoticeBar& notices,
                                    ProfilesView view)
-    : mainWindow_(mainWindow), program_(program), launcher_(launcher), notices_(notices), view_(std::move(view)) {
+    : mainWindow_(mainWindow),
+      program_(program),
+      launcher_(launcher),
+      notices_(notices),
+      view_(std::move(view)),
+      comparison_(mainWindow, program, launcher, view_, [this] { LookSoon(); }) {
     lookTimer_.SetInterval(kSoon);
     lookTimer_.onTimer = [this] {
         lookTimer_.SetEnabled(false);
@@ -91,24 +80,6 @@ void ProfilesCommands::PutBackWhole(const TransferLog& log, const TransferEntry&
         PutBack(before.Value(), entry.gameFolder, {entry.note.profile, TransferWay::PutBack});
 }
 
-void ProfilesCommands::KeepChanges() {
-    const TransferLog log(program_.dataFolder);
-    const GameChanges changes = FindGameChanges(log, program_.gameFolder);
-    if (changes.now.IsEmpty()) return;
-    Profile kept = program_.profile;
-    TakeIntoProfile(changes.now, program_.gameFolder, kept);
-    if (ShowMessage("Take what the game has changed into the profile in the window?\n\n" + Listed(changes.now, kept) +
-                        "\nNothing is saved before you save it.",
-                    kOkCancel + kQuestion, "Keep the Game's Changes") != Answer::Ok)
-        return;
-    view_.CollectProfile();
-    TakeIntoProfile(changes.now, program_.gameFolder, program_.profile);
-    program_.dirty = true;
-    view_.ShowProfile();
-    ShowError(AcceptGameChanges(log, changes.now));
-    LookSoon();
-}
-
 // What goes wrong is shown. It is a transfer like all others, so it can be undone.
 bool ProfilesCommands::PutBack(const GameState& state, const std::string& gameFolder, const TransferNote& note) {
     const TransferResult result = PutIntoGame(state, gameFolder, TransferLog(program_.dataFolder), note);
@@ -137,7 +108,7 @@ bool ProfilesCommands::HasTransfer() const {
 
 void ProfilesCommands::FollowNotice(Notice::Action action) {
     if (action == Notice::Action::Undo) mnuProfiles_Undo_Click();
-    if (action == Notice::Action::Keep) KeepChanges();
+    if (action == Notice::Action::Keep) comparison_.OpenWithChanges();
 }
 
 void ProfilesCommands::LookSoon() {
@@ -149,6 +120,9 @@ void ProfilesCommands::Look() {
     const NoticeFacts facts = Facts();
     notices_.Show(WorstOf(facts));
     notices_.ShowSave(SaveNotice(program_.CurrentFile));
+    // Beside a window that has gone to the tray it would lie over the game.
+    if (mainWindow_.Visible()) comparison_.ShowWhatCanBeDone();
+    else comparison_.Close();
     view_.ShowKeepRow(facts.changes > 0 || facts.filesChanged);
 }
 

@@ -1,37 +1,31 @@
 #pragma once
 
-#include <functional>
 #include <string>
 
+#include "mainwin/gamecomparison.h"
 #include "mainwin/launcher.h"
 #include "mainwin/noticebar.h"
+#include "mainwin/profilesview.h"
 #include "mainwin/program.h"
 #include "platform/form.h"
 
 namespace quirn {
-
-// What the commands of the Profiles menu need of the main window.
-struct ProfilesView {
-    std::function<void()> CollectProfile;  // controls to profile
-    std::function<void()> ShowProfile;     // profile to controls
-    std::function<void(const std::string&)> SetStatus;
-    std::function<void(bool some)> ShowKeepRow;  // the tray menu's row for the game's changes
-};
 
 // The commands of the Profiles menu, by which a player goes back, and the notices beside the Run button.
 class ProfilesCommands {
 public:
     ProfilesCommands(Form& mainWindow, Program& program, Launcher& launcher, NoticeBar& notices, ProfilesView view);
 
+    void mnuProfiles_Compare_Click() { comparison_.Open(); }
     void mnuProfiles_Transfer_Click();
     void mnuProfiles_Undo_Click();
     void mnuProfiles_History_Click();
-    void KeepChanges();  // asks, and takes what the game has changed into the profile in the window
 
     bool HasGameFolder() const;
     bool HasTransfer() const;
 
     void FollowNotice(Notice::Action action);
+    void CloseWindows() { comparison_.Close(); }  // those that stay open beside the main one
 
     // Looks what there is to tell, soon: when nothing else is under way.
     void LookSoon();
@@ -48,6 +42,7 @@ private:
     Launcher& launcher_;
     NoticeBar& notices_;
     ProfilesView view_;
+    GameComparison comparison_;
     std::string firstGameFolder_;  // which the profile in the window was read from
     Timer lookTimer_;
 };

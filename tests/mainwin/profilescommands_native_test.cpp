@@ -104,15 +104,38 @@ TEST_F(ProfilesCommandsTest, WhatTheGameChangesIsNoticedAndKept) {
     LinkButton& link = ControlOf<LinkButton>(main_, "Keep them...");
     ASSERT_TRUE(link.Visible());
     program_.dirty = false;
-    ExpectMessage(
-        "Take what the game has changed into the profile in the window?\n\nShift F1: by the game\n\n"
-        "Nothing is saved before you save it.",
-        kOkCancel + kQuestion, Answer::Ok, "Keep the Game's Changes");
     Click(link);
+    Form& compare = *headless::LoadedForms().back();
+    EXPECT_EQ(LabelOf(compare, "ticked").Text(), "1 ticked");
+    EXPECT_FALSE(program_.dirty);
+    Click(ButtonOf(compare, "Take Into &Profile"));
     EXPECT_TRUE(program_.dirty);
     EXPECT_EQ(program_.profile.Messages.Value(1), "by the game");
     WaitForEvents(50);
     EXPECT_FALSE(link.Visible());
+    EXPECT_FALSE(ControlOf<Table>(compare, "").FindRow("Shift F1", 0));
+}
+
+TEST_F(ProfilesCommandsTest, OnlyTickedRowsGoIntoTheGame) {
+    PutValue("Software\\Virgin\\SubSpace\\Messages", "ShiftF2", 1, "kept\0"s);
+    program_.profile.Messages.Value(1) = "mine";
+    main_.ShowProfile();
+    main_.Show();
+    Choose(mnuProfiles_Compare);
+    Form& compare = *headless::LoadedForms().back();
+    auto& table = ControlOf<Table>(compare, "");
+    const size_t row = table.FindRow("Shift F1", 0).value();
+    EXPECT_EQ(table.cellText(row, 3), "* found");
+    ClickTick(table, row);
+    Click(ButtonOf(compare, "Write Into &Game"));
+    EXPECT_EQ(StoredMacro(), "mine\0"s);
+    EXPECT_EQ(GetValue("Software\\Virgin\\SubSpace\\Messages", "ShiftF2")->bytes, "kept\0"s);
+    EXPECT_FALSE(table.FindRow("Shift F1", 0));
+    EXPECT_TRUE(table.FindRow("Shift F2", 0));
+    EXPECT_TRUE(Offers(mnuProfiles_Undo));
+    Choose(mnuFile_Close);
+    WaitForEvents(50);
+    EXPECT_FALSE(compare.IsLoaded());
 }
 
 }  // namespace

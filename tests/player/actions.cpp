@@ -45,8 +45,8 @@ const struct {
               {"C:\\Program\\readme.txt", "Read me.\r\n"}};
 const char* const kTexts[] = {"a",  "Ace",  " ",  "%", ".", "192.0.2.1", "7",
                               "-3", "\xE9", "\"", "=", ";", "[x]",       "GZZZ-"};
-const int kKeys[] = {kKeyTab, kKeyEnter, kKeyEscape, kKeyDelete, kKeyF1, kKeyF3, ' ',
-                     '%',     'A',       'C',        'F',        'N',    'O',    'S'};
+const int kKeys[] = {kKeyTab, kKeyEnter, kKeyEscape, kKeyDelete, kKeyF1, kKeyF3, kKeyF5, ' ',
+                     '%',     'A',       'C',        'D',        'F',    'N',    'O',    'S'};
 constexpr char kAccessKeys[] = "abcdefghilmnoprstvw";
 constexpr unsigned kTrayMessages[] = {kMouseLeftDoubleClick, kMouseRightDown, 512};
 constexpr int kPauses[] = {1, 50, 200, 1000, 4000};
@@ -143,6 +143,7 @@ void Player::UseControl(Control& control) {
     Allow(Allowed::Edit);
     AllowClickOn(&control);
     if (auto* lines = dynamic_cast<VirtualList*>(&control)) UseList(*lines);
+    else if (auto* table = dynamic_cast<Table*>(&control)) UseTable(*table);
     else if (auto* arrows = dynamic_cast<UpDown*>(&control)) Spin(*arrows, random_.OneIn(2) ? 1 : -1);
     else if (auto* text = dynamic_cast<TextBox*>(&control)) {
         text->SetFocus();
@@ -182,6 +183,14 @@ void Player::UseList(VirtualList& list) {
     }
 }
 
+void Player::UseTable(Table& table) {
+    table.SetFocus();
+    if (table.RowCount() == 0) return;
+    const size_t row = random_.Below(table.RowCount());
+    if (table.isTicked && random_.OneIn(2)) ClickTick(table, row);
+    else ClickRow(table, row, random_.OneIn(3), random_.OneIn(3));
+}
+
 void Player::UseWindow(Form& form) {
     Tell("window " + form.Caption());
     if (form.IsMinimized()) {
@@ -208,9 +217,17 @@ void Player::PressKey(Form& form) {
     if (&form == MainWindow() && control && (key == 'T' || key == 'Z')) Allow(Allowed::Transfer);
     if (key == kKeyEnter || key == ' ') AllowClickOn(form.ActiveControl());
     if (key != kKeyTab && (!control || key == kKeyEnter || key == ' ')) Allow(Allowed::Edit);
-    if (!control && random_.OneIn(5)) form.UserPressesAccessKey(kAccessKeys[random_.Below(sizeof kAccessKeys - 1)]);
+    if (!control && random_.OneIn(5)) PressAccessKey(form);
     else if (key == kKeyTab && !control) form.FocusNext(form.ActiveControl());
     else Press(form, key, control, random_.OneIn(8));
+}
+
+void Player::PressAccessKey(Form& form) {
+    const char key = kAccessKeys[random_.Below(sizeof kAccessKeys - 1)];
+    native::ForEachControl(form, [&](Control& control) {
+        if (FoldCase(control.Text()).find(FoldCase(std::string{'&', key})) != std::string::npos) AllowClickOn(&control);
+    });
+    form.UserPressesAccessKey(key);
 }
 
 void Player::ChooseFromMenu(Form& form, Menu& menu) {
@@ -297,9 +314,10 @@ void Player::ChangeWorld() {
 }
 
 void Player::AllowClickOn(const Control* control) {
-    if (control != nullptr &&
-        (control->Text() == "Transfer Profile And Run Subspace" || control->Text() == "&Put Back"))
-        Allow(Allowed::Transfer);
+    if (control == nullptr) return;
+    for (const char* button : {"Transfer Profile And Run Subspace", "&Put Back", "Write Into &Game"})
+        if (control->Text() == button) Allow(Allowed::Transfer);
+    if (control->Text() == "Take Into &Profile") Allow(Allowed::Load);
 }
 
 }  // namespace quirn::test

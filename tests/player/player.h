@@ -62,9 +62,11 @@ private:
     void UseForm(Form& form);
     void UseControl(Control& control);
     void UseList(VirtualList& list);
+    void UseTable(Table& table);
     void UseWindow(Form& form);
     void Drop(Form& form);
     void PressKey(Form& form);
+    void PressAccessKey(Form& form);
     void ChooseFromMenu(Form& form, Menu& menu);
     void UseTray();
     void EndSession();

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace quirn {
+
+// What the commands of the Profiles menu need of the main window.
+struct ProfilesView {
+    std::function<void()> CollectProfile;  // controls to profile
+    std::function<void()> ShowProfile;     // profile to controls
+    std::function<void(const std::string&)> SetStatus;
+    std::function<void(bool some)> ShowKeepRow;  // the tray menu's row for the game's changes
+};
+
+}  // namespace quirn
