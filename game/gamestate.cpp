@@ -148,19 +148,6 @@ GameFiles GlanceAtFiles(const std::string& gameFolder) {
     return files;
 }
 
-void TakeIntoProfile(const GameState& state, const std::string& gameFolder, Profile& profile) {
-    for (const SettingRow& row : setting::kRows) {
-        const std::string section = setting::kGroupNames[static_cast<size_t>(row.group)];
-        if (Holds(state.settings, section, row.name))
-            profile.Value(row) = TextOfStored(StoredIn(state.settings, section, row.name));
-    }
-    if (const auto names = state.files.find(kIgnoreFile); names != state.files.end())
-        profile.IgnoreList = IgnoredNames(names->second.value_or(""));
-    for (size_t slot = 0; slot < profile.WaveFiles.size(); ++slot)
-        if (const auto wave = state.files.find(kWaveNames[slot]); wave != state.files.end())
-            profile.WaveFiles[slot] = wave->second ? PathIn(gameFolder, kWaveNames[slot]) : kNotSet;
-}
-
 std::vector<RuntimeError> WriteGameState(const GameState& state, const std::string& gameFolder) {
     std::vector<RuntimeError> errors;
     for (const auto& [section, values] : state.settings) {

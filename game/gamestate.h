@@ -52,10 +52,6 @@ Result<GameState> ReadGameState(const std::string& gameFolder);
 // bytes. A file that cannot be read is left out.
 GameFiles GlanceAtFiles(const std::string& gameFolder);
 
-// Puts what the state says into a profile, in the profile's words, as reading them from the game gives them. A wave
-// message becomes the path of the game's own.
-void TakeIntoProfile(const GameState& state, const std::string& gameFolder, Profile& profile);
-
 // Makes the game as the state says: what is missing in it is removed. Keys are neither made nor removed, and what is so
 // already is not written. What fails does not stop the rest; each value and file that failed gives an error.
 std::vector<RuntimeError> WriteGameState(const GameState& state, const std::string& gameFolder);
