@@ -124,16 +124,18 @@ Result<std::optional<std::string>> ReadGameFile(const std::string& gameFolder, c
     return bytes.Error();
 }
 
+GameFiles ReadGameFiles(const std::string& gameFolder) {
+    GameFiles files;
+    for (const char* name : kPlayerFiles)
+        if (Result<std::optional<std::string>> bytes = ReadGameFile(gameFolder, name); !bytes.Failed())
+            files[name] = bytes.Take();
+    return files;
+}
+
 Result<GameState> ReadGameState(const std::string& gameFolder) {
     Result<GameSettings> settings = ReadGameSettings();
     if (settings.Failed()) return settings.Error();
-    GameState state{settings.Take(), {}};
-    for (const char* name : kPlayerFiles) {
-        Result<std::optional<std::string>> bytes = ReadGameFile(gameFolder, name);
-        if (bytes.Failed()) return bytes.Error();
-        state.files[name] = bytes.Take();
-    }
-    return state;
+    return GameState{settings.Take(), ReadGameFiles(gameFolder)};
 }
 
 GameFiles GlanceAtFiles(const std::string& gameFolder) {

@@ -45,7 +45,10 @@ Result<GameSettings> ReadGameSettings();
 // One of the player files. Without a configured game folder there is none.
 Result<std::optional<std::string>> ReadGameFile(const std::string& gameFolder, const std::string& name);
 
-// Every setting and the three player files. Failure: a value or a file that cannot be read.
+// The three player files. One that cannot be read is left out.
+GameFiles ReadGameFiles(const std::string& gameFolder);
+
+// Every setting and the player files. Failure: a value that cannot be read.
 Result<GameState> ReadGameState(const std::string& gameFolder);
 
 // The player files for looking often: of each wave message only a mark (size and time of writing) in place of its

@@ -33,16 +33,6 @@ GameState PresentOf(const GameState& plan, GameSettings settings, const std::str
     return now;
 }
 
-GameFiles AllFiles(const std::string& gameFolder, const GameFiles& known) {
-    GameFiles files = known;
-    for (const char* name : kPlayerFiles) {
-        if (files.contains(name)) continue;
-        if (Result<std::optional<std::string>> bytes = ReadGameFile(gameFolder, name); !bytes.Failed())
-            files[name] = bytes.Take();
-    }
-    return files;
-}
-
 GameState GlanceAt(GameSettings settings, const std::string& gameFolder) {
     return {std::move(settings), gameFolder == kNotSet ? GameFiles() : GlanceAtFiles(gameFolder)};
 }
@@ -81,7 +71,7 @@ TransferResult KeepAndApply(const std::function<GameState(const GameSettings&)>&
     if (!change.IsEmpty()) {
         GameState before{now.settings, Common(now, change).files};
         // The first of all is the game as it was found, and all of it.
-        if (log.IsEmpty()) before.files = AllFiles(gameFolder, before.files);
+        if (log.IsEmpty()) before.files = ReadGameFiles(gameFolder);
         const size_t overwrote = left ? Common(ChangedSince(*left, now, gameFolder), change).SettingCount() : 0;
         const TransferEntry entry{{}, time, note, gameFolder, change.SettingCount(), {}, overwrote, false};
         const Result<std::string> begun = log.Begin(entry, before, {Over(now, change).settings, change.files});

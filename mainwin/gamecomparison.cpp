@@ -114,7 +114,8 @@ void GameComparison::WriteIntoGame(const CompareRows& rows, const CompareSides& 
     const RowsPlan plan = PlanRows(Differing(rows), settings.Value(), sides[kProfile].profile, program_.gameFolder);
     ShowErrors(plan.errors);
     if (plan.state.IsEmpty()) return;
-    if (launcher_.Transfer(plan.state, {program_.CurrentFile, TransferWay::Compare}) && plan.errors.empty())
+    if (launcher_.PutIntoGame(plan.state, program_.gameFolder, {program_.CurrentFile, TransferWay::Compare}) &&
+        plan.errors.empty())
         view_.SetStatus("Settings have been written into the game");
 }
 

@@ -21,8 +21,8 @@ bool Launcher::Transfer(const Profile& profile, const TransferNote& note) {
     return ShowResult(TransferToGame(profile, program_.gameFolder, TransferLog(program_.dataFolder), note));
 }
 
-bool Launcher::Transfer(const GameState& part, const TransferNote& note) {
-    return ShowResult(PutIntoGame(part, program_.gameFolder, TransferLog(program_.dataFolder), note));
+bool Launcher::PutIntoGame(const GameState& part, const std::string& gameFolder, const TransferNote& note) {
+    return ShowResult(quirn::PutIntoGame(part, gameFolder, TransferLog(program_.dataFolder), note));
 }
 
 bool Launcher::ShowResult(const TransferResult& result) {

@@ -17,7 +17,8 @@ public:
 
     // Writes a profile into the game. What goes wrong is shown. True when nothing did.
     bool Transfer(const Profile& profile, const TransferNote& note);
-    bool Transfer(const GameState& part, const TransferNote& note);
+    // The same for a part of the game's state, with the files of one game folder.
+    bool PutIntoGame(const GameState& part, const std::string& gameFolder, const TransferNote& note);
 
     // The same, and starts the game. True when it has been started. It returns at once; the run box goes, without a
     // time limit, when the game's window has been there for one second or the player closes it. A launch that is under

@@ -49,8 +49,7 @@ TEST_F(GameStateTest, WhatFailsIsToldAndTheRestDone) {
     EXPECT_EQ(GetValue("Software\\Virgin\\SubSpace\\Options", "ResolutionX")->bytes, "\2\0\0\0"s);
     EXPECT_EQ(FileBytes(game_ + "\\record1.wav"), "new");
     const HeldFile held(game_ + "\\record1.wav");
-    EXPECT_TRUE(ReadGameState(game_).Failed());
-    EXPECT_FALSE(ReadGameState(kNotSet).Failed());
+    EXPECT_EQ(ReadGameFiles(game_), (GameFiles{{"ignore.txt", "Mole\n"}, {"record0.wav", std::nullopt}}));
 }
 
 TEST_F(GameStateTest, SurvivesTheRegistryEditorsText) {
