@@ -85,6 +85,27 @@ CompareSide SideOf(const std::string& caption, const Profile& profile) {
     return side;
 }
 
+CompareSide SideOf(const std::string& caption, const GameState& state) {
+    CompareSide side{caption, {}, {}};
+    InitCatalogue(side.profile);
+    for (const SettingRow& row : setting::kRows) {
+        const auto values = state.settings.find(setting::kGroupNames[static_cast<size_t>(row.group)]);
+        if (values == state.settings.end()) continue;
+        const auto value = values->second.find(row.name);
+        if (value != values->second.end()) side.profile.Value(row) = TextOfStored(value->second);
+    }
+    const auto names = state.files.find(kIgnoreFile);
+    side.profile.ignoreFileUnread = names == state.files.end();
+    if (names != state.files.end()) side.profile.IgnoreList = IgnoredNames(names->second.value_or(""));
+    for (size_t slot = 0; slot < side.waveMarks.size(); ++slot) {
+        const auto wave = state.files.find(kWaveNames[slot]);
+        if (wave == state.files.end()) continue;
+        side.waveMarks[slot] = wave->second.value_or("");
+        side.profile.WaveFiles[slot] = wave->second ? kWaveNames[slot] : kNotSet;
+    }
+    return side;
+}
+
 CompareSide GameSide(const std::string& caption, const std::string& gameFolder) {
     Profile profile;
     InitCatalogue(profile);
@@ -105,6 +126,15 @@ RowsPlan PlanRows(const std::vector<CompareRow>& rows, const GameSettings& now, 
     PlanNames(rows, profile, gameFolder, plan);
     for (const CompareRow& row : rows)
         if (row.wave) PlanWave(*row.wave, profile, gameFolder, plan);
+    return plan;
+}
+
+RowsPlan PlanRowsBack(const std::vector<CompareRow>& rows, bool allNames, const GameState& former,
+                      const std::string& gameFolder) {
+    RowsPlan plan;
+    plan.state = PartOf(former, rows);
+    if (allNames || plan.state.files.erase(kIgnoreFile) == 0) return plan;
+    PlanNames(rows, SideOf({}, former).profile, gameFolder, plan);
     return plan;
 }
 

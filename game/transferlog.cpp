@@ -214,7 +214,8 @@ Result<std::string> TransferLog::Begin(const TransferEntry& entry, const GameSta
 }
 
 Failure TransferLog::Finish(const std::string& entryFolder) const {
-    return RemoveFile(entryFolder + kUnfinished) ? Failure() : MakeError(ErrorNumber::PathFileAccess);
+    const std::string mark = entryFolder + kUnfinished;
+    return RemoveFile(mark) || !FindEntry(mark) ? Failure() : MakeError(ErrorNumber::PathFileAccess);
 }
 
 void TransferLog::Sweep() const {

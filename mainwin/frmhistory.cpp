@@ -21,7 +21,8 @@ constexpr int kLeastHeight = 3600;
 //                            left   top  width  height
 constexpr Bounds kTransfers{   120,  120,  9420, 4080};
 constexpr Bounds kPutBack{     120, 4350,  1380, kButtonHeight};
-constexpr Bounds kForgetAll{  1620, 4350,  1380, kButtonHeight};
+constexpr Bounds kShow{       1620, 4350,  1380, kButtonHeight};
+constexpr Bounds kForgetAll{  3120, 4350,  1380, kButtonHeight};
 constexpr Bounds kClose{      8160, 4350,  1380, kButtonHeight};
 // clang-format on
 
@@ -44,14 +45,16 @@ frmHistory::frmHistory(const TransferLog& log, std::function<void(const Transfer
       tblTransfers(*this, kTransfers, "Transfers",
                    {{"When", 1650}, {"Profile", 2100}, {"Way", 1300}, {"Changed", 4000}}),
       cmdPutBack(*this, kPutBack, "&Put Back"),
+      cmdShow(*this, kShow, "&Show..."),
       cmdForgetAll(*this, kForgetAll, "&Forget All"),
       cmdClose(*this, kClose, "Close"),
       anchors_(kInnerWidth, kInnerHeight) {
     SetCaption("Transfer History");
     SetMinimumSize(kLeastWidth, kLeastHeight);
-    SetButtons(nullptr, &cmdClose);
+    SetButtons(&cmdShow, &cmdClose);
     anchors_.Add(tblTransfers, Anchor::Grow, Anchor::Grow)
         .Add(cmdPutBack, Anchor::Stay, Anchor::Follow)
+        .Add(cmdShow, Anchor::Stay, Anchor::Follow)
         .Add(cmdForgetAll, Anchor::Stay, Anchor::Follow)
         .Add(cmdClose, Anchor::Follow, Anchor::Follow);
     onResize = [this] {
@@ -69,6 +72,7 @@ frmHistory::frmHistory(const TransferLog& log, std::function<void(const Transfer
             default: return WhatItDid(entry);
         }
     };
+    tblTransfers.onActivate = [this] { cmdShow_Click(); };
     tblTransfers.onSelect = [this] { Select(); };
     tblTransfers.onKeyDown = [this](int key, bool) {
         if (key != kKeyDelete) return false;
@@ -76,8 +80,14 @@ frmHistory::frmHistory(const TransferLog& log, std::function<void(const Transfer
         return true;
     };
     cmdPutBack.onClick = [this] { cmdPutBack_Click(); };
+    cmdShow.onClick = [this] { cmdShow_Click(); };
     cmdForgetAll.onClick = [this] { cmdForgetAll_Click(); };
     cmdClose.onClick = [this] { Unload(); };
+}
+
+std::optional<TransferEntry> frmHistory::Ask(Form& owner) {
+    ShowModal(owner);
+    return shown_;
 }
 
 void frmHistory::Fill() {
@@ -88,6 +98,7 @@ void frmHistory::Fill() {
 
 void frmHistory::Select() {
     cmdPutBack.SetEnabled(Current() != nullptr);
+    cmdShow.SetEnabled(Current() != nullptr);
     cmdForgetAll.SetEnabled(!entries_.empty());
 }
 
@@ -100,6 +111,12 @@ void frmHistory::cmdPutBack_Click() {
     if (Current() == nullptr) return;
     putBack_(*Current());
     Fill();
+}
+
+void frmHistory::cmdShow_Click() {
+    if (Current() == nullptr) return;
+    shown_ = *Current();
+    Unload();
 }
 
 void frmHistory::cmdForgetAll_Click() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "game/transferlog.h"
@@ -16,10 +17,14 @@ public:
     // putBack: the player wants back what the game had before this transfer. It asks, and shows what goes wrong.
     frmHistory(const TransferLog& log, std::function<void(const TransferEntry&)> putBack);
 
+    // The transfer that the player wants to be shown, which the dialog closes for.
+    std::optional<TransferEntry> Ask(Form& owner);
+
 private:
     void Fill();
     void Select();
     void cmdPutBack_Click();
+    void cmdShow_Click();
     void cmdForgetAll_Click();
     void ForgetCurrent();
     const TransferEntry* Current() const;
@@ -27,9 +32,10 @@ private:
     const TransferLog& log_;
     std::function<void(const TransferEntry&)> putBack_;
     std::vector<TransferEntry> entries_;
+    std::optional<TransferEntry> shown_;
 
     Table tblTransfers;
-    Button cmdPutBack, cmdForgetAll, cmdClose;
+    Button cmdPutBack, cmdShow, cmdForgetAll, cmdClose;
     Anchors anchors_;
 };
 

@@ -16,7 +16,8 @@ constexpr int kHeight = 2850;
 constexpr Bounds kQuestion{ 180,  180,  5820, 3 * kLabelHeight};
 constexpr Bounds kBack{     180,  870,  5820, 2 * kLabelHeight};
 constexpr Bounds kStay{     180, 1350,  5820, 2 * kLabelHeight};
-constexpr Bounds kPutBack{ 3090, 1920,  1380, kButtonHeight};
+constexpr Bounds kPutBack{ 1560, 1920,  1380, kButtonHeight};
+constexpr Bounds kShow{    3090, 1920,  1380, kButtonHeight};
 constexpr Bounds kCancel{  4620, 1920,  1380, kButtonHeight};
 // clang-format on
 
@@ -32,7 +33,8 @@ std::string Question(const TransferEntry& entry, const std::string& presentGameF
 
 std::string WhatStays(const GameState& changed) {
     if (changed.IsEmpty()) return {};
-    return "The game has changed something since: " + WordsFor(changed) + ". This stays.";
+    return "The game has changed something since: " + WordsFor(changed) +
+           ". This stays, unless you tick it under Show.";
 }
 
 }  // namespace
@@ -43,20 +45,24 @@ frmUndo::frmUndo(const TransferEntry& entry, const Undo& undo, const std::string
       Label2(*this, kBack, "What goes back: " + WordsFor(undo.back) + "."),
       Label3(*this, kStay, WhatStays(undo.changedSince)),
       cmdPutBack(*this, kPutBack, "&Put Back"),
+      cmdShow(*this, kShow, "&Show..."),
       cmdCancel(*this, kCancel, "Cancel") {
     SetCaption("Undo Last Transfer");
     SetButtons(&cmdPutBack, &cmdCancel);
     cmdPutBack.SetEnabled(!undo.back.IsEmpty() || !entry.finished);
-    cmdPutBack.onClick = [this] {
-        putBack_ = true;
-        Unload();
-    };
+    cmdPutBack.onClick = [this] { Choose(Choice::PutBack); };
+    cmdShow.onClick = [this] { Choose(Choice::Show); };
     cmdCancel.onClick = [this] { Unload(); };
 }
 
-bool frmUndo::Ask(Form& owner) {
+frmUndo::Choice frmUndo::Ask(Form& owner) {
     ShowModal(owner);
-    return putBack_;
+    return choice_;
+}
+
+void frmUndo::Choose(Choice choice) {
+    choice_ = choice;
+    Unload();
 }
 
 }  // namespace quirn

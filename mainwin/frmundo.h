@@ -12,13 +12,15 @@ class frmUndo : public Form {
 public:
     frmUndo(const TransferEntry& entry, const Undo& undo, const std::string& presentGameFolder);
 
-    // True when the player wants to put back what goes back.
-    bool Ask(Form& owner);
+    enum class Choice { Cancel, PutBack, Show };
+    Choice Ask(Form& owner);
 
 private:
+    void Choose(Choice choice);
+
     Label Label1, Label2, Label3;
-    Button cmdPutBack, cmdCancel;
-    bool putBack_ = false;
+    Button cmdPutBack, cmdShow, cmdCancel;
+    Choice choice_ = Choice::Cancel;
 };
 
 }  // namespace quirn

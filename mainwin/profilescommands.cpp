@@ -28,7 +28,10 @@ ProfilesCommands::ProfilesCommands(Form& mainWindow, Program& program, Launcher&
       launcher_(launcher),
       notices_(notices),
       view_(std::move(view)),
-      comparison_(mainWindow, program, launcher, view_, [this] { LookSoon(); }) {
+      comparison_(mainWindow, program, launcher, view_, [this] { LookSoon(); }),
+      transferComparison_(mainWindow, [this](auto& entry, auto& part) {
+          PutBack(TransferLog(program_.dataFolder), entry, part, TransferWay::PutBack);
+      }) {
     lookTimer_.SetInterval(kSoon);
     lookTimer_.onTimer = [this] {
         lookTimer_.SetEnabled(false);
@@ -54,16 +57,16 @@ void ProfilesCommands::mnuProfiles_Undo_Click() {
         return;
     }
     frmUndo question(*last, undo.Value(), program_.gameFolder);
-    if (!question.Ask(mainWindow_) || !MayWriteNow()) return;
-    // One that was cut off is over now, also when it had not come to change anything.
-    if (PutBack(undo.Value().back, last->gameFolder, {last->note.profile, TransferWay::Undo}) && !last->finished)
-        ShowError(log.Finish(last->folder));
+    const frmUndo::Choice choice = question.Ask(mainWindow_);
+    if (choice == frmUndo::Choice::PutBack) PutBack(log, *last, undo.Value().back, TransferWay::Undo);
+    if (choice == frmUndo::Choice::Show) ShowError(transferComparison_.Open(log, *last, undo.Value().back));
 }
 
 void ProfilesCommands::mnuProfiles_History_Click() {
     const TransferLog log(program_.dataFolder);
     frmHistory history(log, [&](const TransferEntry& entry) { PutBackWhole(log, entry); });
-    history.ShowModal(mainWindow_);
+    const std::optional<TransferEntry> shown = history.Ask(mainWindow_);
+    if (shown) ShowError(transferComparison_.Open(log, *shown, {}));
     LookSoon();
 }
 
@@ -75,18 +78,18 @@ void ProfilesCommands::PutBackWhole(const TransferLog& log, const TransferEntry&
     }
     if (ShowMessage("Put back all that the game had before " + NameInWords(entry) +
                         " was transferred? What it has now is kept in the history.",
-                    kOkCancel + kQuestion) == Answer::Ok &&
-        MayWriteNow())
-        PutBack(before.Value(), entry.gameFolder, {entry.note.profile, TransferWay::PutBack});
+                    kOkCancel + kQuestion) == Answer::Ok)
+        PutBack(log, entry, before.Value(), TransferWay::PutBack);
 }
 
-// What goes wrong is shown. It is a transfer like all others, so it can be undone.
-bool ProfilesCommands::PutBack(const GameState& state, const std::string& gameFolder, const TransferNote& note) {
-    const TransferResult result = PutIntoGame(state, gameFolder, TransferLog(program_.dataFolder), note);
-    ShowErrors(result.errors);
-    if (result.errors.empty()) view_.SetStatus("Settings have been put back");
+// It is a transfer like all others, so it can be undone. One that was cut off is over then, also when it had not come
+// to change anything.
+void ProfilesCommands::PutBack(const TransferLog& log, const TransferEntry& entry, const GameState& state,
+                               TransferWay way) {
+    if (!MayWriteNow() || !launcher_.PutIntoGame(state, entry.gameFolder, {entry.note.profile, way})) return;
+    view_.SetStatus("Settings have been put back");
+    if (!entry.finished) ShowError(log.Finish(entry.folder));
     LookSoon();
-    return result.errors.empty();
 }
 
 // The game writes its settings when it ends, over whatever has been put back meanwhile.
@@ -111,6 +114,11 @@ void ProfilesCommands::FollowNotice(Notice::Action action) {
     if (action == Notice::Action::Keep) comparison_.OpenWithChanges();
 }
 
+void ProfilesCommands::CloseWindows() {
+    comparison_.Close();
+    transferComparison_.Close();
+}
+
 void ProfilesCommands::LookSoon() {
     lookTimer_.SetEnabled(true);
 }
@@ -121,8 +129,9 @@ void ProfilesCommands::Look() {
     notices_.Show(WorstOf(facts));
     notices_.ShowSave(SaveNotice(program_.CurrentFile));
     // Beside a window that has gone to the tray it would lie over the game.
-    if (mainWindow_.Visible()) comparison_.ShowWhatCanBeDone();
-    else comparison_.Close();
+    if (!mainWindow_.Visible()) CloseWindows();
+    comparison_.ShowWhatCanBeDone();
+    transferComparison_.ShowWhatCanBeDone();
     view_.ShowKeepRow(facts.changes > 0 || facts.filesChanged);
 }
 

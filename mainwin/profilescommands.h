@@ -7,6 +7,7 @@
 #include "mainwin/noticebar.h"
 #include "mainwin/profilesview.h"
 #include "mainwin/program.h"
+#include "mainwin/transfercomparison.h"
 #include "platform/form.h"
 
 namespace quirn {
@@ -25,14 +26,14 @@ public:
     bool HasTransfer() const;
 
     void FollowNotice(Notice::Action action);
-    void CloseWindows() { comparison_.Close(); }  // those that stay open beside the main one
+    void CloseWindows();  // those that stay open beside the main one
 
     // Looks what there is to tell, soon: when nothing else is under way.
     void LookSoon();
     void Look();
 
 private:
-    bool PutBack(const GameState& state, const std::string& gameFolder, const TransferNote& note);
+    void PutBack(const TransferLog& log, const TransferEntry& entry, const GameState& state, TransferWay way);
     void PutBackWhole(const TransferLog& log, const TransferEntry& entry);
     bool MayWriteNow() const;
     NoticeFacts Facts() const;
@@ -43,6 +44,7 @@ private:
     NoticeBar& notices_;
     ProfilesView view_;
     GameComparison comparison_;
+    TransferComparison transferComparison_;
     std::string firstGameFolder_;  // which the profile in the window was read from
     Timer lookTimer_;
 };

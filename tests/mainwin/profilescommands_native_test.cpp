@@ -66,6 +66,33 @@ TEST_F(ProfilesCommandsTest, WhatWasTransferredByMistakeIsUndone) {
     EXPECT_EQ(StoredMacro(), "found\0"s);
 }
 
+// What the game changed itself goes back by its own tick only, and names one by one.
+TEST_F(ProfilesCommandsTest, ATransferIsShownAndItsTickedRowsGoBack) {
+    PutFile(Scratch() + "\\ignore.txt", "# friends\nMole\nOrla\n");
+    PutValue("Software\\Virgin\\SubSpace\\Messages", "ShiftF2", 1, "\"a\\b\xE9\0"s);
+    program_.profile.Messages.Value(1) = "mine";
+    program_.profile.IgnoreList = {"Trill"};
+    main_.ShowProfile();
+    main_.Show();
+    Choose(mnuProfiles_Transfer);
+    PutValue("Software\\Virgin\\SubSpace\\Messages", "ShiftF2", 1, "by the game\0"s);
+    headless::PostAfter(10, [] { Click(ButtonOf(*headless::LoadedForms().back(), "&Show...")); });
+    Choose(mnuProfiles_Undo);
+    Form& compare = *headless::LoadedForms().back();
+    EXPECT_EQ(compare.Caption(), "Compare - Before '<current SS settings>' (21:26)");
+    auto& table = ControlOf<Table>(compare, "");
+    EXPECT_EQ(LabelOf(compare, "ticked").Text(), "4 ticked");
+    EXPECT_FALSE(table.isTicked(table.FindRow("Shift F2", 0).value()));
+    ClickTick(table, table.FindRow("Ignore list: Mole", 0).value());
+    Click(ButtonOf(compare, "&Put Back"));
+    EXPECT_EQ(StoredMacro(), "found\0"s);
+    EXPECT_EQ(FileBytes(Scratch() + "\\ignore.txt"), "Orla\r\n");
+    for (const char* row : {"Shift F2", "Ignore list: Mole"}) ClickTick(table, table.FindRow(row, 0).value());
+    Click(ButtonOf(compare, "&Put Back"));
+    EXPECT_EQ(GetValue("Software\\Virgin\\SubSpace\\Messages", "ShiftF2")->bytes, "\"a\\b\xE9\0"s);
+    EXPECT_EQ(FileBytes(Scratch() + "\\ignore.txt"), "# friends\nMole\nOrla\n");
+}
+
 TEST_F(ProfilesCommandsTest, AnyKeptStateComesBackFromTheHistory) {
     for (const char* macro : {"one", "two"}) {
         program_.profile.Messages.Value(1) = macro;
