@@ -125,7 +125,7 @@ public:
     void SetToolTip(const std::string& text);
     void Repaint();  // paints it now, without waiting for events
     // Does nothing while it cannot have the focus. Calls onLostFocus of the old one, then onGotFocus. Before its form
-    // is shown it says where the focus will be, and calls nobody.
+    // is shown it says where the focus will be, and calls nobody. A form behind another one stays there.
     void SetFocus();
 
     std::string Tag;  // free for the form's use

@@ -171,7 +171,9 @@ void Repaint(Control& control) {
 }
 
 void FocusControl(Control& control) {
-    SetFocus(WindowOf(control));
+    // The focus would bring a form that is behind another one to the front; it gets it when it comes there by itself.
+    const HWND active = GetActiveWindow();
+    if (active == nullptr || active == GetAncestor(WindowOf(control), GA_ROOT)) SetFocus(WindowOf(control));
     // Behind a modal form the keyboard comes back only with the form itself.
     if (!control.HasFocus()) control.UserFocuses(true);
     // So that typing replaces the old number.

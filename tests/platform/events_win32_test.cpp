@@ -68,6 +68,23 @@ TEST_F(EventsTest, AChangeOfDpiPlacesTheWindowAndItsControlsAnew) {
     EXPECT_EQ(form_.Place().width, 500 * 1440 / win32::DpiOf(Window()));
 }
 
+// A notice that goes while another window is in front, say.
+TEST_F(EventsTest, AFocusThatMovesInAFormBehindLeavesItThere) {
+    TextBox other(form_, {0, 600, 1500, 315});
+    other.SetFocus();
+    Form front(FormBorder::Fixed, 3000, 2000);
+    const TextBox inFront(front, {0, 0, 1500, 315});
+    front.Show();
+    DoEvents();
+    other.SetVisible(false);
+    EXPECT_EQ(GetActiveWindow(), win32::WindowOf(front));
+    EXPECT_EQ(GetFocus(), win32::WindowOf(inFront));
+    EXPECT_TRUE(box_.HasFocus());
+    form_.BringToFront();
+    DoEvents();
+    EXPECT_EQ(GetFocus(), win32::WindowOf(box_));
+}
+
 Menu* changing;
 
 void CALLBACK ChangeMenu(HWND, UINT, UINT_PTR, DWORD) {
