@@ -62,6 +62,25 @@ void WriteReport() {
     MoveFileExA("started.tmp", "started.txt", MOVEFILE_REPLACE_EXISTING);
 }
 
+void Store(const char* group, const char* name, DWORD type, const void* data, DWORD size) {
+    HKEY key = nullptr;
+    if (RegOpenKeyExA(HKEY_CURRENT_USER, (std::string("Software\\Virgin\\SubSpace\\") + group).c_str(), 0,
+                      KEY_SET_VALUE, &key) != 0)
+        return;
+    RegSetValueExA(key, name, 0, type, static_cast<const BYTE*>(data), size);
+    RegCloseKey(key);
+}
+
+// As a player changes them in the game, which writes its settings when it ends. Only with SUBSPACE_CHANGES.
+void ChangeSettings() {
+    if (!std::getenv("SUBSPACE_CHANGES")) return;
+    const DWORD volume = 77, ship = 5;
+    const char macro[] = "Back at %coord after \"one\" lap";
+    Store("Options", "MusicVolume", REG_DWORD, &volume, sizeof volume);
+    Store("Dialog", "PlayerShipType", REG_DWORD, &ship, sizeof ship);
+    Store("Messages", "ShiftF2", REG_SZ, macro, sizeof macro);
+}
+
 LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_TIMER) DestroyWindow(window);
     if (message == WM_DESTROY) PostQuitMessage(0);
@@ -87,5 +106,6 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
 
     MSG message;
     while (GetMessageA(&message, nullptr, 0, 0) > 0) DispatchMessageA(&message);
+    ChangeSettings();
     return 0;
 }

@@ -89,9 +89,9 @@ def test_what_the_game_changes_is_kept_by_a_press(desk):
     compare.keys("alt+p", "Escape")
     compare.gone()
     player.keys("ctrl+s")
-    player.quirn.expect("File has been saved")
+    player.expect_status("File has been saved")
     saved = Profile(desk.file("Profiles/DUEL.QRN"))
-    assert saved.sections["Options"]["MusicVolume"] == "77" and saved.sections["Dialog"]["PlayerShipType"] == "3"
+    assert saved.sections["Options"]["MusicVolume"] == "77" and saved.sections["Dialog"]["PlayerShipType"] == "5"
     assert saved.sections["Messages"]["ShiftF2"] == 'Back at %coord after "one" lap'
     player.keys("ctrl+t")
     player.expect_status("Profile has been transferred")
@@ -101,10 +101,10 @@ def test_what_the_game_changes_is_kept_by_a_press(desk):
 def test_a_transfer_that_was_cut_off_is_found_at_the_next_start(desk):
     before, files = desk.registry(), desk.folder_state()
     desk.hang_game()
-    quirn = desk.start("/LR:LEAGUE.QRN")
-    entry = wait_for(lambda: list(transfers(desk).glob("20*")), what="a kept transfer")[0]
-    wait_for(lambda: quirn.windows(), what="the box")
+    desk.start("/LR:LEAGUE.QRN")
+    wait_for(lambda: desk.user.processes("subspace.exe"), what="the program")
     desk.end_all()
+    entry = next(transfers(desk).glob("20*"))
     (entry / "unfinished.ini").touch()  # as if the power had gone before
     player = start(desk)
     notice(player, "The last transfer was not finished.")
