@@ -62,8 +62,8 @@ std::string PathIn(const std::string& folder, const std::string& name) {
     return folder + "\\" + name;
 }
 
-Failure WriteFileAsIs(const std::string& path, const std::optional<std::string>& bytes) {
-    if (bytes) return WriteGameFile(path, *bytes);
+Failure WriteFileAsIs(const std::string& path, const std::optional<std::string>& bytes, Flush flush) {
+    if (bytes) return WriteGameFile(path, *bytes, flush);
     const Result<std::string> old = ReadWholeFile(path);
     if ((old.Failed() && IsMissingFile(old.Error())) || RemoveFile(path)) return {};
     return old.Failed() ? old.Error() : MakeError(ErrorNumber::PathFileAccess);
@@ -150,7 +150,7 @@ GameFiles GlanceAtFiles(const std::string& gameFolder) {
     return files;
 }
 
-std::vector<RuntimeError> WriteGameState(const GameState& state, const std::string& gameFolder) {
+std::vector<RuntimeError> WriteGameState(const GameState& state, const std::string& gameFolder, Flush flush) {
     std::vector<RuntimeError> errors;
     for (const auto& [section, values] : state.settings) {
         const RegistryKey key(kGameKey + section);
@@ -159,7 +159,8 @@ std::vector<RuntimeError> WriteGameState(const GameState& state, const std::stri
                 errors.push_back(MakeError(ErrorNumber::PathFileAccess));
     }
     for (const auto& [name, bytes] : state.files)
-        if (Failure failure = WriteFileAsIs(PathIn(gameFolder, name), bytes)) errors.push_back(*std::move(failure));
+        if (Failure failure = WriteFileAsIs(PathIn(gameFolder, name), bytes, flush))
+            errors.push_back(*std::move(failure));
     return errors;
 }
 

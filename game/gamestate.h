@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/error.h"
+#include "platform/files.h"
 #include "platform/registry.h"
 #include "platform/text.h"
 #include "profile/profile.h"
@@ -57,6 +58,7 @@ GameFiles GlanceAtFiles(const std::string& gameFolder);
 
 // Makes the game as the state says: what is missing in it is removed. Keys are neither made nor removed, and what is so
 // already is not written. What fails does not stop the rest; each value and file that failed gives an error.
-std::vector<RuntimeError> WriteGameState(const GameState& state, const std::string& gameFolder);
+std::vector<RuntimeError> WriteGameState(const GameState& state, const std::string& gameFolder,
+                                         Flush flush = Flush::Yes);
 
 }  // namespace quirn

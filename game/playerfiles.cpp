@@ -52,10 +52,10 @@ Plan PlanWave(const std::string& source, const std::string& target) {
     return std::optional(wave.Take());
 }
 
-Failure WritePlanned(const Profile& profile, const std::string& gameFolder, const std::string& name) {
+Failure WritePlanned(const Profile& profile, const std::string& gameFolder, const std::string& name, Flush flush) {
     const Plan bytes = PlanPlayerFile(profile, gameFolder, name);
     if (bytes.Failed()) return bytes.Error();
-    return bytes.Value() ? WriteGameFile(PathIn(gameFolder, name), *bytes.Value()) : Failure();
+    return bytes.Value() ? WriteGameFile(PathIn(gameFolder, name), *bytes.Value(), flush) : Failure();
 }
 
 }  // namespace
@@ -68,15 +68,15 @@ Result<std::optional<std::string>> PlanPlayerFile(const Profile& profile, const 
     return PlanIgnoreFile(profile, path);
 }
 
-Failure WriteGameFile(const std::string& path, const std::string& bytes) {
+Failure WriteGameFile(const std::string& path, const std::string& bytes, Flush flush) {
     const Result<std::string> old = ReadWholeFile(path);
-    if (old.Failed() || old.Value() != bytes) return WriteWholeFile(path, bytes);
+    if (old.Failed() || old.Value() != bytes) return WriteWholeFile(path, bytes, flush);
     SweepUnfinished(path);
     return {};
 }
 
 Failure WriteIgnoreFile(const Profile& profile, const std::string& gameFolder) {
-    return WritePlanned(profile, gameFolder, kIgnoreFile);
+    return WritePlanned(profile, gameFolder, kIgnoreFile, Flush::Yes);
 }
 
 std::vector<std::string> IgnoredNames(const std::string& text) {
@@ -109,10 +109,10 @@ Failure ReadPlayerFiles(Profile& profile, const std::string& gameFolder) {
     return failure;
 }
 
-std::vector<RuntimeError> WritePlayerFiles(const Profile& profile, const std::string& gameFolder) {
+std::vector<RuntimeError> WritePlayerFiles(const Profile& profile, const std::string& gameFolder, Flush flush) {
     std::vector<RuntimeError> errors;
     for (const char* name : kPlayerFiles)
-        if (Failure failure = WritePlanned(profile, gameFolder, name)) errors.push_back(*std::move(failure));
+        if (Failure failure = WritePlanned(profile, gameFolder, name, flush)) errors.push_back(*std::move(failure));
     return errors;
 }
 

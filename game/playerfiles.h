@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/error.h"
+#include "platform/files.h"
 #include "profile/profile.h"
 
 // What the game keeps per player in its own folder: "ignore.txt", the players whose chat is hidden, one name per line,
@@ -26,7 +27,7 @@ std::vector<std::string> IgnoredNames(const std::string& text);
 
 // Writes a file of the game unless it already holds those bytes: most launches change nothing here, and a write that is
 // flushed to the disk takes longer than all the rest.
-Failure WriteGameFile(const std::string& path, const std::string& bytes);
+Failure WriteGameFile(const std::string& path, const std::string& bytes, Flush flush = Flush::Yes);
 
 // The ignore list without its blank entries. To a file that could not be read before, only names are added. Failure:
 // the folder is missing, the file is read-only or held.
@@ -37,6 +38,7 @@ Failure ReadIgnoreFile(Profile& profile, const std::string& gameFolder);
 
 // The ignore list and the two waves, from the game or to it. What fails does not stop the rest.
 Failure ReadPlayerFiles(Profile& profile, const std::string& gameFolder);
-std::vector<RuntimeError> WritePlayerFiles(const Profile& profile, const std::string& gameFolder);
+std::vector<RuntimeError> WritePlayerFiles(const Profile& profile, const std::string& gameFolder,
+                                           Flush flush = Flush::Yes);
 
 }  // namespace quirn

@@ -53,12 +53,12 @@ bool WentAsPlanned(const TransferResult& result) {
 // Keeps what the game has, lets `apply` change the game to the plan, and notes what it left.
 TransferResult KeepAndApply(const std::function<GameState(const GameSettings&)>& planOf, const std::string& gameFolder,
                             const TransferLog& log, const TransferNote& note,
-                            const std::function<void(TransferResult&)>& apply) {
+                            const std::function<void(TransferResult&, Flush)>& apply) {
     TransferResult result;
     Result<GameSettings> settings = ReadGameSettings();
     if (settings.Failed()) {
         result.kept = false;
-        apply(result);
+        apply(result, Flush::Yes);
         return result;
     }
     const GameState plan = planOf(settings.Value());
@@ -78,7 +78,8 @@ TransferResult KeepAndApply(const std::function<GameState(const GameSettings&)>&
         result.kept = !begun.Failed() && Without({{}, change.files}, now).IsEmpty();
         if (!begun.Failed()) entryFolder = begun.Value();
     }
-    apply(result);
+    // What it overwrites is on the disk already, so what it writes, which there is another copy of, need not be.
+    apply(result, result.kept ? Flush::No : Flush::Yes);
 
     Result<GameSettings> after =
         WentAsPlanned(result) ? Result<GameSettings>(Over(now, change).settings) : ReadGameSettings();
@@ -110,19 +111,21 @@ GameState PlanTransfer(const GameSettings& now, const Profile& profile, const st
 TransferResult TransferToGame(const Profile& profile, const std::string& gameFolder, const TransferLog& log,
                               const TransferNote& note) {
     const auto plan = [&](const GameSettings& now) { return PlanTransfer(now, profile, gameFolder); };
-    return KeepAndApply(plan, gameFolder, log, note, [&](TransferResult& result) {
+    return KeepAndApply(plan, gameFolder, log, note, [&](TransferResult& result, Flush flush) {
         WrittenSettings settings = WriteSettings(profile);
         if (settings.overflow) result.errors.push_back(MakeError(ErrorNumber::Overflow));
         result.refused = std::move(settings.refused);
         if (gameFolder != kNotSet)
-            for (RuntimeError& error : WritePlayerFiles(profile, gameFolder)) result.errors.push_back(std::move(error));
+            for (RuntimeError& error : WritePlayerFiles(profile, gameFolder, flush))
+                result.errors.push_back(std::move(error));
     });
 }
 
 TransferResult PutIntoGame(const GameState& wanted, const std::string& gameFolder, const TransferLog& log,
                            const TransferNote& note) {
-    return KeepAndApply([&](const GameSettings&) { return wanted; }, gameFolder, log, note,
-                        [&](TransferResult& result) { result.errors = WriteGameState(wanted, gameFolder); });
+    return KeepAndApply(
+        [&](const GameSettings&) { return wanted; }, gameFolder, log, note,
+        [&](TransferResult& result, Flush flush) { result.errors = WriteGameState(wanted, gameFolder, flush); });
 }
 
 GameChanges FindGameChanges(const TransferLog& log, const std::string& gameFolder) {

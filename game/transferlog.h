@@ -12,8 +12,8 @@
 //     before.reg, after.reg              all settings, in the registry editor's own text format
 //     ignore.txt, record0.wav, ...       what the transfer changed in the game folder, as it was before
 //     after-ignore.txt, ...              and as it left it
-//     transfer.ini                       profile, way, game folder, files that were not there; named unfinished.ini
-//                                        until the transfer is over
+//     transfer.ini                       profile, way, game folder, files that were not there
+//     unfinished.ini                     until the transfer is over
 // and beside them "left" files: what the last transfer left, to see what the game has changed since.
 namespace quirn {
 

@@ -46,11 +46,11 @@ void SweepFolder(const std::string& folder) {
     }
 }
 
-Failure WriteWholeFile(const std::string& path, std::string_view bytes) {
+Failure WriteWholeFile(const std::string& path, std::string_view bytes, Flush flush) {
     FileReplacer file;
     if (Failure failure = file.Open(path)) return failure;
     if (Failure failure = file.Write(bytes)) return failure;
-    return file.Finish();
+    return file.Finish(flush);
 }
 
 }  // namespace quirn

@@ -38,6 +38,9 @@ private:
     [[maybe_unused]] uint64_t position_ = 0;  // where the system does not keep it
 };
 
+// Flushed: what was written is on the disk when the call returns, which takes longer than all else.
+enum class Flush { No, Yes };
+
 // Creates or replaces a file in one step: Open makes an empty file beside it, Write fills that, Finish flushes it to
 // the disk and puts it in the old one's place. Without Finish (or when that fails) the old file is whole and the
 // unfinished one is deleted. A link's target is replaced, not the link. Open refuses a read-only file (75) and one that
@@ -51,7 +54,7 @@ public:
 
     Failure Open(const std::string& path);
     Failure Write(std::string_view bytes);
-    Failure Finish();
+    Failure Finish(Flush flush = Flush::Yes);
 
     // The unfinished file. Until Finish, others may read and change it, but not delete it.
     const std::string& Unfinished() const { return unfinished_; }
@@ -65,11 +68,10 @@ private:
 };
 
 // The same for content that is there already.
-Failure WriteWholeFile(const std::string& path, std::string_view bytes);
+Failure WriteWholeFile(const std::string& path, std::string_view bytes, Flush flush = Flush::Yes);
 
 // Makes a file that is in nobody's way yet, or fills it anew; not in one step, so for what counts only once it is
-// whole. Flushed: it is on the disk when this returns, which takes longer than all else.
-enum class Flush { No, Yes };
+// whole.
 Failure WritePlainFile(const std::string& path, std::string_view bytes, Flush flush = Flush::No);
 
 // Where a file is written before it takes the place of the file at this path: the path with kUnfinishedSuffix, the name

@@ -179,7 +179,7 @@ Failure FileReplacer::Write(std::string_view bytes) {
     return {};
 }
 
-Failure FileReplacer::Finish() {
+Failure FileReplacer::Finish(Flush) {
     Failure failure = CheckReplaceable(path_);
     if (!failure) {
         RemoveFile(path_);

@@ -182,9 +182,9 @@ Failure FileReplacer::Write(std::string_view bytes) {
     return WriteTo(handle_, bytes);
 }
 
-Failure FileReplacer::Finish() {
+Failure FileReplacer::Finish(Flush flush) {
     Failure failure;
-    if (!FlushFileBuffers(handle_)) failure = LastError();
+    if (flush == Flush::Yes && !FlushFileBuffers(handle_)) failure = LastError();
     // A file that nobody may delete cannot be moved either.
     KernelHandle(static_cast<HANDLE>(std::exchange(handle_, nullptr))).Reset();
     if (!failure) failure = MoveOver(unfinished_, path_);
