@@ -116,6 +116,12 @@ Failure RemoveAll(const std::string& folder) {
     return RemoveFolder(folder);
 }
 
+Failure RemoveEntry(const std::string& folder) {
+    // First it stops being an entry: what cannot be removed now is swept later.
+    if (Failure failure = RenameFolder(folder, folder + kNew)) return failure;
+    return RemoveAll(folder + kNew);
+}
+
 // What the file holds already is not written again.
 Failure WriteChanged(const std::string& path, const std::string& bytes) {
     const Result<std::string> old = ReadWholeFile(path);
@@ -179,9 +185,7 @@ Result<GameState> TransferLog::WholeBefore(const TransferEntry& entry) const {
 }
 
 Failure TransferLog::Forget(const TransferEntry& entry) const {
-    // First it stops being an entry: what cannot be removed now is swept later.
-    if (Failure failure = RenameFolder(entry.folder, entry.folder + kNew)) return failure;
-    return RemoveAll(entry.folder + kNew);
+    return RemoveEntry(entry.folder);
 }
 
 Failure TransferLog::ForgetAll() const {
@@ -224,8 +228,8 @@ void TransferLog::Sweep() const {
     for (const FolderEntry& folder : folders.Value())
         if (folder.isFolder && folder.name.ends_with(kNew)) RemoveAll(folder_ + "\\" + folder.name);
     if (folders.Value().size() <= kKept) return;
-    const std::vector<TransferEntry> entries = Entries();
-    for (size_t i = kKept; i + 1 < entries.size(); ++i) Forget(entries[i]);
+    const std::vector<std::string> times = Times();
+    for (size_t i = kKept; i + 1 < times.size(); ++i) RemoveEntry(folder_ + "\\" + times[i]);
 }
 
 std::optional<LeftState> TransferLog::Left() const {

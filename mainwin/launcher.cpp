@@ -13,11 +13,19 @@ constexpr int kGraceTime = 1000;  // milliseconds that the run box stays when th
 Launcher::Launcher(const Program& program) : program_(program) {
     game_.onState = [this](GameRun::State state) {
         if (state == GameRun::State::Running) runBox_.CloseAfter(kGraceTime);
+        // Not before: the player waits for the game.
+        if (state != GameRun::State::Starting) TransferLog(program_.dataFolder).Sweep();
         CallHandler(onChange);
     };
 }
 
 bool Launcher::Transfer(const Profile& profile, const TransferNote& note) {
+    const bool wentWell = Write(profile, note);
+    TransferLog(program_.dataFolder).Sweep();
+    return wentWell;
+}
+
+bool Launcher::Write(const Profile& profile, const TransferNote& note) {
     return ShowResult(TransferToGame(profile, program_.gameFolder, TransferLog(program_.dataFolder), note));
 }
 
@@ -34,11 +42,10 @@ bool Launcher::ShowResult(const TransferResult& result) {
 
 bool Launcher::TransferAndLaunch(const Profile& profile, const TransferNote& note) {
     runBox_.Unload();
-    Transfer(profile, note);
-    const bool started = LaunchGame(profile);
-    // Not before: the player waits for the game.
+    Write(profile, note);
+    if (LaunchGame(profile)) return true;
     TransferLog(program_.dataFolder).Sweep();
-    return started;
+    return false;
 }
 
 bool Launcher::LaunchGame(const Profile& profile) {

@@ -39,6 +39,7 @@ public:
     std::function<void()> onChange;  // the game has been started or has ended, or its settings have been changed
 
 private:
+    bool Write(const Profile& profile, const TransferNote& note);
     bool ShowResult(const TransferResult& result);
     bool LaunchGame(const Profile& profile);
 
