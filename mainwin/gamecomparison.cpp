@@ -6,10 +6,8 @@
 
 #include "game/comparerows.h"
 #include "game/playerfiles.h"
+#include "mainwin/windowsides.h"
 #include "platform/dialogs.h"
-#include "profile/documentnames.h"
-#include "profile/profilefile.h"
-#include "profile/splitpath.h"
 
 namespace quirn {
 
@@ -23,19 +21,6 @@ CompareRows Differing(const CompareRows& rows) {
     std::copy_if(rows.begin(), rows.end(), std::back_inserter(differing),
                  [](const CompareRow& row) { return row.differs[kGame]; });
     return differing;
-}
-
-std::string NameOf(const std::string& file) {
-    return IsUntitled(file) ? file : SplitPath(file).File();
-}
-
-CompareSide SavedSide(const std::string& file) {
-    Profile saved;
-    InitCatalogue(saved);
-    const LoadResult loaded = IsUntitled(file) ? LoadResult::NotFound : LoadProfile(saved, file);
-    CompareSide side = SideOf("Saved file", saved);
-    side.isThere = loaded == LoadResult::Loaded || loaded == LoadResult::LoadedFromEarlierVersion;
-    return side;
 }
 
 }  // namespace
@@ -69,16 +54,9 @@ void GameComparison::OpenWithChanges() {
     onChange_();
 }
 
-// What is being edited stays in the controls: looking takes nothing into the profile.
-Profile GameComparison::ProfileInWindow() const {
-    const Profile before = program_.profile;
-    view_.CollectProfile();
-    return std::exchange(program_.profile, before);
-}
-
 CompareSides GameComparison::ReadSides() const {
-    return {SideOf(NameOf(program_.CurrentFile), ProfileInWindow()), GameSide("Game now", program_.gameFolder),
-            SavedSide(program_.CurrentFile)};
+    return {WindowSide(program_, view_), GameSide("Game now", program_.gameFolder),
+            FileSide("Saved file", program_.CurrentFile)};
 }
 
 // The part of what the game has changed that a profile has with these rows. Of the ignore list either all or nothing:
@@ -96,11 +74,7 @@ GameState GameComparison::ChangesIn(const CompareRows& rows) const {
 void GameComparison::TakeIntoProfile(const CompareRows& rows, const CompareSides& sides) {
     const CompareRows differing = Differing(rows);
     if (differing.empty()) return;
-    view_.CollectProfile();
-    TakeRows(differing, sides[kGame].profile, program_.profile);
-    program_.dirty = true;
-    view_.ShowProfile();
-    view_.SetStatus("Settings have been taken into the profile");
+    TakeIntoWindow(differing, sides[kGame].profile, program_, view_);
     ShowError(AcceptGameChanges(TransferLog(program_.dataFolder), ChangesIn(differing)));
     onChange_();
 }

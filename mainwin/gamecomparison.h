@@ -24,7 +24,6 @@ public:
 
 private:
     CompareSides ReadSides() const;
-    Profile ProfileInWindow() const;
     void TakeIntoProfile(const CompareRows& rows, const CompareSides& sides);
     void WriteIntoGame(const CompareRows& rows, const CompareSides& sides);
     GameState ChangesIn(const CompareRows& rows) const;
