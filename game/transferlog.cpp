@@ -206,10 +206,7 @@ Result<std::string> TransferLog::Begin(const TransferEntry& entry, const GameSta
     for (const auto& [name, bytes] : before.files) info.push_back({name, WordFor(bytes)});
     for (const auto& [name, bytes] : after.files) info.push_back({kAfter + name, WordFor(bytes)});
 
-    // Two transfers in one second get a number; it sorts behind the first.
-    const std::string first = folder_ + "\\" + entry.time;
-    std::string folder = first;
-    for (int i = 2; FindEntry(folder); ++i) folder = first + " " + std::to_string(i);
+    const std::string folder = NewPathByTime(folder_, entry.time, "");
     Failure failure = WriteEntry(folder + kNew, IniText(info), before, after);
     if (!failure) failure = RenameFolder(folder + kNew, folder);
     if (!failure) return folder;

@@ -2,7 +2,10 @@
 
 #include "mainwin/loading.h"
 #include "mainwin/menurows.h"
+#include "mainwin/notice.h"
+#include "platform/clock.h"
 #include "platform/dialogs.h"
+#include "platform/files.h"
 #include "platform/text.h"
 #include "profile/macroimport.h"
 #include "profile/profilefile.h"
@@ -85,13 +88,24 @@ void FileCommands::mnuFile_Save_Click() {
         mnuFile_SaveAs_Click();
         return;
     }
+    Save(program_.CurrentFile);
+}
+
+// What the file held is kept first. A file that cannot be kept is told of beside the Run button, and saved over.
+bool FileCommands::Save(const std::string& path) {
     view_.CollectProfile();
-    if (Failure failure = SaveProfile(program_.profile, program_.gameFolder, program_.CurrentFile)) {
+    const ProfileVersions versions(program_.dataFolder, path);
+    const Result<std::string> kept = versions.KeepPresent();
+    const Failure failure = SaveProfile(program_.profile, program_.gameFolder, path);
+    program_.keptLastVersion = !kept.Failed() || failure;
+    if (!kept.Failed()) versions.Settle(kept.Value());
+    if (failure) {
         ShowError(failure);
-        return;
+        return false;
     }
     view_.SetStatus(kSaved);
     program_.dirty = false;
+    return true;
 }
 
 bool FileCommands::mnuFile_SaveAs_Click() {
@@ -104,14 +118,8 @@ bool FileCommands::mnuFile_SaveAs_Click() {
     if (!path) return false;
     program_.CurrentFile = *path;
     ShowTitle(*path);
-    view_.CollectProfile();
-    if (Failure failure = SaveProfile(program_.profile, program_.gameFolder, *path)) {
-        ShowError(failure);
-        return false;
-    }
+    if (!Save(*path)) return false;
     AddToRecentFiles(*path);
-    view_.SetStatus(kSaved);
-    program_.dirty = false;
     return true;
 }
 
@@ -147,6 +155,26 @@ void FileCommands::mnuFile_Import_Click() {
     view_.ShowMacros();
     view_.ShowMacroPage();
     view_.SetStatus(kImported);
+}
+
+bool FileCommands::PutBackVersion(const ProfileVersion& version) {
+    if (!MayDiscard()) return false;
+    const std::string path = program_.CurrentFile;
+    if (ShowMessage("Make " + path + " what it was before it was replaced (" +
+                        TimeInWords(version.time, SortableTime()) + ")? What it holds now becomes a version.",
+                    kOkCancel + kQuestion) != Answer::Ok)
+        return false;
+    const ProfileVersions versions(program_.dataFolder, path);
+    const Result<std::string> bytes = ReadWholeFile(version.file);
+    const Result<std::string> kept = bytes.Failed() ? bytes : versions.KeepPresent();
+    if (kept.Failed()) {
+        ShowError(kept.Error());
+        return false;
+    }
+    const Failure failure = WriteWholeFile(path, bytes.Value());
+    versions.Settle(kept.Value());
+    ShowError(failure);
+    return !failure && OpenProfile(path);
 }
 
 void FileCommands::AddToRecentFiles(const std::string& path) {

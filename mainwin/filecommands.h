@@ -5,6 +5,7 @@
 
 #include "mainwin/program.h"
 #include "platform/menu.h"
+#include "profile/versions.h"
 
 namespace quirn {
 
@@ -37,7 +38,12 @@ public:
     void mnuFileMRU_Click(size_t index);
     void mnuFile_Import_Click();
 
+    // Makes the current file what an earlier version of it was, after a question, and opens it. What it holds now
+    // becomes a version. True when it has been done.
+    bool PutBackVersion(const ProfileVersion& version);
+
 private:
+    bool Save(const std::string& path);
     bool MayDiscard() { return !program_.dirty || AskSaveChanges(); }
     bool OpenProfile(const std::string& path);
     void AddToRecentFiles(const std::string& path);

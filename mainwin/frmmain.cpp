@@ -91,6 +91,7 @@ frmMain::frmMain(Program& program)
                             .CollectProfile = [this] { CollectProfile(); },
                             .ShowProfile = [this] { ShowProfile(); },
                             .SetStatus = [this](const std::string& text) { StatusBar1.SetText(text); },
+                            .PutBackVersion = [this](auto& version) { return fileCommands_.PutBackVersion(version); },
                             .ShowKeepRow = [this](bool some) { trayCommands_.ShowKeepRow(some); },
                         }) {
     anchors_.Add(SSTab1, Anchor::Center, Anchor::Stay).Add(Command3, Anchor::Center, Anchor::Center);

@@ -57,6 +57,9 @@ std::vector<MenuRow> frmMain::MenuRows() {
             [this] { profilesCommands_.mnuProfiles_Undo_Click(); }, [this] { return profilesCommands_.HasTransfer(); }},
         {mnuProfiles_History, 1, "Transfer &History...", "", "View what QUIRN has changed in the game",
             [this] { profilesCommands_.mnuProfiles_History_Click(); }},
+        {mnuProfilesBarVersions, 1, "-"},
+        {mnuProfiles_Versions, 1, "&Earlier Versions...", "", "View what saves have replaced of the file",
+            [this] { profilesCommands_.mnuProfiles_Versions_Click(); }, [this] { return profilesCommands_.HasVersions(); }},
 
         {mnuHelp, 0, "&Help"},
         {mnuHelp_Contents, 1, "&Contents", "F1", "View the QUIRN Help File",

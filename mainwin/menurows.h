@@ -39,6 +39,8 @@ enum MainCommand : int {
     mnuProfiles_Undo,
     mnuProfiles_History,
     mnuProfiles_Compare,
+    mnuProfilesBarVersions,
+    mnuProfiles_Versions,
 };
 static_assert(mnuFile_Print == 9 && mnuFile_Close == 17 && mnuOptions_Set == 20 && mnuHelp_About == 29);
 

@@ -18,6 +18,7 @@ std::string WhatTheGameChanged(const NoticeFacts& facts) {
 Notice WorstOf(const NoticeFacts& facts) {
     if (facts.unfinished) return {"The last transfer was not finished.", "Put back...", Notice::Action::Undo};
     if (facts.notKept) return {"The last transfer could not be kept: no way back."};
+    if (facts.versionNotKept) return {"The file that was saved over could not be kept."};
     if (facts.gameRuns) return {"The game runs: it writes its own settings at its end."};
     if (facts.noSettings) return {"The game has no settings yet. Start it once by itself."};
     if (facts.folderChanged) return {"The game folder has changed. Start QUIRN again first."};

@@ -6,8 +6,9 @@
 namespace quirn {
 
 struct NoticeFacts {
-    bool unfinished = false;  // the last transfer was cut off
-    bool notKept = false;     // the last transfer changed the game, and there is no way back
+    bool unfinished = false;      // the last transfer was cut off
+    bool notKept = false;         // the last transfer changed the game, and there is no way back
+    bool versionNotKept = false;  // the last save replaced a file, and there is no way back
     bool gameRuns = false;
     bool noSettings = false;     // the game has no registry keys
     bool folderChanged = false;  // since the profile in the window was read from the game

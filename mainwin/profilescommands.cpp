@@ -2,6 +2,7 @@
 
 #include "mainwin/frmhistory.h"
 #include "mainwin/frmundo.h"
+#include "mainwin/frmversions.h"
 #include "mainwin/transferwords.h"
 #include "platform/dialogs.h"
 #include "platform/folders.h"
@@ -29,9 +30,11 @@ ProfilesCommands::ProfilesCommands(Form& mainWindow, Program& program, Launcher&
       notices_(notices),
       view_(std::move(view)),
       comparison_(mainWindow, program, launcher, view_, [this] { LookSoon(); }),
-      transferComparison_(mainWindow, [this](auto& entry, auto& part) {
-          PutBack(TransferLog(program_.dataFolder), entry, part, TransferWay::PutBack);
-      }) {
+      transferComparison_(mainWindow,
+                          [this](auto& entry, auto& part) {
+                              PutBack(TransferLog(program_.dataFolder), entry, part, TransferWay::PutBack);
+                          }),
+      versionComparison_(mainWindow, program, view_) {
     lookTimer_.SetInterval(kSoon);
     lookTimer_.onTimer = [this] {
         lookTimer_.SetEnabled(false);
@@ -70,6 +73,13 @@ void ProfilesCommands::mnuProfiles_History_Click() {
     LookSoon();
 }
 
+void ProfilesCommands::mnuProfiles_Versions_Click() {
+    const ProfileVersions versions(program_.dataFolder, program_.CurrentFile);
+    frmVersions dialog(program_.CurrentFile, versions, view_.PutBackVersion);
+    const std::optional<ProfileVersion> shown = dialog.Ask(mainWindow_);
+    if (shown) versionComparison_.Open(*shown);
+}
+
 void ProfilesCommands::PutBackWhole(const TransferLog& log, const TransferEntry& entry) {
     const Result<GameState> before = log.WholeBefore(entry);
     if (before.Failed()) {
@@ -105,6 +115,11 @@ bool ProfilesCommands::HasGameFolder() const {
     return program_.gameFolder != kNotSet;
 }
 
+bool ProfilesCommands::HasVersions() const {
+    const std::string& file = program_.CurrentFile;
+    return !IsUntitled(file) && !ProfileVersions(program_.dataFolder, file).List().empty();
+}
+
 bool ProfilesCommands::HasTransfer() const {
     return !TransferLog(program_.dataFolder).IsEmpty();
 }
@@ -117,6 +132,7 @@ void ProfilesCommands::FollowNotice(Notice::Action action) {
 void ProfilesCommands::CloseWindows() {
     comparison_.Close();
     transferComparison_.Close();
+    versionComparison_.Close();
 }
 
 void ProfilesCommands::LookSoon() {
@@ -132,6 +148,7 @@ void ProfilesCommands::Look() {
     if (!mainWindow_.Visible()) CloseWindows();
     comparison_.ShowWhatCanBeDone();
     transferComparison_.ShowWhatCanBeDone();
+    versionComparison_.ShowWhatCanBeDone();
     view_.ShowKeepRow(facts.changes > 0 || facts.filesChanged);
 }
 
@@ -143,6 +160,7 @@ NoticeFacts ProfilesCommands::Facts() const {
     NoticeFacts facts;
     facts.unfinished = last && !last->finished;
     facts.notKept = !launcher_.KeptLast();
+    facts.versionNotKept = !program_.keptLastVersion;
     facts.gameRuns = launcher_.GameIsRunning();
     facts.noSettings = !settings.Failed() && settings.Value().empty();
     facts.folderChanged = !EqualNoCase(program_.gameFolder, firstGameFolder_);

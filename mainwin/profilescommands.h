@@ -8,6 +8,7 @@
 #include "mainwin/profilesview.h"
 #include "mainwin/program.h"
 #include "mainwin/transfercomparison.h"
+#include "mainwin/versioncomparison.h"
 #include "platform/form.h"
 
 namespace quirn {
@@ -21,9 +22,11 @@ public:
     void mnuProfiles_Transfer_Click();
     void mnuProfiles_Undo_Click();
     void mnuProfiles_History_Click();
+    void mnuProfiles_Versions_Click();
 
     bool HasGameFolder() const;
     bool HasTransfer() const;
+    bool HasVersions() const;  // of the file that Save writes
 
     void FollowNotice(Notice::Action action);
     void CloseWindows();  // those that stay open beside the main one
@@ -45,6 +48,7 @@ private:
     ProfilesView view_;
     GameComparison comparison_;
     TransferComparison transferComparison_;
+    VersionComparison versionComparison_;
     std::string firstGameFolder_;  // which the profile in the window was read from
     Timer lookTimer_;
 };

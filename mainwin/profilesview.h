@@ -3,6 +3,8 @@
 #include <functional>
 #include <string>
 
+#include "profile/versions.h"
+
 namespace quirn {
 
 // What the commands of the Profiles menu need of the main window.
@@ -10,6 +12,7 @@ struct ProfilesView {
     std::function<void()> CollectProfile;  // controls to profile
     std::function<void()> ShowProfile;     // profile to controls
     std::function<void(const std::string&)> SetStatus;
+    std::function<bool(const ProfileVersion&)> PutBackVersion;
     std::function<void(bool some)> ShowKeepRow;  // the tray menu's row for the game's changes
 };
 

@@ -31,6 +31,7 @@ struct Program {
     bool quiet = false;                          // start hidden in the tray
     std::string CurrentFile = kCurrentSettings;  // of the profile: a full path, or a name in "<>" when it has no file
     bool dirty = false;                          // the profile has changes that no QRN file holds
+    bool keptLastVersion = true;                 // there is a way back to what the last save replaced
     RecentFiles recentFiles;                     // the most recent first; an empty text is an unused slot
     std::array<Favourite, 5> favourites;
 };

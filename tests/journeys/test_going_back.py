@@ -3,7 +3,7 @@ import pytest
 
 from conftest import GAME_KEY, Profile
 from machine import wait_for
-from player import start
+from player import RECENT, start
 from test_messages import PROFILES
 
 OTHER_VALUES = """REGEDIT4
@@ -116,3 +116,26 @@ def test_a_transfer_that_was_cut_off_is_found_at_the_next_start(desk):
     assert {name: left[name] for name in files if name != "subspace.exe"} == {
         name: files[name] for name in files if name != "subspace.exe"}
     wait_for(lambda: not [c for c in player.controls() if c["caption"].startswith("The last transfer")], what="the end")
+
+
+def test_a_save_into_the_wrong_file_is_taken_back(desk):
+    duel = desk.file("Profiles/DUEL.QRN")
+    before = duel.read_bytes()
+    player = start(desk)
+    player.open(PROFILES + "LEAGUE.QRN")
+    player.open(PROFILES + "DUEL.QRN")
+    player.quirn.choose(RECENT + 1)  # LEAGUE: the title names it, and Save still writes DUEL
+    wait_for(lambda: player.title().endswith("LEAGUE.QRN"), what="the title")
+    notice(player, "Save writes DUEL.QRN")
+    player.keys("ctrl+s")
+    player.expect_status("File has been saved")
+    assert duel.read_bytes() != before
+    player.keys("alt+p", "e")
+    versions = player.dialog("Earlier Versions")
+    desk.screenshot("versions")
+    versions.keys("Down", "alt+p")
+    box = player.quirn.box()
+    assert box.text.startswith("Make C:\\SubSpace\\Profiles\\DUEL.QRN what it was before")
+    box.press()
+    player.expect_status("File has been loaded")
+    assert duel.read_bytes() == before and player.title().endswith("DUEL.QRN")

@@ -1,6 +1,8 @@
 #include "mainwin/filecommands.h"
 
 #include "mainwin/menurows.h"
+#include "mainwin/notice.h"
+#include "platform/clock.h"
 #include "platform/headless/dialogs.h"
 #include "profile/profilefile.h"
 #include "tests/testing/profiles.h"
@@ -261,6 +263,38 @@ TEST(RecentMenuTest, ShowsFilesOnceThereAreSome) {
     EXPECT_TRUE(menu.Find(mnuFileMRU + 4)->visible);
     EXPECT_FALSE(menu.Find(mnuFileMRU + 1)->visible);
     EXPECT_TRUE(menu.Find(mnuFileBarMRU)->visible);
+}
+
+TEST_F(FileCommandsTest, WhatASaveReplacedIsPutBack) {
+    program_.dataFolder = Scratch() + "\\data";
+    program_.CurrentFile = old_;
+    const std::string before = *FileBytes(old_);
+    commands_.mnuFile_Save_Click();
+    EXPECT_TRUE(program_.keptLastVersion);
+    const ProfileVersions versions(program_.dataFolder, old_);
+    ASSERT_EQ(versions.List().size(), 1u);
+    const ProfileVersion version = versions.List().front();
+
+    // An edit in the window is asked for as Open does.
+    program_.dirty = true;
+    ExpectQuestion(Answer::Cancel);
+    EXPECT_FALSE(commands_.PutBackVersion(version));
+    EXPECT_EQ(PilotIn(old_), "D1");
+    program_.dirty = false;
+    ExpectMessage("Make " + old_ + " what it was before it was replaced (" + TimeInWords(version.time, SortableTime()) +
+                      ")? What it holds now becomes a version.",
+                  kOkCancel + kQuestion);
+    EXPECT_TRUE(commands_.PutBackVersion(version));
+    EXPECT_EQ(FileBytes(old_), before);
+    EXPECT_EQ(pilot_, "Old");
+    EXPECT_EQ(title_, "QUIRN v1.61 - old.qrn");
+    EXPECT_EQ(versions.List().size(), 2u);
+
+    PutFile(Scratch() + "\\full", "");
+    program_.dataFolder = Scratch() + "\\full";
+    commands_.mnuFile_Save_Click();
+    EXPECT_EQ(status_, "File has been saved");
+    EXPECT_FALSE(program_.keptLastVersion);
 }
 
 }  // namespace

@@ -245,6 +245,10 @@ void Player::ChooseFromMenu(Form& form, Menu& menu) {
         if ((command >= mnuPUTrayIcon_Fav && command < mnuPUTrayIconBarExit) || command == mnuProfiles_Transfer ||
             command == mnuProfiles_Undo || command == mnuProfiles_History)
             Allow(Allowed::Transfer);
+        if (command == mnuProfiles_Versions) {
+            Allow(Allowed::Save, program_.CurrentFile);
+            Allow(Allowed::Load);
+        }
     }
     menu.UserChooses(command);
 }

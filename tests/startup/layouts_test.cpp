@@ -13,6 +13,7 @@
 #include "mainwin/frmoptions.h"
 #include "mainwin/frmrunbox.h"
 #include "mainwin/frmundo.h"
+#include "mainwin/frmversions.h"
 #include "platform/measures.h"
 #include "tests/testing/profiles.h"
 #include "tests/testing/userinput.h"
@@ -112,6 +113,10 @@ TEST_F(LayoutsTest, NothingStandsOutsideOrAcrossAnother) {
     frmHistory history(log, {});
     history.Load();
     CheckSizes(history, "history");
+    const ProfileVersions kept(Scratch(), entry.note.profile);
+    frmVersions versions(entry.note.profile, kept, {});
+    versions.Load();
+    CheckSizes(versions, "earlier versions");
     frmCompare compare({"Profile", "Game now", "Saved file"},
                        [&] {
                            return CompareSides{{"", program_.profile, {}}};
