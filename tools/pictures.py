@@ -15,7 +15,7 @@ import pytest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "tests/journeys"))
 import player as at  # noqa: E402  (found by the line above)
-from conftest import desk, whole_desk  # noqa: E402,F401  (fixtures)
+from conftest import GAME_KEY, desk, whole_desk  # noqa: E402,F401  (fixtures)
 from machine import ROOT, wait_for  # noqa: E402
 from player import PAGES, Player  # noqa: E402
 from test_log_editor import LogEditor  # noqa: E402
@@ -78,7 +78,7 @@ def test_pages_and_dialogs(desk, camera):
         main.turn_to(page)
         camera([main.window()], page.lower().replace(" ", "-"))
     main.turn_to("Identity")
-    for heading, name in (("f", "menu-file"), ("h", "menu-help")):
+    for heading, name in (("f", "menu-file"), ("p", "menu-profiles"), ("h", "menu-help")):
         main.keys(f"alt+{heading}", "Down")
         camera([main.window(), *menu_of(desk)], name)
         main.keys("Escape", "Escape")
@@ -113,6 +113,39 @@ def test_pages_and_dialogs(desk, camera):
     menu = menu_of(desk)
     main.point(640, 400)  # away from the icon, whose tool tip would lie over the menu
     camera(menu, "tray-menu")
+
+
+def test_the_way_back(desk, camera):
+    main = at.start(desk)
+    quirn = main.quirn
+    main.open(r"C:\SubSpace\Profiles\LEAGUE.QRN")
+    main.open(r"C:\SubSpace\Profiles\DUEL.QRN")
+    main.keys("ctrl+t")
+    main.expect_status("Profile has been transferred")
+    desk.machine.import_registry("REGEDIT4\n\n[" + GAME_KEY + "\\Options]\n\"MusicVolume\"=dword:4d\n")
+    main.replace(main.beside("Pilot Name :"), "Vex")
+    main.keys("ctrl+s")
+    main.expect_status("File has been saved")
+    main.front()
+    wait_for(lambda: [c for c in main.controls() if c["caption"] == "Keep them..."], what="the notice")
+    camera([main.window()], "notice")
+    main.keys("ctrl+d")
+    compare = dialog_of(quirn, camera, "Compare - DUEL.QRN", "compare")
+    desk.user.ask("place", compare.handle, 4, 24, 100, 100)
+    camera([compare.window()], "compare-smallest")
+    leave(compare)
+    main.keys("ctrl+shift+z")
+    undo = dialog_of(quirn, camera, "Undo Last Transfer", "undo")
+    undo.keys("alt+s")
+    leave(dialog_of(quirn, camera, "Compare - Before", "compare-transfer"))
+    for keys, caption, name in ((("alt+p", "h"), "Transfer History", "history"),
+                                (("alt+p", "e"), "Earlier Versions", "versions")):
+        main.keys(*keys)
+        dialog = dialog_of(quirn, camera, caption, name)
+        dialog.keys("Down")
+        desk.user.ask("place", dialog.handle, 4, 24, 100, 100)
+        camera([dialog.window()], name + "-smallest")
+        leave(dialog)
 
 
 def test_log_editor(desk, camera):
