@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <iterator>
 
+#include "mainwin/keptplace.h"
 #include "platform/clipboard.h"
 #include "platform/dialogs.h"
 #include "platform/measures.h"
-#include "platform/settings.h"
 
 namespace quirn {
 
@@ -34,7 +34,7 @@ constexpr Bounds kClose{   9660, 6150,  1380, kButtonHeight};
 constexpr int kDeedStep = 1770;
 
 enum Column { kSetting, kPage, kFirstSide };
-constexpr int kLeastColumn = 300;
+constexpr char kName[] = "Compare";
 constexpr int kSettingWidth = 2700;
 constexpr int kPageWidth = 1500;
 constexpr int kSideWidth = 2000;
@@ -56,14 +56,6 @@ std::deque<Button> ButtonsFor(Form& form, const std::vector<CompareDeed>& deeds)
 std::string Heading(size_t differing, size_t all) {
     return std::to_string(differing) + " of " + std::to_string(all) + " settings " +
            (differing == 1 ? "differs" : "differ") + ". Tick those that you want to copy.";
-}
-
-std::string ColumnKey(size_t column) {
-    return "CompareColumn" + std::to_string(column);
-}
-
-void Write(const std::string& key, int number) {
-    SaveSetting(kSettings, key, std::to_string(number));
 }
 
 auto FindIn(const CompareRows& rows, const CompareRow& row) {
@@ -142,25 +134,12 @@ void frmCompare::Form_Load() {
     ticked_.clear();
     chkSame.SetValue(0);
     txtFind.SetText("");
-    Bounds place = Place();
-    place.width = GetNumberSetting(kSettings, "CompareWidth", 0);
-    place.height = GetNumberSetting(kSettings, "CompareHeight", 0);
-    place.left = GetNumberSetting(kSettings, "CompareLeft", 0);
-    place.top = GetNumberSetting(kSettings, "CompareTop", 0);
-    if (place.width > 0 && place.height > 0) Move(place);
-    for (size_t i = 0; i < tblRows.Columns().size(); ++i) {
-        const int width = GetNumberSetting(kSettings, ColumnKey(i), tblRows.Columns()[i].width);
-        tblRows.SetColumnWidth(static_cast<int>(i), std::clamp(width, kLeastColumn, kWidth));
-    }
+    RestorePlace(*this, tblRows, kName);
     onResize();
 }
 
 bool frmCompare::Form_Unload() {
-    Write("CompareLeft", NormalPlace().left);
-    Write("CompareTop", NormalPlace().top);
-    Write("CompareWidth", NormalPlace().width);
-    Write("CompareHeight", NormalPlace().height);
-    for (size_t i = 0; i < tblRows.Columns().size(); ++i) Write(ColumnKey(i), tblRows.Columns()[i].width);
+    StorePlace(*this, tblRows, kName);
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include "mainwin/frmundo.h"
 #include "mainwin/frmversions.h"
 #include "mainwin/transferwords.h"
+#include "mainwin/windowsides.h"
 #include "platform/dialogs.h"
 #include "platform/folders.h"
 #include "platform/text.h"
@@ -34,7 +35,8 @@ ProfilesCommands::ProfilesCommands(Form& mainWindow, Program& program, Launcher&
                           [this](auto& entry, auto& part) {
                               PutBack(TransferLog(program_.dataFolder), entry, part, TransferWay::PutBack);
                           }),
-      versionComparison_(mainWindow, program, view_) {
+      versionComparison_(mainWindow, program, view_, "Version", "File now",
+                         [this] { return FileSide({}, program_.CurrentFile); }) {
     lookTimer_.SetInterval(kSoon);
     lookTimer_.onTimer = [this] {
         lookTimer_.SetEnabled(false);
@@ -77,7 +79,7 @@ void ProfilesCommands::mnuProfiles_Versions_Click() {
     const ProfileVersions versions(program_.dataFolder, program_.CurrentFile);
     frmVersions dialog(program_.CurrentFile, versions, view_.PutBackVersion);
     const std::optional<ProfileVersion> shown = dialog.Ask(mainWindow_);
-    if (shown) versionComparison_.Open(*shown);
+    if (shown) versionComparison_.Open(shown->file);
 }
 
 void ProfilesCommands::PutBackWhole(const TransferLog& log, const TransferEntry& entry) {

@@ -2,13 +2,13 @@
 
 #include <string>
 
+#include "mainwin/filecomparison.h"
 #include "mainwin/gamecomparison.h"
 #include "mainwin/launcher.h"
 #include "mainwin/noticebar.h"
 #include "mainwin/profilesview.h"
 #include "mainwin/program.h"
 #include "mainwin/transfercomparison.h"
-#include "mainwin/versioncomparison.h"
 #include "platform/form.h"
 
 namespace quirn {
@@ -48,7 +48,7 @@ private:
     ProfilesView view_;
     GameComparison comparison_;
     TransferComparison transferComparison_;
-    VersionComparison versionComparison_;
+    FileComparison versionComparison_;
     std::string firstGameFolder_;  // which the profile in the window was read from
     Timer lookTimer_;
 };
