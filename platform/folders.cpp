@@ -1,14 +1,31 @@
 #include "platform/folders.h"
 
+#include <algorithm>
+
+#include "platform/text.h"
+
 namespace quirn {
 
 std::string NewPathByTime(const std::string& folder, const std::string& time, const std::string& ending) {
+    std::string newest = time;
+    int number = 0;  // of the last that has this time
+    const Result<std::vector<FolderEntry>> entries = ListFolder(folder);
+    if (!entries.Failed()) {
+        for (const FolderEntry& entry : entries.Value()) {
+            if (entry.name.size() < time.size() || entry.name[0] < '0' || entry.name[0] > '9') continue;
+            const std::string itsTime = entry.name.substr(0, time.size());
+            if (itsTime > newest) number = 0;
+            newest = std::max(newest, itsTime);
+            if (itsTime != newest) continue;
+            number = std::max({number, 1, ToInteger(entry.name.substr(time.size())).value_or(1)});
+        }
+    }
     std::string path = folder + "\\";
-    path += time;
-    const size_t end = path.size();
-    for (int i = 2; FindEntry(path + ending); ++i) {
-        path.resize(end);
-        path += (i < 10 ? " 0" : " ") + std::to_string(i);
+    path += newest;
+    if (number > 0) {
+        constexpr size_t kDigits = 4;
+        const std::string digits = std::to_string(number + 1);
+        path += " " + std::string(kDigits - std::min(kDigits, digits.size()), '0') + digits;
     }
     return path + ending;
 }

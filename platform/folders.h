@@ -35,8 +35,8 @@ Failure RenameFolder(const std::string& from, const std::string& to);
 // True for a folder on a disk of this machine. No network and no empty drive is asked.
 bool IsOnLocalDisk(const std::string& folder);
 
-// A path in the folder that nothing has yet, for what is kept by its time: two of one second get a number, which sorts
-// behind the first.
+// A path in the folder that nothing has yet, for what is kept by its time. It sorts behind all others: one of the same
+// second gets a number, and so does one after the clock was set back, which then has the newest one's time.
 std::string NewPathByTime(const std::string& folder, const std::string& time, const std::string& ending);
 
 // Where programs keep what belongs to this player on this machine, without a trailing "\"; empty when the system has no

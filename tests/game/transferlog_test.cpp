@@ -99,7 +99,7 @@ TEST_F(TransferLogTest, ATransferThatWasCutOffGoesBackWhole) {
     ASSERT_FALSE(log_.Begin(entry, found, plan).Failed());  // in the same second
     WriteGameState({{{"Messages", plan.settings.at("Messages")}}, {{"record0.wav", "pi"}}}, game_);
     EXPECT_FALSE(log_.Last()->finished);
-    EXPECT_EQ(log_.Last()->time, entry.time + " 02");
+    EXPECT_EQ(log_.Last()->time, entry.time + " 0002");
     const Undo undo = PlanUndo(log_, *log_.Last()).Take();
     EXPECT_TRUE(undo.changedSince.IsEmpty());
     PutIntoGame(undo.back, game_, log_, {"", TransferWay::Undo});
