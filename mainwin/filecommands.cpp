@@ -66,7 +66,13 @@ void FileCommands::mnuFile_Open_Click() {
 
 void FileCommands::OpenDropped(const std::string& path) {
     // Not as Open: whatever was dropped by mistake must survive the next Save.
-    if (MayDiscard() && OpenProfile(path)) program_.CurrentFile = path;
+    if (MayDiscard()) OpenAsCurrent(path);
+}
+
+bool FileCommands::OpenAsCurrent(const std::string& path) {
+    const bool loaded = OpenProfile(path);
+    if (loaded) program_.CurrentFile = path;
+    return loaded;
 }
 
 bool FileCommands::OpenProfile(const std::string& path) {
@@ -157,24 +163,34 @@ void FileCommands::mnuFile_Import_Click() {
     view_.SetStatus(kImported);
 }
 
+// The version is read and the file is named before the question about edits: saving those may push the version out, or
+// make another file the current one. When the file stays as it is, so do edits that were to be given up.
 bool FileCommands::PutBackVersion(const ProfileVersion& version) {
-    if (!MayDiscard()) return false;
     const std::string path = program_.CurrentFile;
+    const bool wasDirty = program_.dirty;
+    const Result<std::string> bytes = ReadWholeFile(version.file);
+    if (bytes.Failed()) ShowError(bytes.Error());
+    if (bytes.Failed() || !MayDiscard()) return false;
+    const bool done = ReplaceByVersion(path, version, bytes.Value()) && OpenAsCurrent(path);
+    if (!done) program_.dirty = wasDirty;
+    return done;
+}
+
+bool FileCommands::ReplaceByVersion(const std::string& path, const ProfileVersion& version, const std::string& bytes) {
     if (ShowMessage("Make " + path + " what it was before it was replaced (" +
                         TimeInWords(version.time, SortableTime()) + ")? What it holds now becomes a version.",
                     kOkCancel + kQuestion) != Answer::Ok)
         return false;
     const ProfileVersions versions(program_.dataFolder, path);
-    const Result<std::string> bytes = ReadWholeFile(version.file);
-    const Result<std::string> kept = bytes.Failed() ? bytes : versions.KeepPresent();
+    const Result<std::string> kept = versions.KeepPresent();
     if (kept.Failed()) {
         ShowError(kept.Error());
         return false;
     }
-    const Failure failure = WriteWholeFile(path, bytes.Value());
+    const Failure failure = WriteWholeFile(path, bytes);
     versions.Settle(kept.Value());
     ShowError(failure);
-    return !failure && OpenProfile(path);
+    return !failure;
 }
 
 void FileCommands::AddToRecentFiles(const std::string& path) {

@@ -46,6 +46,8 @@ private:
     bool Save(const std::string& path);
     bool MayDiscard() { return !program_.dirty || AskSaveChanges(); }
     bool OpenProfile(const std::string& path);
+    bool OpenAsCurrent(const std::string& path);
+    bool ReplaceByVersion(const std::string& path, const ProfileVersion& version, const std::string& bytes);  // asks
     void AddToRecentFiles(const std::string& path);
     void ShowTitle(const std::string& file);
 

@@ -290,6 +290,24 @@ TEST_F(FileCommandsTest, WhatASaveReplacedIsPutBack) {
     EXPECT_EQ(title_, "QUIRN v1.61 - old.qrn");
     EXPECT_EQ(versions.List().size(), 2u);
 
+    // Edits that are saved into another file first stay in that one; those that are not stay in the window on failure.
+    const std::string question = "Make " + old_ + " what it was before it was replaced (" +
+                                 TimeInWords(version.time, SortableTime()) + ")? What it holds now becomes a version.";
+    pilot_ = "Edited";
+    program_.dirty = true;
+    ExpectQuestion(Answer::Yes);
+    ExpectSaveFile("Save As", new_);
+    ExpectMessage(question, kOkCancel + kQuestion);
+    EXPECT_TRUE(commands_.PutBackVersion(version));
+    EXPECT_EQ(PilotIn(new_), "Edited");
+    EXPECT_EQ(program_.CurrentFile, old_);
+    program_.dirty = true;
+    ExpectQuestion(Answer::No);
+    ExpectMessage(question, kOkCancel + kQuestion, Answer::Cancel);
+    EXPECT_FALSE(commands_.PutBackVersion(version));
+    EXPECT_TRUE(program_.dirty);
+    program_.dirty = false;
+
     PutFile(Scratch() + "\\full", "");
     program_.dataFolder = Scratch() + "\\full";
     commands_.mnuFile_Save_Click();
