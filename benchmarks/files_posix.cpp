@@ -74,7 +74,7 @@ Failure FileReplacer::Write(std::string_view bytes) {
     return {};
 }
 
-Failure FileReplacer::Finish() {
+Failure FileReplacer::Finish(Flush) {
     if (fsync(Descriptor(handle_)) != 0) return LastError();
     if (rename(unfinished_.c_str(), path_.c_str()) != 0) return LastError();
     path_.clear();
