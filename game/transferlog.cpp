@@ -118,7 +118,7 @@ Failure RemoveAll(const std::string& folder) {
 
 Failure RemoveEntry(const std::string& folder) {
     // First it stops being an entry: what cannot be removed now is swept later.
-    if (Failure failure = RenameFolder(folder, folder + kNew)) return failure;
+    if (Failure failure = RenameEntry(folder, folder + kNew)) return failure;
     return RemoveAll(folder + kNew);
 }
 
@@ -208,7 +208,7 @@ Result<std::string> TransferLog::Begin(const TransferEntry& entry, const GameSta
 
     const std::string folder = NewPathByTime(folder_, entry.time, "");
     Failure failure = WriteEntry(folder + kNew, IniText(info), before, after);
-    if (!failure) failure = RenameFolder(folder + kNew, folder);
+    if (!failure) failure = RenameEntry(folder + kNew, folder);
     if (!failure) return folder;
     RemoveAll(folder + kNew);
     return *failure;

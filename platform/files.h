@@ -93,6 +93,9 @@ bool DiskIsFull(const std::string& path, size_t bytes);
 // The path from the drive on, "." and ".." resolved; the path as it is when the system cannot tell.
 std::string AbsolutePath(const std::string& path);
 
+// The path in the short names that the system keeps of long ones, which have no spaces; empty when it keeps none.
+std::string ShortPath(const std::string& path);
+
 // The folder that the program was started from, without a trailing "\" (except a drive's root).
 std::string ProgramFolder();
 

@@ -29,8 +29,8 @@ Failure MakeFolders(const std::string& folder);
 // Removes an empty folder.
 Failure RemoveFolder(const std::string& folder);
 
-// Gives a folder another name or place on the same disk. The new one must not be there yet.
-Failure RenameFolder(const std::string& from, const std::string& to);
+// Gives a file or folder another name or place on the same disk. The new one must not be there yet.
+Failure RenameEntry(const std::string& from, const std::string& to);
 
 // True for a folder on a disk of this machine. No network and no empty drive is asked.
 bool IsOnLocalDisk(const std::string& folder);

@@ -247,4 +247,8 @@ std::string ProgramFolder() {
     return TheWorld().programFolder;
 }
 
+std::string ShortPath(const std::string& path) {
+    return path.find(' ') == std::string::npos ? path : std::string();
+}
+
 }  // namespace quirn

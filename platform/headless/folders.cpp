@@ -65,10 +65,13 @@ Failure RemoveFolder(const std::string& folder) {
     return {};
 }
 
-Failure RenameFolder(const std::string& from, const std::string& to) {
+Failure RenameEntry(const std::string& from, const std::string& to) {
     const std::string source = KeyOf(from);
     const std::string target = KeyOf(to);
-    if (!FolderExists(from) || !FolderExists(FolderOf(target))) return MakeError(ErrorNumber::PathNotFound);
+    const headless::File* const renamed = headless::FindFile(from);
+    if (renamed != nullptr && renamed->holders > 0) return MakeError(ErrorNumber::PermissionDenied);
+    if ((!FolderExists(from) && renamed == nullptr) || !FolderExists(FolderOf(target)))
+        return MakeError(ErrorNumber::PathNotFound);
     if (FolderExists(to) || headless::FindFile(to) != nullptr) return MakeError(ErrorNumber::PathFileAccess);
     const auto folders = TheWorld().folders;
     for (const std::string& path : folders) {

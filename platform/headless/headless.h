@@ -80,9 +80,10 @@ struct World {
     std::string clipboard;
     bool clipboardIsHeld = false;  // by another program
 
-    std::vector<std::string> openedTargets;   // by their registered programs
-    std::vector<std::string> shownHelp;       // help files
-    std::optional<ErrorNumber> shellFailure;  // of both
+    std::vector<std::string> openedTargets;                       // by their registered programs
+    std::map<std::string, std::string, LessNoCase> desktopLinks;  // arguments of this program by name
+    std::vector<std::string> shownHelp;                           // help files
+    std::optional<ErrorNumber> shellFailure;                      // of both
     std::vector<TrayIcon*> trayIcons;
     std::vector<PoppedUpMenu> poppedUpMenus;  // a test chooses with UserChooses afterwards
 

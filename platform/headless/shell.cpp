@@ -1,5 +1,6 @@
 #include "platform/shell.h"
 
+#include "platform/files.h"
 #include "platform/headless/headless.h"
 
 namespace quirn {
@@ -11,6 +12,23 @@ Failure OpenWithRegisteredProgram(Form&, const std::string& target) {
     if (TheWorld().shellFailure) return MakeError(*TheWorld().shellFailure);
     if (isPath && headless::FindFile(target) == nullptr) return MakeError(ErrorNumber::FileNotFound);
     TheWorld().openedTargets.push_back(target);
+    return {};
+}
+
+Failure ShowInFolder(Form&, const std::string& path) {
+    if (TheWorld().shellFailure) return MakeError(*TheWorld().shellFailure);
+    TheWorld().openedTargets.push_back("folder of " + path);
+    return {};
+}
+
+Failure MoveToRecycleBin(Form&, const std::string& path) {
+    if (TheWorld().shellFailure) return MakeError(*TheWorld().shellFailure);
+    return RemoveFile(path) ? Failure() : MakeError(ErrorNumber::PathFileAccess);
+}
+
+Failure MakeDesktopLink(const std::string& name, const std::string& arguments) {
+    if (TheWorld().shellFailure) return MakeError(*TheWorld().shellFailure);
+    TheWorld().desktopLinks[name] = arguments;
     return {};
 }
 

@@ -7,9 +7,9 @@
 
 namespace quirn {
 
-std::string ShortDateAndTime() {
-    SYSTEMTIME now{};
-    GetLocalTime(&now);
+namespace {
+
+std::string InShortFormats(const SYSTEMTIME& now) {
     std::array<char, 128> date{};
     std::array<char, 128> time{};
     GetDateFormatA(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &now, nullptr, date.data(), static_cast<int>(date.size()));
@@ -19,6 +19,24 @@ std::string ShortDateAndTime() {
         GetTimeFormatA(LOCALE_USER_DEFAULT, 0, &now, format.data(), time.data(), static_cast<int>(time.size()));
     else GetTimeFormatA(LOCALE_USER_DEFAULT, TIME_NOSECONDS, &now, nullptr, time.data(), static_cast<int>(time.size()));
     return std::string(date.data()) + " " + time.data();
+}
+
+}  // namespace
+
+std::string ShortDateAndTime() {
+    SYSTEMTIME now{};
+    GetLocalTime(&now);
+    return InShortFormats(now);
+}
+
+std::string ShortDateAndTimeOf(uint64_t writtenLast) {
+    const FILETIME written{static_cast<DWORD>(writtenLast), static_cast<DWORD>(writtenLast >> 32)};
+    SYSTEMTIME universal{};
+    SYSTEMTIME local{};
+    if (writtenLast == 0 || !FileTimeToSystemTime(&written, &universal) ||
+        !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local))
+        return {};
+    return InShortFormats(local);
 }
 
 std::string SortableTime() {

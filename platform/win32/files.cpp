@@ -215,6 +215,13 @@ bool DiskIsFull(const std::string& path, size_t bytes) {
     return GetDiskFreeSpaceExA(folder.c_str(), &room, &total, nullptr) && total.QuadPart > 0 && room.QuadPart < bytes;
 }
 
+std::string ShortPath(const std::string& path) {
+    std::string whole(kLongestPath, '\0');
+    const DWORD length = GetShortPathNameA(path.c_str(), whole.data(), kLongestPath);
+    whole.resize(length < kLongestPath ? length : 0);
+    return whole;
+}
+
 std::string AbsolutePath(const std::string& path) {
     std::string whole(kLongestPath, '\0');
     const DWORD length = GetFullPathNameA(path.c_str(), kLongestPath, whole.data(), nullptr);

@@ -62,7 +62,7 @@ Failure RemoveFolder(const std::string& folder) {
     return {};
 }
 
-Failure RenameFolder(const std::string& from, const std::string& to) {
+Failure RenameEntry(const std::string& from, const std::string& to) {
     if (!MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH)) return LastError();
     return {};
 }

@@ -162,8 +162,8 @@ TEST_F(FilesTest, MakesListsMovesAndRemovesFolders) {
     EXPECT_EQ(NumberOf(MakeFolders(inner + "\\file\\d")), 75);
     EXPECT_EQ(NumberOf(RemoveFolder(inner)), 75);
     EXPECT_FALSE(MakeFolders(In("z")));
-    EXPECT_EQ(NumberOf(RenameFolder(In("a"), In("z"))), 75);
-    EXPECT_FALSE(RenameFolder(In("a"), In("z\\y")));
+    EXPECT_EQ(NumberOf(RenameEntry(In("a"), In("z"))), 75);
+    EXPECT_FALSE(RenameEntry(In("a"), In("z\\y")));
     EXPECT_FALSE(FolderExists(In("a")));
     const std::string moved = In("z\\y\\b\\c");
     const std::vector<FolderEntry> files = ListFolder(moved).Value();
