@@ -83,6 +83,10 @@ void ProfileVersions::Settle(const std::string& version) const {
     for (size_t i = kKept; i < versions.size(); ++i) RemoveFile(versions[i].file);
 }
 
+void ProfileVersions::MoveTo(const ProfileVersions& other) const {
+    if (!folder_.empty()) RenameEntry(folder_, other.folder_);
+}
+
 Failure ProfileVersions::ForgetAll() const {
     Failure first;
     for (const ProfileVersion& version : List())

@@ -33,6 +33,7 @@ public:
     void Settle(const std::string& version) const;
 
     Failure ForgetAll() const;
+    void MoveTo(const ProfileVersions& other) const;  // the file has got that name; as far as that has none yet
 
 private:
     std::string path_;
