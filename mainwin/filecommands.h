@@ -38,9 +38,9 @@ public:
     void mnuFileMRU_Click(size_t index);
     void mnuFile_Import_Click();
 
-    // Makes the current file what an earlier version of it was, after a question, and opens it. What it holds now
-    // becomes a version. True when it has been done.
-    bool PutBackVersion(const ProfileVersion& version);
+    // Makes a file what an earlier version of it was, after a question, and opens it when it is the current one. What
+    // it holds now becomes a version. True when it has been done.
+    bool PutBackVersion(const std::string& path, const ProfileVersion& version);
 
 private:
     bool Save(const std::string& path);

@@ -86,14 +86,23 @@ frmMain::frmMain(Program& program)
       picker_(*this, SSTab1, edited_),
       StatusBar1(*this),
       anchors_(kInnerWidth, kInnerHeight),
-      profilesCommands_(*this, program, launcher_, noticeBar_,
-                        {
-                            .CollectProfile = [this] { CollectProfile(); },
-                            .ShowProfile = [this] { ShowProfile(); },
-                            .SetStatus = [this](const std::string& text) { StatusBar1.SetText(text); },
-                            .PutBackVersion = [this](auto& version) { return fileCommands_.PutBackVersion(version); },
-                            .ShowKeepRow = [this](bool some) { trayCommands_.ShowKeepRow(some); },
-                        }) {
+      profilesCommands_(
+          *this, program, launcher_, noticeBar_,
+          {
+              .CollectProfile = [this] { CollectProfile(); },
+              .ShowProfile = [this] { ShowProfile(); },
+              .SetStatus = [this](const std::string& text) { StatusBar1.SetText(text); },
+              .PutBackVersion = [this](auto& path,
+                                       auto& version) { return fileCommands_.PutBackVersion(path, version); },
+              .Open = [this](auto& path) { fileCommands_.OpenDropped(path); },
+              .Play = [this](auto& path) { trayCommands_.Play(path); },
+              .RefreshMenus =
+                  [this] {
+                      RefreshRecentMenu(menuBar_, program_.recentFiles);
+                      trayCommands_.BuildFavouritesMenu();
+                  },
+              .ShowKeepRow = [this](bool some) { trayCommands_.ShowKeepRow(some); },
+          }) {
     anchors_.Add(SSTab1, Anchor::Center, Anchor::Stay).Add(Command3, Anchor::Center, Anchor::Center);
     for (Control* control : noticeBar_.Controls()) anchors_.Add(*control, Anchor::Center, Anchor::Center);
     for (CheckBox& box : optionsPage_.Boxes()) chkSettings.push_back(&box);

@@ -46,6 +46,8 @@ std::vector<MenuRow> frmMain::MenuRows() {
             [this] { mnuLog_Click(); }},
 
         {mnuProfiles, 0, "&Profiles"},
+        {mnuProfiles_Library, 1, "Profile &Library...", "Ctrl+L", "View, play and sort all profiles",
+            [this] { profilesCommands_.mnuProfiles_Library_Click(); }},
         {mnuProfiles_Compare, 1, "Compare With &Game...", "Ctrl+D", "Compare the profile, the game and the saved file",
             [this] { profilesCommands_.mnuProfiles_Compare_Click(); }, [this] { return profilesCommands_.HasGameFolder(); }},
         {mnuProfiles_Transfer, 1, "&Transfer Without Running", "Ctrl+T",

@@ -41,6 +41,7 @@ enum MainCommand : int {
     mnuProfiles_Compare,
     mnuProfilesBarVersions,
     mnuProfiles_Versions,
+    mnuProfiles_Library,
 };
 static_assert(mnuFile_Print == 9 && mnuFile_Close == 17 && mnuOptions_Set == 20 && mnuHelp_About == 29);
 

@@ -36,7 +36,9 @@ ProfilesCommands::ProfilesCommands(Form& mainWindow, Program& program, Launcher&
                               PutBack(TransferLog(program_.dataFolder), entry, part, TransferWay::PutBack);
                           }),
       versionComparison_(mainWindow, program, view_, "Version", "File now",
-                         [this] { return FileSide({}, program_.CurrentFile); }) {
+                         [this] { return FileSide({}, versionsOf_); }),
+      library_(mainWindow, program, view_,
+               {view_.Open, view_.Play, [this](auto& path) { ShowVersions(path); }, view_.RefreshMenus}) {
     lookTimer_.SetInterval(kSoon);
     lookTimer_.onTimer = [this] {
         lookTimer_.SetEnabled(false);
@@ -75,11 +77,15 @@ void ProfilesCommands::mnuProfiles_History_Click() {
     LookSoon();
 }
 
-void ProfilesCommands::mnuProfiles_Versions_Click() {
-    const ProfileVersions versions(program_.dataFolder, program_.CurrentFile);
-    frmVersions dialog(program_.CurrentFile, versions, view_.PutBackVersion);
+void ProfilesCommands::ShowVersions(const std::string& path) {
+    const std::string file = path;  // it may be the current file's own name
+    const ProfileVersions versions(program_.dataFolder, file);
+    frmVersions dialog(file, versions, [&](auto& version) { return view_.PutBackVersion(file, version); });
     const std::optional<ProfileVersion> shown = dialog.Ask(mainWindow_);
-    if (shown) versionComparison_.Open(shown->file);
+    library_.Refresh();
+    if (!shown) return;
+    versionsOf_ = file;
+    versionComparison_.Open(shown->file);
 }
 
 void ProfilesCommands::PutBackWhole(const TransferLog& log, const TransferEntry& entry) {
@@ -134,6 +140,7 @@ void ProfilesCommands::FollowNotice(Notice::Action action) {
 void ProfilesCommands::CloseWindows() {
     comparison_.Close();
     transferComparison_.Close();
+    library_.Close();
     versionComparison_.Close();
 }
 
@@ -150,6 +157,7 @@ void ProfilesCommands::Look() {
     if (!mainWindow_.Visible()) CloseWindows();
     comparison_.ShowWhatCanBeDone();
     transferComparison_.ShowWhatCanBeDone();
+    library_.ShowWhatCanBeDone();
     versionComparison_.ShowWhatCanBeDone();
     view_.ShowKeepRow(facts.changes > 0 || facts.filesChanged);
 }

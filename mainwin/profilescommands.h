@@ -6,6 +6,7 @@
 #include "mainwin/gamecomparison.h"
 #include "mainwin/launcher.h"
 #include "mainwin/noticebar.h"
+#include "mainwin/profilelibrary.h"
 #include "mainwin/profilesview.h"
 #include "mainwin/program.h"
 #include "mainwin/transfercomparison.h"
@@ -18,11 +19,12 @@ class ProfilesCommands {
 public:
     ProfilesCommands(Form& mainWindow, Program& program, Launcher& launcher, NoticeBar& notices, ProfilesView view);
 
+    void mnuProfiles_Library_Click() { library_.Open(); }
     void mnuProfiles_Compare_Click() { comparison_.Open(); }
     void mnuProfiles_Transfer_Click();
     void mnuProfiles_Undo_Click();
     void mnuProfiles_History_Click();
-    void mnuProfiles_Versions_Click();
+    void mnuProfiles_Versions_Click() { ShowVersions(program_.CurrentFile); }
 
     bool HasGameFolder() const;
     bool HasTransfer() const;
@@ -37,6 +39,7 @@ public:
 
 private:
     void PutBack(const TransferLog& log, const TransferEntry& entry, const GameState& state, TransferWay way);
+    void ShowVersions(const std::string& path);
     void PutBackWhole(const TransferLog& log, const TransferEntry& entry);
     bool MayWriteNow() const;
     NoticeFacts Facts() const;
@@ -48,7 +51,9 @@ private:
     ProfilesView view_;
     GameComparison comparison_;
     TransferComparison transferComparison_;
+    std::string versionsOf_;  // whose versions were shown last
     FileComparison versionComparison_;
+    ProfileLibrary library_;
     std::string firstGameFolder_;  // which the profile in the window was read from
     Timer lookTimer_;
 };

@@ -50,11 +50,14 @@ void TrayCommands::mnuPUTrayIcon_Fav_Click(size_t slot) {
         onFillFavourite();
         return;
     }
-    // Played without touching what the window shows: its profile may have edits that are not saved.
+    Play(favourite.path);
+}
+
+void TrayCommands::Play(const std::string& path) {
     Profile profile = program_.profile;
-    if (!LoadProfileAndTell(profile, favourite.path)) return;
+    if (!LoadProfileAndTell(profile, path)) return;
     mainWindow_.Hide();
-    launcher_.TransferAndLaunch(profile, {favourite.path, TransferWay::Tray});
+    launcher_.TransferAndLaunch(profile, {path, TransferWay::Tray});
 }
 
 void TrayCommands::mnuPUTrayIcon_Exit_Click() {

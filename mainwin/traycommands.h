@@ -21,6 +21,9 @@ public:
     // Gives the favourites' items their names.
     void BuildFavouritesMenu();
 
+    // Plays a profile without touching what the window shows: that may have edits that are not saved.
+    void Play(const std::string& path);
+
     void ShowKeepRow(bool some) { mnuPUTrayIcon.SetVisible(mnuPUTrayIcon_Keep, some); }
 
     std::function<void()> onKeepChanges;    // the game's changes are to be kept; the main window is shown

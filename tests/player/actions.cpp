@@ -107,6 +107,9 @@ void Player::AnswerDialog() {
 
 void Player::UseForm(Form& form) {
     const size_t kind = random_.Below(20);
+    // It opens, plays, renames and deletes any profile.
+    if (form.Caption().starts_with("Profile Library"))
+        for (const auto what : {Allowed::Load, Allowed::Transfer, Allowed::Library}) Allow(what);
     if (kind < 2) PressKey(form);
     else if (kind < 3 || form.IsMinimized()) UseWindow(form);
     else if (kind < 4 && form.onDropFile) Drop(form);

@@ -136,6 +136,7 @@ bool Player::MayChange(const std::string& path) const {
     const PathParts parts = SplitPath(path);
     if (FoldCase(path).starts_with(FoldCase(LocalDataFolder()))) return true;  // what the program keeps of its own
     return std::any_of(allowed_.begin(), allowed_.end(), [&](const Allowed& allowed) {
+        if (allowed.what == Allowed::Library && FoldCase(path).starts_with(FoldCase(program_.qrnFolder))) return true;
         if (allowed.what == Allowed::Save)
             return SamePath(path, allowed.path) ||
                    SamePath(path, program_.gameFolder + "\\" + SplitPath(allowed.path).name + ".ssm");

@@ -43,7 +43,7 @@ public:
 private:
     // What an action may bring about, until it has ended with all that happened inside it.
     struct Allowed {
-        enum What { Edit, Save, Transfer, Load } what;
+        enum What { Edit, Save, Transfer, Load, Library } what;
         std::string path;
     };
     struct OpenDialog {

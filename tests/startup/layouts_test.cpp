@@ -9,8 +9,10 @@
 #include "mainwin/frmcompare.h"
 #include "mainwin/frmconfig.h"
 #include "mainwin/frmhistory.h"
+#include "mainwin/frmlibrary.h"
 #include "mainwin/frmmain.h"
 #include "mainwin/frmoptions.h"
+#include "mainwin/frmrename.h"
 #include "mainwin/frmrunbox.h"
 #include "mainwin/frmundo.h"
 #include "mainwin/frmversions.h"
@@ -117,6 +119,12 @@ TEST_F(LayoutsTest, NothingStandsOutsideOrAcrossAnother) {
     frmVersions versions(entry.note.profile, kept, {});
     versions.Load();
     CheckSizes(versions, "earlier versions");
+    frmRename rename("DUEL.QRN");
+    rename.Load();
+    Check(rename, "rename");
+    frmLibrary library({});
+    library.Load();
+    CheckSizes(library, "library");
     frmCompare compare({"Profile", "Game now", "Saved file"},
                        [&] {
                            return CompareSides{{"", program_.profile, {}}};
