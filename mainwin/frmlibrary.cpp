@@ -59,7 +59,7 @@ frmLibrary::frmLibrary(LibraryDeeds deeds)
       txtFind(*this, kText),
       tblProfiles(*this, kTable, "Profiles",
                   {{"Name", 2100},
-                   {"Game", 600},
+                   {"In Game", 900},
                    {"Pilot", 1700},
                    {"Zone", 1800},
                    {"Ship", 1200},
@@ -133,8 +133,9 @@ std::vector<MenuRow> frmLibrary::MoreRows() {
     return rows;
 }
 
-void frmLibrary::Open(Form& owner, const std::string& folder) {
+void frmLibrary::Open(Form& owner, const std::string& folder, const std::string& current) {
     Load();
+    wanted_ = current;
     SetCaption("Profile Library - " + folder);
     Refresh();
     if (Visible()) BringToFront();
@@ -194,6 +195,7 @@ void frmLibrary::ShowRows() {
     tblProfiles.SetRowCount(shown_.size());
     for (size_t i = 0; i < shown_.size(); ++i)
         if (EqualNoCase(rows_[shown_[i]].entry.path, wanted_)) tblProfiles.SetCurrent(i);
+    if (reader_.IsDone() && !tblProfiles.Current() && !shown_.empty()) tblProfiles.SetCurrent(0);
     tblProfiles.SetEmptyText(rows_.empty() ? "There is no profile here yet. File, Save As makes one."
                                            : "Nothing found.");
     lblCount.SetText(std::to_string(shown_.size()) + (shown_.size() == 1 ? " profile" : " profiles") +

@@ -29,7 +29,8 @@ class frmLibrary : public Form {
 public:
     explicit frmLibrary(LibraryDeeds deeds);
 
-    void Open(Form& owner, const std::string& folder);
+    // current: the profile that is at the keyboard first.
+    void Open(Form& owner, const std::string& folder, const std::string& current);
     void Refresh();  // reads everything anew; the current row stays as long as it is there
     void ShowWhatCanBeDone();
 

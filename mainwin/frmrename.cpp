@@ -31,7 +31,7 @@ frmRename::frmRename(const std::string& name)
     SetCaption("Rename");
     SetButtons(&cmdOk, &cmdCancel);
     txtName.SetText(name);
-    onLoad = [this] { txtName.SelectAll(); };
+    onActivate = [this] { txtName.SelectAll(); };
     cmdOk.onClick = [this] { cmdOk_Click(); };
     cmdCancel.onClick = [this] { Unload(); };
 }

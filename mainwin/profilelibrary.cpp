@@ -73,7 +73,7 @@ LibraryDeeds ProfileLibrary::Deeds() {
 }
 
 void ProfileLibrary::Open() {
-    window_.Open(mainWindow_, program_.qrnFolder);
+    window_.Open(mainWindow_, program_.qrnFolder, program_.CurrentFile);
 }
 
 void ProfileLibrary::Close() {

@@ -5,6 +5,7 @@
 #include <commctrl.h>  // needs windows.h first
 
 #include <algorithm>
+#include <array>
 
 #include "platform/win32/kind.h"
 #include "platform/win32/metrics.h"
@@ -174,10 +175,23 @@ LRESULT Draw(const Table& table, NMLVCUSTOMDRAW& drawn) {
     }
 }
 
-LRESULT Find(const Table& table, const NMLVFINDITEMA& wanted) {
-    if ((wanted.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0 || wanted.lvfi.psz == nullptr) return -1;
-    const auto found = table.FindRow(wanted.lvfi.psz, static_cast<size_t>(std::max(wanted.iStart, 0)));
+LRESULT Find(const Table& table, unsigned flags, const std::string& text, int start) {
+    if ((flags & (LVFI_STRING | LVFI_PARTIAL)) == 0) return -1;
+    const auto found = table.FindRow(text, static_cast<size_t>(std::max(start, 0)));
     return found ? static_cast<LRESULT>(*found) : -1;
+}
+
+LRESULT Find(const Table& table, const NMLVFINDITEMA& wanted) {
+    return wanted.lvfi.psz == nullptr ? -1 : Find(table, wanted.lvfi.flags, wanted.lvfi.psz, wanted.iStart);
+}
+
+// Wine asks for what is typed in this way also when the form wants the other.
+LRESULT Find(const Table& table, const NMLVFINDITEMW& wanted) {
+    std::array<char, 512> text{};
+    if (wanted.lvfi.psz == nullptr ||
+        WideCharToMultiByte(CP_ACP, 0, wanted.lvfi.psz, -1, text.data(), text.size(), nullptr, nullptr) == 0)
+        return -1;
+    return Find(table, wanted.lvfi.flags, text.data(), wanted.iStart);
 }
 
 void SelectionChanges(Table& table) {
@@ -194,6 +208,7 @@ std::optional<LRESULT> TableNotify(Table& table, const NMHDR& header) {
         case LVN_ITEMCHANGED:
         case LVN_ODSTATECHANGED: SelectionChanges(table); return 0;
         case LVN_ODFINDITEMA: return Find(table, reinterpret_cast<const NMLVFINDITEMA&>(header));
+        case LVN_ODFINDITEMW: return Find(table, reinterpret_cast<const NMLVFINDITEMW&>(header));
         case LVN_COLUMNCLICK: table.UserClicksHead(reinterpret_cast<const NMLISTVIEW&>(header).iSubItem); return 0;
         case NM_DBLCLK:
             if (reinterpret_cast<const NMITEMACTIVATE&>(header).iItem >= 0) table.UserActivates();
