@@ -71,9 +71,9 @@ void Store(const char* group, const char* name, DWORD type, const void* data, DW
     RegCloseKey(key);
 }
 
-// As a player changes them in the game, which writes its settings when it ends. Only with SUBSPACE_CHANGES.
+// As a player changes them in the game, which writes its settings when it ends. Only beside a file changes.txt.
 void ChangeSettings() {
-    if (!std::getenv("SUBSPACE_CHANGES")) return;
+    if (GetFileAttributesA("changes.txt") == INVALID_FILE_ATTRIBUTES) return;
     const DWORD volume = 77, ship = 5;
     const char macro[] = "Back at %coord after \"one\" lap";
     Store("Options", "MusicVolume", REG_DWORD, &volume, sizeof volume);

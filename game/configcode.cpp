@@ -33,7 +33,7 @@ constexpr bool EveryCellIsUsedOnceButA5() {
         if (uses[i] != (i == kColumns - 1 ? 0 : 1)) return false;
     return true;
 }
-static_assert(EveryCellIsUsedOnceButA5());
+static_assert(EveryCellIsUsedOnceButA5() && kSwitchesInCode == kRows * kColumns - 1);
 
 int ValueOf(char symbol) {
     const size_t found = kAlphabet.find(FoldCase(symbol));
@@ -72,6 +72,15 @@ void DecodeConfigCode(std::string_view Code, AdvancedStates& states) {
         const size_t at = RowOf(box) * kColumns + (kColumns - 1 - ColumnOf(box));
         states[i] = at < bits.size() && bits[at] == '1' ? 1 : 0;  // a text of dashes has fewer bits
     }
+}
+
+size_t CountChanges(std::string_view code, const AdvancedStates& states) {
+    AdvancedStates after = states;
+    DecodeConfigCode(code, after);
+    size_t changes = 0;
+    for (size_t i = 0; i < states.size(); ++i)
+        if ((states[i] != 0) != (after[i] != 0)) ++changes;
+    return changes;
 }
 
 std::string AcceptedConfigCode(std::string_view text) {

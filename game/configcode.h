@@ -23,6 +23,10 @@ std::string EncodeConfigCode(const AdvancedStates& states);
 // place, say) counts as "0". The switch without a cell keeps its state.
 void DecodeConfigCode(std::string_view Code, AdvancedStates& states);
 
+// How many switches a code would change, of those that have a cell.
+inline constexpr size_t kSwitchesInCode = 54;
+size_t CountChanges(std::string_view code, const AdvancedStates& states);
+
 // The code to show once a text has been accepted: its last character has no effect and becomes "0".
 std::string AcceptedConfigCode(std::string_view text);
 

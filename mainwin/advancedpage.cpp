@@ -2,6 +2,8 @@
 
 #include "mainwin/bindingtables.h"
 #include "mainwin/frmconfig.h"
+#include "platform/clipboard.h"
+#include "platform/dialogs.h"
 #include "platform/form.h"
 #include "platform/text.h"
 
@@ -49,6 +51,8 @@ AdvancedPage::AdvancedPage(TabStrip& strip, Profile& profile, Edited edited)
     chkEmulator.Tag = kEmulatorRow.name;
     chkEmulator.onClick = edited_;
     txtGamma.onChange = edited_;
+    cmdConfigCode.SetToolTip("A right click copies the code");
+    cmdConfigCode.onContextMenu = [this] { ShowError(SetClipboardText(EncodeConfigCode(States()))); };
     cmdConfigCode.onClick = [this] { cmdConfigCode_Click(); };
 }
 
@@ -78,7 +82,7 @@ void AdvancedPage::chkAdvanced_MouseUp() {
 }
 
 void AdvancedPage::cmdConfigCode_Click() {
-    frmConfig dialog;
+    frmConfig dialog(States());
     dialog.ShowModal(Owner());
     const std::optional<std::string>& text = dialog.Code();
     if (!text) return;

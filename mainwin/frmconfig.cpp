@@ -7,28 +7,43 @@ namespace quirn {
 namespace {
 
 constexpr int kWidth = 4800;
-constexpr int kHeight = 1890;
+constexpr int kHeight = 2190;
 
 // clang-format off
 //                      left   top  width  height
 constexpr Bounds kLabel{ 180,  180,  3300,  225};
 constexpr Bounds kCode{  180,  450,  4320,  300};
-constexpr Bounds kOk{   1620,  930,  1380, kButtonHeight};
-constexpr Bounds kCancel{3120, 930,  1380, kButtonHeight};
+constexpr Bounds kChanges{180, 825,  4320, kLabelHeight};
+constexpr Bounds kOk{   1620, 1230,  1380, kButtonHeight};
+constexpr Bounds kCancel{3120, 1230, 1380, kButtonHeight};
 // clang-format on
 
 }  // namespace
 
-frmConfig::frmConfig()
+frmConfig::frmConfig(const AdvancedStates& states)
     : Form(FormBorder::Dialog, kWidth, kHeight),
+      states_(states),
       Label1(*this, kLabel, "Enter advanced settings code:"),
       mskConfigCode(*this, kCode, "&&&&-&&&&-&&&&"),
+      lblChanges(*this, kChanges, ""),
       Command1(*this, kOk, "OK"),
       Command2(*this, kCancel, "Cancel") {
     SetCaption("Advanced Settings Code");
     SetButtons(&Command1, &Command2);
+    mskConfigCode.SetText(EncodeConfigCode(states));
+    mskConfigCode.onChange = [this] { ShowWhatChanges(); };
+    // Selected, so that it can be copied, and typing or pasting replaces it.
+    onActivate = [this] { mskConfigCode.SelectAll(); };
+    ShowWhatChanges();
     Command1.onClick = [this] { Command1_Click(); };
     Command2.onClick = [this] { Unload(); };
+}
+
+void frmConfig::ShowWhatChanges() {
+    const std::string& code = mskConfigCode.Text();
+    if (code.find('_') != std::string::npos) return lblChanges.SetText("Places left empty count as 0");
+    lblChanges.SetText("Changes " + std::to_string(CountChanges(code, states_)) + " of " +
+                       std::to_string(kSwitchesInCode) + " switches");
 }
 
 void frmConfig::Command1_Click() {

@@ -130,6 +130,7 @@ public:
 
     std::string Tag;  // free for the form's use
 
+    std::function<void()> onContextMenu;  // the right button, or the keyboard's key for the same; not for lists
     std::function<void()> onGotFocus;
     std::function<void()> onLostFocus;
 

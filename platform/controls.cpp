@@ -147,6 +147,10 @@ void TextBox::SetMasked(bool masked) {
     Changed(Aspect::Value);
 }
 
+void MaskedBox::SelectAll() {
+    if (window != nullptr) native::SelectAll(*this);
+}
+
 void TextBox::SelectAll() {
     if (window != nullptr) native::SelectAll(*this);
 }

@@ -172,6 +172,7 @@ public:
     const std::string& Mask() const { return mask_; }
     bool IsDigitsOnly() const;
     void Clear();  // back to the empty mask
+    void SelectAll();
 
     std::function<void()> onChange;
     std::function<bool(char)> onKeyPress;             // true swallows the character

@@ -53,7 +53,7 @@ void ControlChanged(Control& control, Aspect aspect);
 void Repaint(Control& control);
 void DestroyControl(Control& control);
 void FocusControl(Control& control);  // its form has been shown
-void SelectAll(TextBox& box);
+void SelectAll(Control& box);
 void PutCaretAtEnd(TextBox& box);
 int CaretLeft(const TextBox& box);
 bool IsOpen(const ComboBox& box);  // its list has dropped down

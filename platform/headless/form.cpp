@@ -246,7 +246,7 @@ void DestroyControl(Control& control) {
 void FocusControl(Control& control) {
     control.UserFocuses(true);
 }
-void SelectAll(TextBox&) {}
+void SelectAll(Control&) {}
 void PutCaretAtEnd(TextBox&) {}
 int CaretLeft(const TextBox&) {
     return 0;

@@ -24,6 +24,10 @@ LRESULT CALLBACK ControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lP
     if (control == nullptr) return Pass(m);  // it is being destroyed
     if (message == WM_SETFOCUS) return Focus(*control, m);
     if (message == WM_MOUSEMOVE) PrepareToolTip(*control);
+    if (message == WM_CONTEXTMENU && control->onContextMenu) {
+        CallHandler(control->onContextMenu);
+        return 0;
+    }
     if (control->Kind().message != nullptr)
         if (const auto result = control->Kind().message(*control, m)) return *result;
     return Pass(m);

@@ -196,7 +196,7 @@ const Kind kMaskedBox{.look = For<BoxLook>,
                       .selectsOnFocus = true};
 const Kind kUpDown{.look = For<UpDownLook>, .fill = For<FillUpDown>, .notify = For<UpDownNotify>};
 
-void SelectAll(TextBox& box) {
+void SelectAll(Control& box) {
     SendMessageA(WindowOf(box), EM_SETSEL, 0, -1);
 }
 

@@ -1,5 +1,6 @@
 #include "game/configcode.h"
 
+#include <algorithm>
 #include <random>
 
 #include "tests/testing/profiles.h"
@@ -66,6 +67,9 @@ TEST(ConfigCodeTest, EveryCodeComesBack) {
         AdvancedStates states;
         for (int& state : states) state = static_cast<int>(random() % 2);
         AdvancedStates read = All(states[kSkipSplashBox]);
+        EXPECT_EQ(CountChanges(EncodeConfigCode(states), states), 0u);
+        const auto others = std::count(states.begin(), states.end(), 1 - states[kSkipSplashBox]);
+        EXPECT_EQ(CountChanges(EncodeConfigCode(states), read), static_cast<size_t>(others));
         DecodeConfigCode(EncodeConfigCode(states), read);
         ASSERT_EQ(read, states);
     }

@@ -51,6 +51,7 @@ def edit_everything(player):
     player.replace(player.beside("Gamma Correction Percentage :"), "77")
     player.click(code_button(player))
     dialog = player.dialog("Advanced Settings Code")
+    dialog.find("Changes 0 of 54 switches")  # as long as the code is the present one
     dialog.type("4zz0000000005")
     dialog.keys("Return")
     dialog.gone()
@@ -69,6 +70,13 @@ def edit_everything(player):
     player.replace(player.beside("Shift F1 -"), "hi ")
     player.type("%")
     player.keys("s", "Return")
+    player.turn_to("Advanced")
+    player.point(*code_button(player)["rect"][:2])
+    player.xdo("mousemove_relative", 9, 9, "click", 3)  # copies the code
+    player.turn_to("Macros Shift")
+    player.click(player.beside("Shift F3 -"))
+    player.keys("ctrl+a", "ctrl+v")
+    wait_for(lambda: player.beside("Shift F3 -")["caption"] == "4ZZH-0000-0000", what="the code")
     player.turn_to("Macros R-Shift")
     player.click(player.find("Copy from Shift"))
     player.replace(player.beside("R-Shift F8 -"), "last word")

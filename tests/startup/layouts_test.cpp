@@ -132,7 +132,7 @@ TEST_F(LayoutsTest, NothingStandsOutsideOrAcrossAnother) {
                        {{"Take Into &Profile", {}, {}}, {"Write Into &Game", {}, {}}});
     compare.Load();
     CheckSizes(compare, "compare");
-    frmConfig config;
+    frmConfig config({});
     config.Load();
     Check(config, "config code");
     frmRunBox runBox;
