@@ -52,10 +52,21 @@ Plan PlanWave(const std::string& source, const std::string& target) {
     return std::optional(wave.Take());
 }
 
-Failure WritePlanned(const Profile& profile, const std::string& gameFolder, const std::string& name, Flush flush) {
+// The wave that a file of the game is copied from; the file itself when it is the ignore list.
+std::string SourceOf(const Profile& profile, const std::string& gameFolder, const std::string& name) {
+    for (size_t slot = 0; slot < profile.WaveFiles.size(); ++slot)
+        if (name == kWaveNames[slot]) return profile.WaveFiles[slot];
+    return PathIn(gameFolder, name);
+}
+
+std::optional<FileTrouble> WritePlanned(const Profile& profile, const std::string& gameFolder, const std::string& name,
+                                        Flush flush) {
     const Plan bytes = PlanPlayerFile(profile, gameFolder, name);
-    if (bytes.Failed()) return bytes.Error();
-    return bytes.Value() ? WriteGameFile(PathIn(gameFolder, name), *bytes.Value(), flush) : Failure();
+    if (bytes.Failed()) return FileTrouble{name, SourceOf(profile, gameFolder, name), bytes.Error()};
+    if (!bytes.Value()) return std::nullopt;
+    Failure failure = WriteGameFile(PathIn(gameFolder, name), *bytes.Value(), flush);
+    if (!failure) return std::nullopt;
+    return FileTrouble{name, PathIn(gameFolder, name), *std::move(failure)};
 }
 
 }  // namespace
@@ -76,7 +87,8 @@ Failure WriteGameFile(const std::string& path, const std::string& bytes, Flush f
 }
 
 Failure WriteIgnoreFile(const Profile& profile, const std::string& gameFolder) {
-    return WritePlanned(profile, gameFolder, kIgnoreFile, Flush::Yes);
+    std::optional<FileTrouble> trouble = WritePlanned(profile, gameFolder, kIgnoreFile, Flush::Yes);
+    return trouble ? Failure(std::move(trouble->error)) : Failure();
 }
 
 std::vector<std::string> IgnoredNames(const std::string& text) {
@@ -109,11 +121,11 @@ Failure ReadPlayerFiles(Profile& profile, const std::string& gameFolder) {
     return failure;
 }
 
-std::vector<RuntimeError> WritePlayerFiles(const Profile& profile, const std::string& gameFolder, Flush flush) {
-    std::vector<RuntimeError> errors;
+std::vector<FileTrouble> WritePlayerFiles(const Profile& profile, const std::string& gameFolder, Flush flush) {
+    std::vector<FileTrouble> troubles;
     for (const char* name : kPlayerFiles)
-        if (Failure failure = WritePlanned(profile, gameFolder, name, flush)) errors.push_back(*std::move(failure));
-    return errors;
+        if (auto trouble = WritePlanned(profile, gameFolder, name, flush)) troubles.push_back(*std::move(trouble));
+    return troubles;
 }
 
 }  // namespace quirn

@@ -36,9 +36,16 @@ Failure WriteIgnoreFile(const Profile& profile, const std::string& gameFolder);
 // Replaces the ignore list by the names in the file. A missing file gives an empty list and is no failure.
 Failure ReadIgnoreFile(Profile& profile, const std::string& gameFolder);
 
+// A file of the game that keeps what it had.
+struct FileTrouble {
+    std::string name;  // of kPlayerFiles
+    std::string path;  // what could not be read or written: the game's file, or the wave that it was to be copied from
+    RuntimeError error;
+};
+
 // The ignore list and the two waves, from the game or to it. What fails does not stop the rest.
 Failure ReadPlayerFiles(Profile& profile, const std::string& gameFolder);
-std::vector<RuntimeError> WritePlayerFiles(const Profile& profile, const std::string& gameFolder,
-                                           Flush flush = Flush::Yes);
+std::vector<FileTrouble> WritePlayerFiles(const Profile& profile, const std::string& gameFolder,
+                                          Flush flush = Flush::Yes);
 
 }  // namespace quirn

@@ -4,7 +4,6 @@
 #include <functional>
 #include <utility>
 
-#include "game/playerfiles.h"
 #include "platform/clock.h"
 
 namespace quirn {
@@ -45,7 +44,7 @@ GameState ChangedSince(const LeftState& left, const GameState& now, const std::s
 }
 
 bool WentAsPlanned(const TransferResult& result) {
-    return result.errors.empty() && std::none_of(result.refused.begin(), result.refused.end(), [](auto& value) {
+    return result.WentWell() && std::none_of(result.refused.begin(), result.refused.end(), [](auto& value) {
                return value.status != kUnsupportedType && value.status != kRegistryNotFound;
            });
 }
@@ -115,9 +114,7 @@ TransferResult TransferToGame(const Profile& profile, const std::string& gameFol
         WrittenSettings settings = WriteSettings(profile);
         if (settings.overflow) result.errors.push_back(MakeError(ErrorNumber::Overflow));
         result.refused = std::move(settings.refused);
-        if (gameFolder != kNotSet)
-            for (RuntimeError& error : WritePlayerFiles(profile, gameFolder, flush))
-                result.errors.push_back(std::move(error));
+        if (gameFolder != kNotSet) result.files = WritePlayerFiles(profile, gameFolder, flush);
     });
 }
 

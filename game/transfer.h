@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "game/gamestate.h"
+#include "game/playerfiles.h"
 #include "game/settingsstore.h"
 #include "game/transferlog.h"
 #include "platform/error.h"
@@ -15,8 +16,11 @@ namespace quirn {
 
 struct TransferResult {
     std::vector<RuntimeError> errors;   // for the player, in the order in which they happened
+    std::vector<FileTrouble> files;     // for the player as well: what the game has of these is as it was
     std::vector<RefusedValue> refused;  // settings that the registry did not take; the player hears nothing of them
     bool kept = true;                   // there is a way back, or nothing was changed
+
+    bool WentWell() const { return errors.empty() && files.empty(); }
 };
 
 // What a profile makes of the game: its settings but those that the registry will not take (a key that is missing, a
@@ -24,7 +28,7 @@ struct TransferResult {
 GameState PlanTransfer(const GameSettings& now, const Profile& profile, const std::string& gameFolder);
 
 // Writes a profile into the game: the one way for all commands. What fails does not stop the rest. The errors are one
-// overflow for all numbers that do not fit 32 bits, and one for each file that cannot be written. Without a configured
+// overflow for all numbers that do not fit 32 bits; each file that cannot be written is named. Without a configured
 // game folder the files are left out, without an error: the launch that follows says what to do. What the game had is
 // kept in the log first, unless nothing changes.
 TransferResult TransferToGame(const Profile& profile, const std::string& gameFolder, const TransferLog& log,

@@ -1,5 +1,6 @@
 #include "mainwin/launcher.h"
 
+#include "mainwin/transferwords.h"
 #include "platform/dialogs.h"
 
 namespace quirn {
@@ -35,9 +36,9 @@ bool Launcher::PutIntoGame(const GameState& part, const std::string& gameFolder,
 
 bool Launcher::ShowResult(const TransferResult& result) {
     keptLast_ = result.kept;
-    ShowErrors(result.errors);
+    if (!result.WentWell()) ShowMessage(TroublesInWords(result), kPlain, "Error");
     CallHandler(onChange);
-    return result.errors.empty();
+    return result.WentWell();
 }
 
 bool Launcher::TransferAndLaunch(const Profile& profile, const TransferNote& note) {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <vector>
 
-#include "game/playerfiles.h"
 #include "mainwin/notice.h"
 #include "platform/clock.h"
+#include "platform/dialogs.h"
 #include "profile/documentnames.h"
 #include "profile/splitpath.h"
 
@@ -15,6 +15,14 @@ namespace {
 
 std::string Counted(size_t count, const std::string& one) {
     return std::to_string(count) + " " + one + (count == 1 ? "" : "s");
+}
+
+std::string InWords(const FileTrouble& trouble) {
+    const bool wave = trouble.name != kIgnoreFile;
+    std::string text = "The ignore list";
+    if (wave) text = trouble.name == kWaveNames[0] ? "The wave message of F11" : "The wave message of F12";
+    text += " was not transferred: '" + trouble.path + "': " + trouble.error.description + ".";
+    return text;
 }
 
 }  // namespace
@@ -38,6 +46,22 @@ std::string WordsFor(const GameState& state) {
 std::string WordsFor(const TransferEntry& entry) {
     const bool names = std::find(entry.files.begin(), entry.files.end(), kIgnoreFile) != entry.files.end();
     return WordsFor(entry.settings, names, entry.files.size() - (names ? 1 : 0));
+}
+
+std::string TroublesInWords(const TransferResult& result) {
+    std::vector<std::string> parts;
+    for (const RuntimeError& error : result.errors) {
+        std::string part = ErrorText(error);
+        if (std::find(parts.begin(), parts.end(), part) == parts.end()) parts.push_back(std::move(part));
+    }
+    for (const FileTrouble& trouble : result.files) parts.push_back(InWords(trouble));
+    if (!result.files.empty()) parts.emplace_back("The game keeps what it had there. Everything else was transferred.");
+    std::string text;
+    for (const std::string& part : parts) {
+        if (!text.empty()) text += "\r\r";
+        text += part;
+    }
+    return text;
 }
 
 std::string FileNameOf(const TransferEntry& entry) {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "game/transferlog.h"
+#include "game/transfer.h"
 
 // What transfers change, in a player's words.
 namespace quirn {
@@ -11,6 +11,9 @@ namespace quirn {
 std::string WordsFor(size_t settings, bool ignoreList, size_t waves);
 std::string WordsFor(const GameState& state);
 std::string WordsFor(const TransferEntry& entry);
+
+// The text of one box for all that went wrong: each error once, then each file by its name.
+std::string TroublesInWords(const TransferResult& result);
 
 // The profile without its folder.
 std::string FileNameOf(const TransferEntry& entry);

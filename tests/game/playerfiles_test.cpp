@@ -89,9 +89,9 @@ TEST_F(PlayerFilesTest, CopiesWavesUnlessNotSetOrTheGamesOwn) {
 }
 
 TEST_F(PlayerFilesTest, AFolderThatIsGoneIsOneError) {
-    const std::vector<RuntimeError> errors = WritePlayerFiles(profile_, Scratch() + "\\no game");
+    const std::vector<FileTrouble> errors = WritePlayerFiles(profile_, Scratch() + "\\no game");
     ASSERT_EQ(errors.size(), 1u);
-    EXPECT_EQ(errors[0].number, 76);
+    EXPECT_EQ(errors[0].error.number, 76);
 }
 
 }  // namespace
