@@ -166,13 +166,12 @@ void FileCommands::mnuFile_Import_Click() {
 // The version is read and the file is named before the question about edits: saving those may push the version out, or
 // make another file the current one. When the file stays as it is, so do edits that were to be given up.
 bool FileCommands::PutBackVersion(const std::string& path, const ProfileVersion& version) {
-    const std::string file = path;  // it may be the current file's own name
-    const bool isCurrent = EqualNoCase(AbsolutePath(file), AbsolutePath(program_.CurrentFile));
+    const bool isCurrent = EqualNoCase(AbsolutePath(path), AbsolutePath(program_.CurrentFile));
     const bool wasDirty = program_.dirty;
     const Result<std::string> bytes = ReadWholeFile(version.file);
     if (bytes.Failed()) ShowError(bytes.Error());
     if (bytes.Failed() || (isCurrent && !MayDiscard())) return false;
-    const bool done = ReplaceByVersion(file, version, bytes.Value()) && (!isCurrent || OpenAsCurrent(file));
+    const bool done = ReplaceByVersion(path, version, bytes.Value()) && (!isCurrent || OpenAsCurrent(path));
     if (!done) program_.dirty = wasDirty;
     return done;
 }

@@ -39,7 +39,8 @@ public:
     void mnuFile_Import_Click();
 
     // Makes a file what an earlier version of it was, after a question, and opens it when it is the current one. What
-    // it holds now becomes a version. True when it has been done.
+    // it holds now becomes a version. True when it has been done. path is a text of its own: the current file may
+    // change meanwhile.
     bool PutBackVersion(const std::string& path, const ProfileVersion& version);
 
 private:

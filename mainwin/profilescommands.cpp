@@ -78,13 +78,12 @@ void ProfilesCommands::mnuProfiles_History_Click() {
 }
 
 void ProfilesCommands::ShowVersions(const std::string& path) {
-    const std::string file = path;  // it may be the current file's own name
-    const ProfileVersions versions(program_.dataFolder, file);
-    frmVersions dialog(file, versions, [&](auto& version) { return view_.PutBackVersion(file, version); });
+    const ProfileVersions versions(program_.dataFolder, path);
+    frmVersions dialog(path, versions, [&](auto& version) { return view_.PutBackVersion(path, version); });
     const std::optional<ProfileVersion> shown = dialog.Ask(mainWindow_);
     library_.Refresh();
     if (!shown) return;
-    versionsOf_ = file;
+    versionsOf_ = path;
     versionComparison_.Open(shown->file);
 }
 

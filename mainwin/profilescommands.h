@@ -24,7 +24,7 @@ public:
     void mnuProfiles_Transfer_Click();
     void mnuProfiles_Undo_Click();
     void mnuProfiles_History_Click();
-    void mnuProfiles_Versions_Click() { ShowVersions(program_.CurrentFile); }
+    void mnuProfiles_Versions_Click() { ShowVersions(std::string(program_.CurrentFile)); }
 
     bool HasGameFolder() const;
     bool HasTransfer() const;

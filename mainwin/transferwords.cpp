@@ -20,7 +20,7 @@ std::string Counted(size_t count, const std::string& one) {
 std::string InWords(const FileTrouble& trouble) {
     const bool wave = trouble.name != kIgnoreFile;
     std::string text = "The ignore list";
-    if (wave) text = trouble.name == kWaveNames[0] ? "The wave message of F11" : "The wave message of F12";
+    if (wave) text = trouble.name == kWaveNames[0] ? "The wave message Shift-F11" : "The wave message Shift-F12";
     text += " was not transferred: '" + trouble.path + "': " + trouble.error.description + ".";
     return text;
 }

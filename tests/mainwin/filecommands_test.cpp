@@ -278,13 +278,13 @@ TEST_F(FileCommandsTest, WhatASaveReplacedIsPutBack) {
     // An edit in the window is asked for as Open does.
     program_.dirty = true;
     ExpectQuestion(Answer::Cancel);
-    EXPECT_FALSE(commands_.PutBackVersion(program_.CurrentFile, version));
+    EXPECT_FALSE(commands_.PutBackVersion(std::string(program_.CurrentFile), version));
     EXPECT_EQ(PilotIn(old_), "D1");
     program_.dirty = false;
     ExpectMessage("Make " + old_ + " what it was before it was replaced (" + TimeInWords(version.time, SortableTime()) +
                       ")? What it holds now becomes a version.",
                   kOkCancel + kQuestion);
-    EXPECT_TRUE(commands_.PutBackVersion(program_.CurrentFile, version));
+    EXPECT_TRUE(commands_.PutBackVersion(std::string(program_.CurrentFile), version));
     EXPECT_EQ(FileBytes(old_), before);
     EXPECT_EQ(pilot_, "Old");
     EXPECT_EQ(title_, "QUIRN v1.61 - old.qrn");
@@ -298,13 +298,13 @@ TEST_F(FileCommandsTest, WhatASaveReplacedIsPutBack) {
     ExpectQuestion(Answer::Yes);
     ExpectSaveFile("Save As", new_);
     ExpectMessage(question, kOkCancel + kQuestion);
-    EXPECT_TRUE(commands_.PutBackVersion(program_.CurrentFile, version));
+    EXPECT_TRUE(commands_.PutBackVersion(std::string(program_.CurrentFile), version));
     EXPECT_EQ(PilotIn(new_), "Edited");
     EXPECT_EQ(program_.CurrentFile, old_);
     program_.dirty = true;
     ExpectQuestion(Answer::No);
     ExpectMessage(question, kOkCancel + kQuestion, Answer::Cancel);
-    EXPECT_FALSE(commands_.PutBackVersion(program_.CurrentFile, version));
+    EXPECT_FALSE(commands_.PutBackVersion(std::string(program_.CurrentFile), version));
     EXPECT_TRUE(program_.dirty);
     program_.dirty = false;
 
