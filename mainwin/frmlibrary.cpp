@@ -167,6 +167,7 @@ void frmLibrary::Refresh() {
     if (const Row* current = Current()) wanted_ = current->entry.path;
     reader_ = deeds_.Read();
     rows_.clear();
+    shown_.clear();
     ReadSome();
 }
 

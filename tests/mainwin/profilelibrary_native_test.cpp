@@ -115,6 +115,10 @@ TEST_F(ProfileLibraryTest, WhatCannotBeDoneIsToldAndNothingIsLost) {
     ExpectMessage("Move DUEL.QRN to the recycle bin?", kOkCancel + kQuestion);
     Press(Library(), kKeyDelete);
     EXPECT_EQ(Names(), "gone;nova (no .qrn);two words;");
+    GoTo("two words");  // the last row
+    ExpectMessage("Move two words.qrn to the recycle bin?", kOkCancel + kQuestion);
+    Press(Library(), kKeyDelete);
+    EXPECT_EQ(Names(), "gone;nova (no .qrn);");
 }
 
 }  // namespace
