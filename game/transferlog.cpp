@@ -109,17 +109,10 @@ Failure WriteEntry(const std::string& folder, const std::string& info, const Gam
     return WritePlainFile(folder + kBeforeReg, RegFileText(before.settings), Flush::Yes);
 }
 
-Failure RemoveAll(const std::string& folder) {
-    Result<std::vector<FolderEntry>> entries = ListFolder(folder);
-    if (entries.Failed()) return entries.Error();
-    for (const FolderEntry& entry : entries.Value()) RemoveFile(folder + "\\" + entry.name);
-    return RemoveFolder(folder);
-}
-
 Failure RemoveEntry(const std::string& folder) {
     // First it stops being an entry: what cannot be removed now is swept later.
     if (Failure failure = RenameEntry(folder, folder + kNew)) return failure;
-    return RemoveAll(folder + kNew);
+    return RemoveFolderWithFiles(folder + kNew);
 }
 
 // What the file holds already is not written again.
@@ -210,7 +203,7 @@ Result<std::string> TransferLog::Begin(const TransferEntry& entry, const GameSta
     Failure failure = WriteEntry(folder + kNew, IniText(info), before, after);
     if (!failure) failure = RenameEntry(folder + kNew, folder);
     if (!failure) return folder;
-    RemoveAll(folder + kNew);
+    RemoveFolderWithFiles(folder + kNew);
     return *failure;
 }
 
@@ -223,7 +216,7 @@ void TransferLog::Sweep() const {
     const Result<std::vector<FolderEntry>> folders = ListFolder(folder_);
     if (folder_.empty() || folders.Failed()) return;
     for (const FolderEntry& folder : folders.Value())
-        if (folder.isFolder && folder.name.ends_with(kNew)) RemoveAll(folder_ + "\\" + folder.name);
+        if (folder.isFolder && folder.name.ends_with(kNew)) RemoveFolderWithFiles(folder_ + "\\" + folder.name);
     if (folders.Value().size() <= kKept) return;
     const std::vector<std::string> times = Times();
     for (size_t i = kKept; i + 1 < times.size(); ++i) RemoveEntry(folder_ + "\\" + times[i]);

@@ -204,6 +204,12 @@ CompareRows frmCompare::Ticked() const {
     return rows;
 }
 
+bool frmCompare::HoldsAllNames(const CompareRows& rows, size_t side) const {
+    return std::none_of(rows_.begin(), rows_.end(), [&](const CompareRow& row) {
+        return row.IsName() && row.differs[side] && FindIn(rows, row) == rows.end();
+    });
+}
+
 void frmCompare::TickAll() {
     for (const size_t row : shown_) Tick(rows_[row], true);
     tblRows.Refresh();

@@ -34,7 +34,8 @@ public:
     // Ticks the rows that differ and that the test wants. An open window comes to the front.
     void Open(Form& owner, const std::function<bool(const CompareRow&)>& wants);
 
-    const CompareRows& Rows() const { return rows_; }  // those that are not shown as well
+    const CompareRows& Rows() const { return rows_; }                // those that are not shown as well
+    bool HoldsAllNames(const CompareRows& rows, size_t side) const;  // no other ignored name differs on that side
     void ShowWhatCanBeDone();
 
 private:

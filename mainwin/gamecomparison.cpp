@@ -63,11 +63,7 @@ CompareSides GameComparison::ReadSides() const {
 // names that were not taken are still to be told of.
 GameState GameComparison::ChangesIn(const CompareRows& rows) const {
     GameState part = PartOf(FindGameChanges(TransferLog(program_.dataFolder), program_.gameFolder).now, rows);
-    const auto isLeft = [&](const CompareRow& row) {
-        return row.IsName() && row.differs[kGame] &&
-               std::none_of(rows.begin(), rows.end(), [&](auto& taken) { return taken.IsSameRowAs(row); });
-    };
-    if (std::any_of(window_.Rows().begin(), window_.Rows().end(), isLeft)) part.files.erase(kIgnoreFile);
+    if (!window_.HoldsAllNames(rows, kGame)) part.files.erase(kIgnoreFile);
     return part;
 }
 

@@ -1,6 +1,5 @@
 #include "mainwin/transfercomparison.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "game/comparerows.h"
@@ -47,16 +46,8 @@ CompareSides TransferComparison::ReadSides() const {
     return sides;
 }
 
-bool TransferComparison::HoldsAllNames(const CompareRows& rows) const {
-    const auto isLeft = [&](const CompareRow& row) {
-        return row.IsName() && row.differs[kNow] &&
-               std::none_of(rows.begin(), rows.end(), [&](auto& other) { return other.IsSameRowAs(row); });
-    };
-    return std::none_of(window_.Rows().begin(), window_.Rows().end(), isLeft);
-}
-
 void TransferComparison::PutBack(const CompareRows& rows) {
-    const RowsPlan plan = PlanRowsBack(rows, HoldsAllNames(rows), before_, entry_.gameFolder);
+    const RowsPlan plan = PlanRowsBack(rows, window_.HoldsAllNames(rows, kNow), before_, entry_.gameFolder);
     ShowErrors(plan.errors);
     if (!plan.state.IsEmpty()) putBack_(entry_, plan.state);
 }

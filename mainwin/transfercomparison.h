@@ -24,7 +24,6 @@ public:
 private:
     CompareSides ReadSides() const;
     void PutBack(const CompareRows& rows);
-    bool HoldsAllNames(const CompareRows& rows) const;
 
     Form& mainWindow_;
     std::function<void(const TransferEntry& entry, const GameState& part)> putBack_;

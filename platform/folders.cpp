@@ -2,9 +2,17 @@
 
 #include <algorithm>
 
+#include "platform/files.h"
 #include "platform/text.h"
 
 namespace quirn {
+
+Failure RemoveFolderWithFiles(const std::string& folder) {
+    const Result<std::vector<FolderEntry>> entries = ListFolder(folder);
+    if (entries.Failed()) return entries.Error();
+    for (const FolderEntry& entry : entries.Value()) RemoveFile(folder + "\\" + entry.name);
+    return RemoveFolder(folder);
+}
 
 std::string NewPathByTime(const std::string& folder, const std::string& time, const std::string& ending) {
     std::string newest = time;

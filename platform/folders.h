@@ -29,6 +29,9 @@ Failure MakeFolders(const std::string& folder);
 // Removes an empty folder.
 Failure RemoveFolder(const std::string& folder);
 
+// The same with the files in it.
+Failure RemoveFolderWithFiles(const std::string& folder);
+
 // Gives a file or folder another name or place on the same disk. The new one must not be there yet.
 Failure RenameEntry(const std::string& from, const std::string& to);
 

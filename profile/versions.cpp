@@ -81,6 +81,18 @@ void ProfileVersions::Settle(const std::string& version) const {
     SweepFolder(folder_);
     const std::vector<ProfileVersion> versions = List();
     for (size_t i = kKept; i < versions.size(); ++i) RemoveFile(versions[i].file);
+    SweepFiles();
+}
+
+// Files come and go, and nobody tells when one is gone for good.
+void ProfileVersions::SweepFiles() const {
+    const std::string all = folder_.substr(0, folder_.rfind('\\') + 1);
+    const Result<std::vector<FolderEntry>> listed = ListFolder(all.substr(0, all.size() - 1));
+    if (listed.Failed() || listed.Value().size() <= kFiles) return;
+    std::vector<FolderEntry> folders = listed.Value();
+    std::erase_if(folders, [&](const FolderEntry& entry) { return !entry.isFolder || all + entry.name == folder_; });
+    std::sort(folders.begin(), folders.end(), [](auto& a, auto& b) { return a.writtenLast > b.writtenLast; });
+    for (size_t i = kFiles - 1; i < folders.size(); ++i) RemoveFolderWithFiles(all + folders[i].name);
 }
 
 void ProfileVersions::MoveTo(const ProfileVersions& other) const {

@@ -18,6 +18,7 @@ struct ProfileVersion {
 class ProfileVersions {
 public:
     static constexpr size_t kKept = 10;
+    static constexpr size_t kFiles = 200;  // whose versions are kept: those that were saved last
 
     // dataFolder: the program's own in the player's local data; an empty one keeps nothing.
     ProfileVersions(const std::string& dataFolder, const std::string& profilePath);
@@ -36,6 +37,8 @@ public:
     void MoveTo(const ProfileVersions& other) const;  // the file has got that name; as far as that has none yet
 
 private:
+    void SweepFiles() const;
+
     std::string path_;
     std::string folder_;
 };

@@ -1,5 +1,6 @@
 #include "profile/versions.h"
 
+#include "platform/folders.h"
 #include "tests/testing/profiles.h"
 
 namespace quirn {
@@ -29,6 +30,14 @@ TEST_F(ProfileVersionsTest, TenOfWhatSavesReplacedAreKept) {
     EXPECT_TRUE(ProfileVersions(data_, Scratch() + "\\other\\N\xF8rd.qrn").List().empty());
     EXPECT_FALSE(versions_.ForgetAll());
     EXPECT_TRUE(versions_.List().empty());
+}
+
+TEST_F(ProfileVersionsTest, OnlySoManyFilesHaveVersions) {
+    for (size_t i = 0; i < ProfileVersions::kFiles + 3; ++i)
+        MakeFolders(data_ + "\\Versions\\gone " + std::to_string(i));
+    for (const char* pilot : {"a", "b", "c"}) Save(std::string("[Dialog]\r\nPlayerName=") + pilot + "\r\n");
+    EXPECT_EQ(versions_.List().size(), 2u);
+    EXPECT_EQ(ListFolder(data_ + "\\Versions").Value().size(), ProfileVersions::kFiles);
 }
 
 TEST_F(ProfileVersionsTest, ASaveThatChangesNothingKeepsNothing) {
