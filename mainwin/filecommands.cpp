@@ -3,6 +3,7 @@
 #include "mainwin/loading.h"
 #include "mainwin/menurows.h"
 #include "mainwin/notice.h"
+#include "mainwin/saving.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
@@ -97,14 +98,10 @@ void FileCommands::mnuFile_Save_Click() {
     Save(program_.CurrentFile);
 }
 
-// What the file held is kept first. A file that cannot be kept is told of beside the Run button, and saved over.
 bool FileCommands::Save(const std::string& path) {
     view_.CollectProfile();
-    const ProfileVersions versions(program_.dataFolder, path);
-    const Result<std::string> kept = versions.KeepPresent();
-    const Failure failure = SaveProfile(program_.profile, program_.gameFolder, path);
-    program_.keptLastVersion = !kept.Failed() || failure;
-    if (!kept.Failed()) versions.Settle(kept.Value());
+    const Failure failure =
+        SaveKeepingVersion(program_, path, [&] { return SaveProfile(program_.profile, program_.gameFolder, path); });
     if (failure) {
         ShowError(failure);
         return false;
@@ -166,7 +163,7 @@ void FileCommands::mnuFile_Import_Click() {
 // The version is read and the file is named before the question about edits: saving those may push the version out, or
 // make another file the current one. When the file stays as it is, so do edits that were to be given up.
 bool FileCommands::PutBackVersion(const std::string& path, const ProfileVersion& version) {
-    const bool isCurrent = EqualNoCase(AbsolutePath(path), AbsolutePath(program_.CurrentFile));
+    const bool isCurrent = IsSameFile(path, program_.CurrentFile);
     const bool wasDirty = program_.dirty;
     const Result<std::string> bytes = ReadWholeFile(version.file);
     if (bytes.Failed()) ShowError(bytes.Error());

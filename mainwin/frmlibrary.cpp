@@ -36,6 +36,7 @@ constexpr Bounds kClose{     9660, 5550,  1380, kButtonHeight};
 enum Column { kProfile, kInGame, kPilot, kZone, kShip, kChanged, kFavourite, kFolder };
 enum MoreCommand {
     kRename = 1,
+    kCopy,
     kVersions,
     kBarFavourite,
     kFavourites,
@@ -114,6 +115,7 @@ std::vector<MenuRow> frmLibrary::MoreRows() {
     const auto can = [this] { return cmdOpen.Enabled(); };
     std::vector<MenuRow> rows{
         {kRename, 1, "&Rename...", "F2", "", [this] { Do(deeds_.Rename); }, can},
+        {kCopy, 1, "Copy &Without Password...", "", "", [this] { Do(deeds_.CopyForFriend); }, can},
         {kVersions, 1, "&Earlier Versions...", "", "", [this] { Do(deeds_.Versions); }, can},
         {kBarFavourite, 1, "-"},
     };

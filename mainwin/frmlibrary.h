@@ -18,7 +18,8 @@ struct LibraryDeeds {
     std::function<LibraryReader()> Read;
     std::function<int(const std::string& path)> FavouriteNumber;  // 1 to 5; 0: it is none
     std::function<bool(const LibraryEntry& entry)> IsInGame;      // the game holds exactly this now
-    std::function<void(const std::string&path)> Open, Play, Compare, Rename, Versions, Link, ShowInFolder, Delete;
+    std::function<void(const std::string&path)> Open, Play, Compare, Rename, CopyForFriend, Versions, Link,
+        ShowInFolder, Delete;
     std::function<void(const std::string& path, size_t slot)> MakeFavourite;  // slot counts from 0
     std::function<bool()> canDo;                                              // nothing waits before the main window
 };

@@ -62,6 +62,8 @@ std::vector<MenuRow> frmMain::MenuRows() {
         {mnuProfilesBarVersions, 1, "-"},
         {mnuProfiles_Versions, 1, "&Earlier Versions...", "", "View what saves have replaced of the file",
             [this] { profilesCommands_.mnuProfiles_Versions_Click(); }, [this] { return profilesCommands_.HasVersions(); }},
+        {mnuProfiles_Copy, 1, "Copy Without &Password...", "", "Save a copy for a friend",
+            [this] { profilesCommands_.mnuProfiles_Copy_Click(); }},
 
         {mnuHelp, 0, "&Help"},
         {mnuHelp_Contents, 1, "&Contents", "F1", "View the QUIRN Help File",

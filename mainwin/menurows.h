@@ -42,6 +42,7 @@ enum MainCommand : int {
     mnuProfilesBarVersions,
     mnuProfiles_Versions,
     mnuProfiles_Library,
+    mnuProfiles_Copy,
 };
 static_assert(mnuFile_Print == 9 && mnuFile_Close == 17 && mnuOptions_Set == 20 && mnuHelp_About == 29);
 

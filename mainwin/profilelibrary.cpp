@@ -6,7 +6,9 @@
 #include "game/settingsstore.h"
 #include "game/transfer.h"
 #include "mainwin/favourites.h"
+#include "mainwin/friendcopy.h"
 #include "mainwin/frmrename.h"
+#include "mainwin/loading.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/folders.h"
@@ -39,10 +41,6 @@ bool HasSpaces(const std::string& text) {
     return text.find(' ') != std::string::npos;
 }
 
-bool SamePath(const std::string& a, const std::string& b) {
-    return !IsUntitled(a) && EqualNoCase(AbsolutePath(a), AbsolutePath(b));
-}
-
 }  // namespace
 
 ProfileLibrary::ProfileLibrary(Form& mainWindow, Program& program, const ProfilesView& profilesView, LibraryView view)
@@ -63,6 +61,7 @@ LibraryDeeds ProfileLibrary::Deeds() {
     deeds.Play = [this](const std::string& path) { view_.Play(path); };
     deeds.Compare = [this](const std::string& path) { comparison_.Open(path); };
     deeds.Rename = [this](const std::string& path) { Rename(path); };
+    deeds.CopyForFriend = [this](const std::string& path) { SaveCopy(path); };
     deeds.Versions = [this](const std::string& path) { view_.ShowVersions(path); };
     deeds.Link = [this](const std::string& path) { MakeLink(path); };
     deeds.ShowInFolder = [this](const std::string& path) { ShowError(quirn::ShowInFolder(window_, path)); };
@@ -99,7 +98,7 @@ LibraryReader ProfileLibrary::Read() {
 
 int ProfileLibrary::FavouriteNumber(const std::string& path) const {
     for (size_t slot = 0; slot < program_.favourites.size(); ++slot)
-        if (!program_.favourites[slot].path.empty() && SamePath(program_.favourites[slot].path, path))
+        if (!program_.favourites[slot].path.empty() && IsSameFile(program_.favourites[slot].path, path))
             return static_cast<int>(slot) + 1;
     return 0;
 }
@@ -139,13 +138,22 @@ void ProfileLibrary::Rename(const std::string& path) {
 void ProfileLibrary::FollowRename(const std::string& path, const std::string& newPath) {
     ProfileVersions(program_.dataFolder, path).MoveTo(ProfileVersions(program_.dataFolder, newPath));
     for (std::string& recent : program_.recentFiles)
-        if (SamePath(recent, path)) recent = newPath;
+        if (IsSameFile(recent, path)) recent = newPath;
     for (Favourite& favourite : program_.favourites)
-        if (!favourite.path.empty() && SamePath(favourite.path, path)) favourite.path = newPath;
+        if (!favourite.path.empty() && IsSameFile(favourite.path, path)) favourite.path = newPath;
     if (mainWindow_.Caption() == DocumentTitle(VersionTitle(), path))
         mainWindow_.SetCaption(DocumentTitle(VersionTitle(), newPath));
-    if (SamePath(program_.CurrentFile, path)) program_.CurrentFile = newPath;
+    if (IsSameFile(program_.CurrentFile, path)) program_.CurrentFile = newPath;
     view_.RefreshMenus();
+}
+
+void ProfileLibrary::SaveCopy(const std::string& path) {
+    Profile profile;
+    InitCatalogue(profile);
+    if (LoadProfileAndTell(profile, path) && SaveCopyForFriend(window_, program_, profile, path)) {
+        profilesView_.SetStatus(kCopySaved);
+        window_.Refresh();
+    }
 }
 
 void ProfileLibrary::Delete(const std::string& path) {

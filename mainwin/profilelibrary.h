@@ -36,6 +36,7 @@ private:
     int FavouriteNumber(const std::string& path) const;
     bool IsInGame(const LibraryEntry& entry) const;
     void Rename(const std::string& path);
+    void SaveCopy(const std::string& path);
     void Delete(const std::string& path);
     void MakeLink(const std::string& path);
     void MakeFavourite(const std::string& path, size_t slot);

@@ -1,5 +1,6 @@
 #include "mainwin/profilescommands.h"
 
+#include "mainwin/friendcopy.h"
 #include "mainwin/frmhistory.h"
 #include "mainwin/frmundo.h"
 #include "mainwin/frmversions.h"
@@ -75,6 +76,13 @@ void ProfilesCommands::mnuProfiles_History_Click() {
     const std::optional<TransferEntry> shown = history.Ask(mainWindow_);
     if (shown) ShowError(transferComparison_.Open(log, *shown, {}));
     LookSoon();
+}
+
+void ProfilesCommands::mnuProfiles_Copy_Click() {
+    const Profile profile = WindowProfile(program_, view_);
+    if (!SaveCopyForFriend(mainWindow_, program_, profile, program_.CurrentFile)) return;
+    view_.SetStatus(kCopySaved);
+    library_.Refresh();
 }
 
 void ProfilesCommands::ShowVersions(const std::string& path) {

@@ -25,6 +25,7 @@ public:
     void mnuProfiles_Undo_Click();
     void mnuProfiles_History_Click();
     void mnuProfiles_Versions_Click() { ShowVersions(std::string(program_.CurrentFile)); }
+    void mnuProfiles_Copy_Click();
 
     bool HasGameFolder() const;
     bool HasTransfer() const;

@@ -9,11 +9,15 @@
 
 namespace quirn {
 
-CompareSide WindowSide(Program& program, const ProfilesView& view) {
+Profile WindowProfile(Program& program, const ProfilesView& view) {
     const Profile before = program.profile;
     view.CollectProfile();
+    return std::exchange(program.profile, before);
+}
+
+CompareSide WindowSide(Program& program, const ProfilesView& view) {
     const std::string& file = program.CurrentFile;
-    return SideOf(IsUntitled(file) ? file : SplitPath(file).File(), std::exchange(program.profile, before));
+    return SideOf(IsUntitled(file) ? file : SplitPath(file).File(), WindowProfile(program, view));
 }
 
 CompareSide FileSide(const std::string& caption, const std::string& file) {

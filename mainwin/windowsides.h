@@ -9,7 +9,9 @@
 // The main window's profile and QRN files as sides of a comparison.
 namespace quirn {
 
-// What is being edited stays in the controls: looking takes nothing into the profile.
+// The profile as the window shows it. What is being edited stays in the controls: looking takes nothing into the
+// program's profile.
+Profile WindowProfile(Program& program, const ProfilesView& view);
 CompareSide WindowSide(Program& program, const ProfilesView& view);
 
 // A column without texts when the file is no profile or not there.

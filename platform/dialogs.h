@@ -43,6 +43,7 @@ struct FileDialog {
     std::string folder;   // to start in; an unusable one is the system's choice
     std::string fileName;
     unsigned flags = 0;
+    const char* ending = nullptr;  // "qrn": what a typed name without one gets
 };
 
 // The chosen full path; nothing when the player cancels. Neither changes the process's current folder.

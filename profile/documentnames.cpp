@@ -2,10 +2,15 @@
 
 #include <algorithm>
 
+#include "platform/files.h"
 #include "platform/text.h"
 #include "profile/splitpath.h"
 
 namespace quirn {
+
+bool IsSameFile(const std::string& a, const std::string& b) {
+    return !IsUntitled(a) && !IsUntitled(b) && EqualNoCase(AbsolutePath(a), AbsolutePath(b));
+}
 
 std::string DocumentTitle(const std::string& baseTitle, const std::string& file) {
     return baseTitle + " - " + (IsUntitled(file) ? file : SplitPath(file).File());

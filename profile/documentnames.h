@@ -14,6 +14,9 @@ inline bool IsUntitled(const std::string& file) {
     return file.starts_with('<');
 }
 
+// Whether two paths name one file. A name in "<>" is no file.
+bool IsSameFile(const std::string& a, const std::string& b);
+
 // The main window's title: base title, " - ", and the file without its folder.
 std::string DocumentTitle(const std::string& baseTitle, const std::string& file);
 

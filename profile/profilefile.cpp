@@ -114,12 +114,10 @@ bool IsUnicode(std::string_view bytes) {
     return bytes.starts_with("\xEF\xBB\xBF") || bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
 }
 
-// Makes the unfinished file: the sections written over what the path holds.
-Failure WriteSections(FileReplacer& file, const std::string& path, const std::vector<SavedSection>& sections) {
+// Makes the unfinished file: the sections written over the old text.
+Failure WriteSections(FileReplacer& file, const std::string& path, const std::string& old,
+                      const std::vector<SavedSection>& sections) {
     if (Failure failure = file.Open(path)) return failure;
-    const Result<std::string> read = ReadWholeFile(path);
-    if (read.Failed() && !IsMissingFile(read.Error())) return read.Error();
-    const std::string old = read.Failed() ? std::string() : read.Value();
     // Also for the macro file, which is smaller than one section: both are saved or none.
     if (DiskIsFull(path, old.size() + RoomNeeded(sections))) return MakeError(ErrorNumber::DiskFull);
 
@@ -175,9 +173,12 @@ LoadResult LoadProfile(Profile& profile, const std::string& fileName) {
 
 Failure SaveProfile(const Profile& profile, const std::string& gameFolder, const std::string& fileName) {
     const std::string path = AbsolutePath(fileName);
+    const Result<std::string> read = ReadWholeFile(path);
+    if (read.Failed() && !IsMissingFile(read.Error())) return read.Error();
+    const std::string old = read.Failed() ? std::string() : read.Value();
     std::vector<SavedSection> sections = SavedSections(profile);
     FileReplacer file;
-    if (Failure failure = WriteSections(file, path, sections)) return failure;
+    if (Failure failure = WriteSections(file, path, old, sections)) return failure;
 
     // The macro file is replaced only when the profile is safe. A profile that has got this very name goes before.
     const std::string macroFile = gameFolder + "\\" + SplitPath(path).name + ".ssm";
@@ -185,10 +186,16 @@ Failure SaveProfile(const Profile& profile, const std::string& gameFolder, const
     if (!EqualNoCase(AbsolutePath(macroFile), path)) macroFailure = WriteWholeFile(macroFile, MacroFileText(profile));
     if (macroFailure) {
         sections.pop_back();  // HiddenOptions come after the macro file
-        if (Failure failure = WriteSections(file, path, sections)) return failure;
+        if (Failure failure = WriteSections(file, path, old, sections)) return failure;
     }
     if (Failure failure = file.Finish()) return failure;
     return macroFailure;
+}
+
+Failure SaveProfileCopy(const Profile& profile, const std::string& fileName) {
+    FileReplacer file;
+    if (Failure failure = WriteSections(file, AbsolutePath(fileName), "", SavedSections(profile))) return failure;
+    return file.Finish();
 }
 
 }  // namespace quirn

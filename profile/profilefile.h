@@ -25,4 +25,8 @@ LoadResult LoadProfile(Profile& profile, const std::string& fileName);
 // HiddenOptions, and the error returned.
 Failure SaveProfile(const Profile& profile, const std::string& gameFolder, const std::string& fileName);
 
+// Writes a profile that is for somebody else: nothing of an older file of this name stays in it, and there is no macro
+// file. On failure the old file is whole.
+Failure SaveProfileCopy(const Profile& profile, const std::string& fileName);
+
 }  // namespace quirn

@@ -50,6 +50,7 @@ std::optional<std::string> AskFile(const FileDialog& dialog, FileFunction ask) {
     record.lpstrFile = path.data();
     record.nMaxFile = kLongestPath;
     record.lpstrInitialDir = dialog.folder.empty() ? nullptr : dialog.folder.c_str();
+    record.lpstrDefExt = dialog.ending;
     record.lpstrTitle = dialog.title.empty() ? nullptr : dialog.title.c_str();
     record.Flags = dialog.flags | OFN_EXPLORER | OFN_NOCHANGEDIR;
     // The system promises to leave the current folder alone only in the dialog to save.

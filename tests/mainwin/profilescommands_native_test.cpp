@@ -3,8 +3,11 @@
 #include "mainwin/frmmain.h"
 #include "mainwin/menurows.h"
 #include "mainwin/transferwords.h"
+#include "platform/files.h"
+#include "platform/headless/dialogs.h"
 #include "platform/headless/events.h"
 #include "platform/headless/headless.h"
+#include "profile/versions.h"
 #include "tests/auxiliary/controlsof.h"
 #include "tests/testing/profiles.h"
 #include "tests/testing/userinput.h"
@@ -91,6 +94,42 @@ TEST_F(ProfilesCommandsTest, ATransferIsShownAndItsTickedRowsGoBack) {
     Click(ButtonOf(compare, "&Put Back"));
     EXPECT_EQ(GetValue("Software\\Virgin\\SubSpace\\Messages", "ShiftF2")->bytes, "\"a\\b\xE9\0"s);
     EXPECT_EQ(FileBytes(Scratch() + "\\ignore.txt"), "# friends\nMole\nOrla\n");
+}
+
+TEST_F(ProfilesCommandsTest, ACopyForAFriendHoldsNoSecretsAndTouchesNothingElse) {
+    const std::string own = Scratch() + "\\DUEL.QRN";
+    const std::string copy = Scratch() + "\\DUEL-copy.qrn";
+    const std::string old = "[IgnoreList]\r\nIgnore2=Orla\r\n[Dialog]\r\nPlayerPassword=older\r\n";
+    PutFile(own, "mine");
+    PutFile(copy, old);
+    program_.CurrentFile = own;
+    program_.qrnFolder = Scratch();
+    Profile& profile = program_.profile;
+    profile.Dialog.Value(kPlayerPassword) = "secret";
+    profile.Dialog.Value(kProxyIP) = "192.0.2.1";
+    profile.Messages.Value(1) = "hello";
+    profile.IgnoreList = {"Mole"};
+    profile.WaveFiles = {"C:\\me\\a.wav", "C:\\me\\b.wav"};
+    main_.ShowProfile();
+    headless::PostAfter(10, [] {
+        Form& dialog = *headless::LoadedForms().back();
+        Click(ControlOf<CheckBox>(dialog, "&Wave messages"));
+        Click(ButtonOf(dialog, "&Save As..."));
+    });
+    headless::ExpectSaveFile("Copy Without Password", own);
+    ExpectMessage("The copy needs a name of its own: " + own + " is the profile itself.", kExclamation);
+    headless::ExpectSaveFile("Copy Without Password", copy);
+    Choose(mnuProfiles_Copy);
+
+    const std::string text = FileBytes(copy).value();
+    for (const char* gone : {"secret", "older", "192.0.2.1", "Mole", "Orla"})
+        EXPECT_EQ(text.find(gone), std::string::npos) << gone;
+    for (const char* there : {"ShiftF1=hello\r\n", "WaveFileF11=C:\\me\\a.wav\r\n"})
+        EXPECT_NE(text.find(there), std::string::npos) << there;
+    EXPECT_EQ(FileBytes(own), "mine");
+    EXPECT_FALSE(FileBytes(Scratch() + "\\DUEL-copy.ssm"));
+    EXPECT_EQ(program_.CurrentFile + program_.recentFiles[0], own);
+    EXPECT_EQ(ReadWholeFile(ProfileVersions(program_.dataFolder, copy).List().at(0).file).Value(), old);
 }
 
 TEST_F(ProfilesCommandsTest, AnyKeptStateComesBackFromTheHistory) {

@@ -8,6 +8,7 @@
 #include "logedit/frmlogedit.h"
 #include "mainwin/frmcompare.h"
 #include "mainwin/frmconfig.h"
+#include "mainwin/frmfriendcopy.h"
 #include "mainwin/frmhistory.h"
 #include "mainwin/frmlibrary.h"
 #include "mainwin/frmmain.h"
@@ -119,6 +120,9 @@ TEST_F(LayoutsTest, NothingStandsOutsideOrAcrossAnother) {
     frmVersions versions(entry.note.profile, kept, {});
     versions.Load();
     CheckSizes(versions, "earlier versions");
+    frmFriendCopy copy;
+    copy.Load();
+    Check(copy, "copy for a friend");
     frmRename rename("DUEL.QRN");
     rename.Load();
     Check(rename, "rename");
