@@ -107,6 +107,11 @@ GameState PlanTransfer(const GameSettings& now, const Profile& profile, const st
     return plan;
 }
 
+bool GameHolds(const GameSettings& now, const Profile& profile, const std::string& gameFolder) {
+    if (!Difference(PlanTransfer(now, profile, kNotSet), {now, {}}).IsEmpty()) return false;
+    return Difference(PlanTransfer(now, profile, gameFolder), {now, ReadGameFiles(gameFolder)}).IsEmpty();
+}
+
 TransferResult TransferToGame(const Profile& profile, const std::string& gameFolder, const TransferLog& log,
                               const TransferNote& note) {
     const auto plan = [&](const GameSettings& now) { return PlanTransfer(now, profile, gameFolder); };

@@ -27,6 +27,9 @@ struct TransferResult {
 // value of another type, a number that does not fit), and the files that it brings. Nothing is changed.
 GameState PlanTransfer(const GameSettings& now, const Profile& profile, const std::string& gameFolder);
 
+// The game holds just what a transfer of the profile would make of it. Files are read only when all settings agree.
+bool GameHolds(const GameSettings& now, const Profile& profile, const std::string& gameFolder);
+
 // Writes a profile into the game: the one way for all commands. What fails does not stop the rest. The errors are one
 // overflow for all numbers that do not fit 32 bits; each file that cannot be written is named. Without a configured
 // game folder the files are left out, without an error: the launch that follows says what to do. What the game had is

@@ -30,16 +30,18 @@ FileCommands::FileCommands(Program& program, std::string baseTitle, FileCommands
     : program_(program), baseTitle_(std::move(baseTitle)), view_(std::move(view)) {}
 
 bool FileCommands::AskSaveChanges() {
-    switch (ShowMessage("Save changes to " + program_.CurrentFile, kYesNoCancel + kQuestion, "Save Changes?")) {
-        case Answer::Yes:
-            // Always by Save As, on purpose, also when the profile has a file.
-            if (!mnuFile_SaveAs_Click()) return false;
-            break;
-        case Answer::No: break;
-        default: return false;
-    }
+    if (!AskToSave()) return false;
     program_.dirty = false;
     return true;
+}
+
+bool FileCommands::AskToSave() {
+    switch (ShowMessage("Save changes to " + program_.CurrentFile, kYesNoCancel + kQuestion, "Save Changes?")) {
+        // Always by Save As, on purpose, also when the profile has a file.
+        case Answer::Yes: return mnuFile_SaveAs_Click();
+        case Answer::No: return true;
+        default: return false;
+    }
 }
 
 // With a clean profile nothing happens at all, on purpose.

@@ -29,6 +29,8 @@ public:
 
     // "Save changes to ...?" True: go on (saved, or the player does not want to); false: stop.
     bool AskSaveChanges();
+    // The same for a player who goes on with edits in the window: those that are not saved stay marked.
+    bool AskToSave();
 
     void mnuFile_New_Click();
     void mnuFile_Open_Click();

@@ -99,7 +99,7 @@ frmMain::frmMain(Program& program)
               .RefreshMenus =
                   [this] {
                       RefreshRecentMenu(menuBar_, program_.recentFiles);
-                      trayCommands_.BuildFavouritesMenu();
+                      ShowFavourites();
                   },
               .ShowKeepRow = [this](bool some) { trayCommands_.ShowKeepRow(some); },
           }) {
@@ -128,6 +128,7 @@ frmMain::frmMain(Program& program)
     trayCommands_.onFillFavourite = [this] { ShowOptions(true); };
 
     HideRecentMenu(menuBar_);
+    ShowFavourites();
     SSTab1.onClick = [this] { picker_.Close(); };
 
     onLoad = [this] { Form_Load(); };
@@ -141,7 +142,7 @@ frmMain::frmMain(Program& program)
 void frmMain::Form_Load() {
     Move(ReadMainPlace(Place()));
     ReadLists(program_);
-    trayCommands_.BuildFavouritesMenu();
+    ShowFavourites();
     RefreshRecentMenu(menuBar_, program_.recentFiles);
     Form_Resize();
     // A second copy finds the first by the start of this text.
@@ -266,7 +267,7 @@ void frmMain::mnuHelp_About_Click() {
 }
 
 void frmMain::ShowOptions(bool favourites) {
-    frmOptions dialog(program_, [this] { trayCommands_.BuildFavouritesMenu(); });
+    frmOptions dialog(program_, [this] { ShowFavourites(); });
     if (favourites) dialog.SelectTab(frmOptions::kFavourites);
     dialog.ShowModal(*this);
     profilesCommands_.LookSoon();
@@ -276,6 +277,25 @@ void frmMain::Command3_Click() {
     if (program_.dirty && !fileCommands_.AskSaveChanges()) return;
     CollectProfile();
     if (launcher_.TransferAndLaunch(program_.profile, {program_.CurrentFile, TransferWay::Run})) Hide();
+}
+
+// The question is Run's; the favourite is played from a copy, so what is not saved stays in the window.
+void frmMain::mnuProfilesFav_Click(size_t slot) {
+    if (program_.dirty && !fileCommands_.AskToSave()) return;
+    trayCommands_.Play(std::string(program_.favourites[slot].path));
+}
+
+void frmMain::ShowFavourites() {
+    trayCommands_.BuildFavouritesMenu();
+    bool any = false;
+    for (size_t i = 0; i < program_.favourites.size(); ++i) {
+        const Favourite& favourite = program_.favourites[i];
+        const int command = mnuProfilesFav + static_cast<int>(i);
+        menuBar_.SetCaption(command, "&" + std::to_string(i + 1) + " " + DoubleAmpersands(favourite.name));
+        menuBar_.SetVisible(command, !favourite.IsEmpty());
+        any |= !favourite.IsEmpty();
+    }
+    menuBar_.SetVisible(mnuProfilesBarFav, any);
 }
 
 void frmMain::Command4_Click() {

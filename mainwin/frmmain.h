@@ -48,6 +48,8 @@ private:
 
     void Command3_Click();
     void Command4_Click();
+    void mnuProfilesFav_Click(size_t slot);
+    void ShowFavourites();  // their names in the menus
     void ShowOptions(bool favourites);
     void ShowMacros();
     void CollectMacros();

@@ -13,6 +13,12 @@ std::vector<MenuRow> frmMain::MenuRows() {
     const auto recent = [this](size_t i) {
         return MenuRow{mnuFileMRU + static_cast<int>(i), 1, "", "", "", [this, i] { fileCommands_.mnuFileMRU_Click(i); }};
     };
+    // These five and the bar above show when there are favourites.
+    const auto favourite = [this](size_t i) {
+        static constexpr const char* kKeys[] = {"Ctrl+1", "Ctrl+2", "Ctrl+3", "Ctrl+4", "Ctrl+5"};
+        return MenuRow{mnuProfilesFav + static_cast<int>(i), 1, "", kKeys[i], "Write this favourite into the game and start it",
+                       [this, i] { mnuProfilesFav_Click(i); }, [this, i] { return !program_.favourites[i].IsEmpty(); }};
+    };
     return {
         {mnuFile, 0, "&File"},
         {mnuFile_New, 1, "&New", "Ctrl+N", "Clear macros and set defaults for a new profile",
@@ -64,6 +70,8 @@ std::vector<MenuRow> frmMain::MenuRows() {
             [this] { profilesCommands_.mnuProfiles_Versions_Click(); }, [this] { return profilesCommands_.HasVersions(); }},
         {mnuProfiles_Copy, 1, "Copy Without &Password...", "", "Save a copy for a friend",
             [this] { profilesCommands_.mnuProfiles_Copy_Click(); }},
+        {mnuProfilesBarFav, 1, "-"},
+        favourite(0), favourite(1), favourite(2), favourite(3), favourite(4),
 
         {mnuHelp, 0, "&Help"},
         {mnuHelp_Contents, 1, "&Contents", "F1", "View the QUIRN Help File",

@@ -43,6 +43,8 @@ enum MainCommand : int {
     mnuProfiles_Versions,
     mnuProfiles_Library,
     mnuProfiles_Copy,
+    mnuProfilesBarFav,
+    mnuProfilesFav,  // the first of five
 };
 static_assert(mnuFile_Print == 9 && mnuFile_Close == 17 && mnuOptions_Set == 20 && mnuHelp_About == 29);
 

@@ -111,9 +111,8 @@ bool ProfileLibrary::IsInGame(const LibraryEntry& entry) const {
     if (name == dialog->second.end() || TextOfStored(name->second) != entry.pilot) return false;
     Profile profile;
     InitCatalogue(profile);
-    if (LoadProfile(profile, entry.path) > LoadResult::LoadedFromEarlierVersion) return false;
-    const GameState plan = PlanTransfer(game_, profile, program_.gameFolder);
-    return Difference(plan, {game_, ReadGameFiles(program_.gameFolder)}).IsEmpty();
+    return LoadProfile(profile, entry.path) <= LoadResult::LoadedFromEarlierVersion &&
+           GameHolds(game_, profile, program_.gameFolder);
 }
 
 void ProfileLibrary::Rename(const std::string& path) {

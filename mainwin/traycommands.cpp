@@ -1,7 +1,10 @@
 #include "mainwin/traycommands.h"
 
+#include "game/settingsstore.h"
 #include "mainwin/loading.h"
 #include "mainwin/menurows.h"
+#include "platform/files.h"
+#include "platform/folders.h"
 #include "platform/text.h"
 
 namespace quirn {
@@ -35,7 +38,24 @@ void TrayCommands::Tray_Mouse(unsigned message) {
         return;
     }
     if (message == kMouseLeftDoubleClick) mnuPUTrayIcon_Open_Click();
-    if (message == kMouseRightDown) mainWindow_.PopUpMenu(mnuPUTrayIcon, mnuPUTrayIcon_Open);
+    if (message == kMouseRightDown) {
+        TickFavourites();
+        mainWindow_.PopUpMenu(mnuPUTrayIcon, mnuPUTrayIcon_Open);
+    }
+}
+
+// Which of them the game holds now. A file on another computer is not looked at: the menu must open at once.
+void TrayCommands::TickFavourites() {
+    const Result<GameSettings> game = ReadGameSettings();
+    for (size_t i = 0; i < program_.favourites.size(); ++i) {
+        const Favourite& favourite = program_.favourites[i];
+        Profile profile;
+        InitCatalogue(profile);
+        const bool holds = !game.Failed() && !favourite.IsEmpty() && IsOnLocalDisk(AbsolutePath(favourite.path)) &&
+                           LoadProfile(profile, favourite.path) <= LoadResult::LoadedFromEarlierVersion &&
+                           GameHolds(game.Value(), profile, program_.gameFolder);
+        mnuPUTrayIcon.SetChecked(mnuPUTrayIcon_Fav + static_cast<int>(i), holds);
+    }
 }
 
 void TrayCommands::mnuPUTrayIcon_Open_Click() {

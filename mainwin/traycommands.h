@@ -31,6 +31,7 @@ public:
 
 private:
     void Tray_Mouse(unsigned message);
+    void TickFavourites();
     std::vector<MenuRow> MenuRows();
     void mnuPUTrayIcon_Open_Click();
     void mnuPUTrayIcon_Fav_Click(size_t slot);

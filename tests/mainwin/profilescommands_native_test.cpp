@@ -7,6 +7,7 @@
 #include "platform/headless/dialogs.h"
 #include "platform/headless/events.h"
 #include "platform/headless/headless.h"
+#include "profile/profilefile.h"
 #include "profile/versions.h"
 #include "tests/auxiliary/controlsof.h"
 #include "tests/testing/profiles.h"
@@ -17,6 +18,7 @@ namespace {
 
 using namespace test;
 using namespace std::string_literals;
+using headless::TheWorld;
 
 TEST(NoticeTest, TellsTheWorstFirst) {
     NoticeFacts facts;
@@ -130,6 +132,32 @@ TEST_F(ProfilesCommandsTest, ACopyForAFriendHoldsNoSecretsAndTouchesNothingElse)
     EXPECT_FALSE(FileBytes(Scratch() + "\\DUEL-copy.ssm"));
     EXPECT_EQ(program_.CurrentFile + program_.recentFiles[0], own);
     EXPECT_EQ(ReadWholeFile(ProfileVersions(program_.dataFolder, copy).List().at(0).file).Value(), old);
+}
+
+// The favourite comes from its file, so what is not saved stays in the window, and stays marked.
+TEST_F(ProfilesCommandsTest, AFavouritePlayedByItsKeyIsTickedAndTakesNoEdit) {
+    const std::string file = Scratch() + "\\ace.qrn";
+    Profile favourite;
+    InitCatalogue(favourite);
+    favourite.Messages.Value(1) = "of the favourite";
+    EXPECT_FALSE(SaveProfileCopy(favourite, file));
+    PutFile(Scratch() + "\\subspace.exe", "game");
+    program_.qrnFolder = Scratch();
+    main_.Show();
+    Choose(mnuProfiles_Library);
+    Press(*headless::LoadedForms().back(), '1', true);
+    program_.dirty = true;
+    ExpectMessage("Save changes to <current SS settings>", kYesNoCancel + kQuestion, Answer::No, "Save Changes?");
+    Press(main_, '1', true);
+    EXPECT_EQ(StoredMacro(), "of the favourite\0"s);
+    EXPECT_TRUE(program_.dirty);
+    const auto ticked = [] {
+        TheWorld().trayIcons.front()->UserPoints(kMouseRightDown);
+        return TheWorld().poppedUpMenus.back().menu->Find(mnuPUTrayIcon_Fav)->checked;
+    };
+    EXPECT_TRUE(ticked());
+    PutValue("Software\\Virgin\\SubSpace\\Messages", "ShiftF1", 1, "by the game\0"s);
+    EXPECT_FALSE(ticked());
 }
 
 TEST_F(ProfilesCommandsTest, AnyKeptStateComesBackFromTheHistory) {

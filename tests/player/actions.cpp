@@ -45,8 +45,8 @@ const struct {
               {"C:\\Program\\readme.txt", "Read me.\r\n"}};
 const char* const kTexts[] = {"a",  "Ace",  " ",  "%", ".", "192.0.2.1", "7",
                               "-3", "\xE9", "\"", "=", ";", "[x]",       "GZZZ-"};
-const int kKeys[] = {kKeyTab, kKeyEnter, kKeyEscape, kKeyDelete, kKeyF1, kKeyF3, kKeyF5, ' ',
-                     '%',     'A',       'C',        'D',        'F',    'N',    'O',    'S'};
+const int kKeys[] = {kKeyTab, kKeyEnter, kKeyEscape, kKeyDelete, kKeyF1, kKeyF3, kKeyF5, ' ', '%',
+                     'A',     'C',       'D',        'F',        'N',    'O',    'S',    '1', '3'};
 constexpr char kAccessKeys[] = "abcdefghilmnoprstvw";
 constexpr unsigned kTrayMessages[] = {kMouseLeftDoubleClick, kMouseRightDown, 512};
 constexpr int kPauses[] = {1, 50, 200, 1000, 4000};
@@ -217,7 +217,8 @@ void Player::PressKey(Form& form) {
     Tell("key " + std::to_string(key) + (control ? " with Ctrl in " : " in ") + form.Caption());
     if (&form == MainWindow() && control && key == 'S') Allow(Allowed::Save, program_.CurrentFile);
     if (&form == MainWindow() && control && (key == 'N' || key == 'O')) Allow(Allowed::Load);
-    if (&form == MainWindow() && control && (key == 'T' || key == 'Z')) Allow(Allowed::Transfer);
+    if (&form == MainWindow() && control && (key == 'T' || key == 'Z' || key == '1' || key == '3'))
+        Allow(Allowed::Transfer);
     if (key == kKeyEnter || key == ' ') AllowClickOn(form.ActiveControl());
     if (key != kKeyTab && (!control || key == kKeyEnter || key == ' ')) Allow(Allowed::Edit);
     if (!control && random_.OneIn(5)) PressAccessKey(form);
@@ -246,7 +247,8 @@ void Player::ChooseFromMenu(Form& form, Menu& menu) {
             Allow(Allowed::Load);
         if (command == mnuFile_Import) Allow(Allowed::Edit);
         if ((command >= mnuPUTrayIcon_Fav && command < mnuPUTrayIconBarExit) || command == mnuProfiles_Transfer ||
-            command == mnuProfiles_Undo || command == mnuProfiles_History)
+            command == mnuProfiles_Undo || command == mnuProfiles_History ||
+            (command >= mnuProfilesFav && command < mnuPUTrayIcon_Open))
             Allow(Allowed::Transfer);
         if (command == mnuProfiles_Versions) {
             Allow(Allowed::Save, program_.CurrentFile);
