@@ -1,5 +1,7 @@
 #include "game/gamerun.h"
 
+#include "game/findgame.h"
+
 namespace quirn {
 
 namespace {
@@ -16,7 +18,7 @@ GameRun::GameRun() {
 
 bool GameRun::Start(const std::string& gameFolder) {
     // A trailing backslash of the folder is doubled here; Windows does not mind.
-    if (!process_.Start(gameFolder + "\\subspace.exe", gameFolder)) return false;
+    if (!process_.Start(gameFolder + "\\" + kGameProgram, gameFolder)) return false;
     Become(State::Starting);
     timer_.SetEnabled(true);
     return true;

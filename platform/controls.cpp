@@ -282,6 +282,10 @@ void ListBox::UserSelects(const std::vector<int>& indexes) {
     CallHandler(onClick);
 }
 
+void ListBox::UserDoubleClicks(int index) {
+    if (onDoubleClick) CallHandler([&] { onDoubleClick(index); });
+}
+
 void ListBox::UserReleasesMouse() {
     CallHandler(onMouseUp);
 }

@@ -243,11 +243,13 @@ public:
 
     std::function<void()> onClick;  // the selection has changed
     std::function<void()> onMouseUp;
+    std::function<void(int index)> onDoubleClick;
     std::function<bool(int)> onKeyDown;    // a key by its virtual code; true swallows it
     std::function<bool(char)> onKeyPress;  // a character, Enter, Escape, Backspace and blank included
 
     void UserSelects(const std::vector<int>& indexes);
     void UserReleasesMouse();
+    void UserDoubleClicks(int index);
     bool UserPressesKey(int virtualKey);
     bool UserTypes(char character);
     bool KeepsKey(int key) const override;

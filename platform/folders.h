@@ -42,6 +42,9 @@ bool IsOnLocalDisk(const std::string& folder);
 // second gets a number, and so does one after the clock was set back, which then has the newest one's time.
 std::string NewPathByTime(const std::string& folder, const std::string& time, const std::string& ending);
 
+// Where programs usually lie: the system's disk and its program folders, without a trailing "\".
+std::vector<std::string> ProgramPlaces();
+
 // Where programs keep what belongs to this player on this machine, without a trailing "\"; empty when the system has no
 // such folder.
 std::string LocalDataFolder();

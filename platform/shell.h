@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/error.h"
 #include "platform/form.h"
@@ -19,6 +20,9 @@ Failure MoveToRecycleBin(Form& owner, const std::string& path);
 
 // Makes a link on the player's desktop that starts this program, or replaces the one of that name.
 Failure MakeDesktopLink(const std::string& name, const std::string& arguments);
+
+// The programs of this file name that links in the Start menu lead to, by their full paths.
+std::vector<std::string> StartMenuPrograms(const std::string& fileName);
 
 // Opens a help file at its contents. False when the file or the system's help viewer is missing.
 bool ShowHelpContents(Form& owner, const std::string& helpFile);

@@ -92,6 +92,10 @@ bool IsOnLocalDisk(const std::string& folder) {
     return folder.size() > 1 && folder[1] == ':';
 }
 
+std::vector<std::string> ProgramPlaces() {
+    return {"C:", "C:\\Program Files"};
+}
+
 std::string LocalDataFolder() {
     return TheWorld().localDataFolder;
 }

@@ -81,6 +81,7 @@ struct World {
     bool clipboardIsHeld = false;  // by another program
 
     std::vector<std::string> openedTargets;                       // by their registered programs
+    std::vector<std::string> startMenuPrograms;                   // where links lead to
     std::map<std::string, std::string, LessNoCase> desktopLinks;  // arguments of this program by name
     std::vector<std::string> shownHelp;                           // help files
     std::optional<ErrorNumber> shellFailure;                      // of both

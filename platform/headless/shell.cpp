@@ -2,6 +2,7 @@
 
 #include "platform/files.h"
 #include "platform/headless/headless.h"
+#include "platform/text.h"
 
 namespace quirn {
 
@@ -30,6 +31,13 @@ Failure MakeDesktopLink(const std::string& name, const std::string& arguments) {
     if (TheWorld().shellFailure) return MakeError(*TheWorld().shellFailure);
     TheWorld().desktopLinks[name] = arguments;
     return {};
+}
+
+std::vector<std::string> StartMenuPrograms(const std::string& fileName) {
+    std::vector<std::string> found;
+    for (const std::string& program : TheWorld().startMenuPrograms)
+        if (EqualNoCase(program.substr(program.rfind('\\') + 1), fileName)) found.push_back(program);
+    return found;
 }
 
 bool ShowHelpContents(Form&, const std::string& helpFile) {

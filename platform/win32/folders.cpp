@@ -21,6 +21,13 @@ FolderEntry EntryOf(const WIN32_FIND_DATAA& found) {
             whole(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime)};
 }
 
+// Empty when the system has no such folder.
+std::string KnownFolder(int folder) {
+    char path[MAX_PATH] = {};
+    if (SHGetFolderPathA(nullptr, folder, nullptr, SHGFP_TYPE_CURRENT, path) != S_OK) return {};
+    return path;
+}
+
 }  // namespace
 
 Result<std::vector<FolderEntry>> ListFolder(const std::string& folder) {
@@ -72,10 +79,17 @@ bool IsOnLocalDisk(const std::string& folder) {
     return folder.size() > 1 && folder[1] == ':' && GetDriveTypeA((folder.substr(0, 2) + "\\").c_str()) == DRIVE_FIXED;
 }
 
+std::vector<std::string> ProgramPlaces() {
+    std::vector<std::string> places;
+    const std::string windows = KnownFolder(CSIDL_WINDOWS);
+    if (windows.size() > 1) places.push_back(windows.substr(0, 2));
+    for (const int folder : {CSIDL_PROGRAM_FILESX86, CSIDL_PROGRAM_FILES})
+        if (std::string path = KnownFolder(folder); !path.empty()) places.push_back(std::move(path));
+    return places;
+}
+
 std::string LocalDataFolder() {
-    char path[MAX_PATH] = {};
-    if (SHGetFolderPathA(nullptr, CSIDL_LOCAL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, path) != S_OK) return {};
-    return path;
+    return KnownFolder(CSIDL_LOCAL_APPDATA);
 }
 
 }  // namespace quirn

@@ -71,6 +71,7 @@ void NewListBox(const ListBox& list) {
 }
 
 void ListBoxCommand(ListBox& list, WORD code) {
+    if (code == LBN_DBLCLK) list.UserDoubleClicks(static_cast<int>(Send(list, LB_GETCARETINDEX)));
     if (code != LBN_SELCHANGE) return;
     std::vector<int> selected;
     for (int i = 0; i < static_cast<int>(list.Items().size()); ++i)

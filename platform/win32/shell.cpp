@@ -2,13 +2,10 @@
 
 #include <windows.h>
 
-#include <objbase.h>  // these need windows.h first
-#include <shellapi.h>
-#include <shlobj.h>
-
-#include <array>
+#include <shellapi.h>  // needs windows.h first
 
 #include "platform/files.h"
+#include "platform/win32/com.h"
 #include "platform/win32/errors.h"
 #include "platform/win32/window.h"
 
@@ -34,14 +31,8 @@ RuntimeError ErrorOfShell(INT_PTR code) {
     }
 }
 
-// Some registered programs are started through COM, which the shell leaves to its caller.
-void InitCom() {
-    static const HRESULT com = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
-    (void)com;
-}
-
 Failure Execute(Form& owner, const std::string& target, const char* arguments) {
-    InitCom();
+    win32::InitCom();
     const HCURSOR before = SetCursor(LoadCursorA(nullptr, IDC_WAIT));
     const auto result = reinterpret_cast<INT_PTR>(
         ShellExecuteA(win32::WindowOf(owner), "open", target.c_str(), arguments, nullptr, SW_SHOWNORMAL));
@@ -68,32 +59,6 @@ Failure MoveToRecycleBin(Form& owner, const std::string& path) {
     deed.fFlags = FOF_ALLOWUNDO | FOF_NOCONFIRMATION | FOF_WANTNUKEWARNING | FOF_SILENT | FOF_NOERRORUI;
     const bool failed = SHFileOperationA(&deed) != 0 || deed.fAnyOperationsAborted;
     return failed && FileExists(path) ? MakeError(ErrorNumber::PathFileAccess) : Failure();
-}
-
-Failure MakeDesktopLink(const std::string& name, const std::string& arguments) {
-    InitCom();
-    char desktop[MAX_PATH] = {};
-    char program[MAX_PATH] = {};
-    IShellLinkA* link = nullptr;
-    IPersistFile* file = nullptr;
-    HRESULT result = SHGetFolderPathA(nullptr, CSIDL_DESKTOPDIRECTORY, nullptr, SHGFP_TYPE_CURRENT, desktop);
-    if (result == S_OK && GetModuleFileNameA(nullptr, program, MAX_PATH) == 0) result = E_FAIL;
-    if (result == S_OK)
-        result = CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkA,
-                                  reinterpret_cast<void**>(&link));
-    if (SUCCEEDED(result)) result = link->SetPath(program);
-    if (SUCCEEDED(result)) result = link->SetArguments(arguments.c_str());
-    if (SUCCEEDED(result)) result = link->SetWorkingDirectory(ProgramFolder().c_str());
-    if (SUCCEEDED(result)) result = link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file));
-    if (SUCCEEDED(result)) {
-        const std::string path = std::string(desktop) + "\\" + name + ".lnk";
-        std::array<wchar_t, MAX_PATH> wide{};
-        MultiByteToWideChar(CP_ACP, 0, path.c_str(), -1, wide.data(), static_cast<int>(wide.size()));
-        result = file->Save(wide.data(), TRUE);
-    }
-    if (file != nullptr) file->Release();
-    if (link != nullptr) link->Release();
-    return SUCCEEDED(result) ? Failure() : MakeError(ErrorNumber::PathFileAccess);
 }
 
 bool ShowHelpContents(Form& owner, const std::string& helpFile) {

@@ -28,6 +28,37 @@ protected:
     frmOptions dialog_{program_, [] {}};
 };
 
+TEST_F(OptionsTest, AnEmptyRowTakesTheOpenProfileAndOnlyWhatWorksIsOffered) {
+    auto& apply = ControlOf<Button>(dialog_, "Apply");
+    auto& remove = On<Button>(1, 2);
+    PutFile(Scratch() + "\\duel.qrn", "[Dialog]\r\nPlayerName=Ace\r\nServerArena=Alpha\r\n");
+    program_.CurrentFile = Scratch() + "\\duel.qrn";
+    dialog_.SelectTab(frmOptions::kFavourites);
+    EXPECT_FALSE(apply.Enabled() || remove.Enabled());
+    auto& rows = On<ListBox>(1, 0);
+    headless::ExpectOpenFile("Add Favourite QRN File", program_.CurrentFile);
+    DoubleClickItem(rows, 2);
+    EXPECT_EQ(headless::LastFileDialog().fileName, "duel.qrn");
+    EXPECT_EQ(rows.Items()[2], "Ace - Alpha");
+    DoubleClickItem(rows, 2);  // it is set: nothing to ask
+    EXPECT_TRUE(remove.Enabled());
+    Click(apply);
+    EXPECT_EQ(program_.favourites[2].path, program_.CurrentFile);
+    EXPECT_FALSE(apply.Enabled());
+}
+
+TEST_F(OptionsTest, TellsWhatALocationHas) {
+    const auto found = [this] { return On<Label>(0, 3).Text(); };
+    EXPECT_EQ(found(), "There is no subspace.exe.");
+    PutFile(Scratch() + "\\subspace.exe", "game");
+    PutFile(Scratch() + "\\favorite.lst", "Alpha Reach,a.example,5000\r\n-First\r\n");
+    headless::ExpectOpenFile("Locate Subspace.EXE", Scratch() + "\\subspace.exe");
+    Click(On<Button>(0, 2));
+    EXPECT_EQ(found(), "Found: subspace.exe, 1 zone");
+    On<TextBox>(0, 6).UserEdits("C:\\Typed");
+    EXPECT_EQ(On<Label>(0, 8).Text(), "A typed folder is not kept: use Browse.");
+}
+
 // The next transfer would write into the root of the current drive.
 TEST_F(OptionsTest, ALocationThatIsEmptiedIsNotSet) {
     headless::ExpectOpenFile("Locate Subspace.EXE", Scratch() + "\\subspace.exe");
@@ -40,7 +71,7 @@ TEST_F(OptionsTest, ALocationThatIsEmptiedIsNotSet) {
 TEST_F(OptionsTest, OnlyWhatIsChosenAndConfirmedCounts) {
     On<TextBox>(0, 1).UserEdits("C:\\Typed");
     headless::ExpectOpenFile("Default QRN File Location", Scratch() + "\\any.txt");
-    Click(On<Button>(0, 5));
+    Click(On<Button>(0, 7));
     PutFile(Scratch() + "\\nobody.qrn", "[Other]\r\n");
     dialog_.SelectTab(frmOptions::kFavourites);
     auto& rows = On<ListBox>(1, 0);

@@ -20,6 +20,7 @@ size_t Type(MaskedBox& box, const std::string& text, size_t caret);  // returns 
 size_t Paste(MaskedBox& box, const std::string& text, size_t caret);
 void Choose(ComboBox& box, int index);
 void Choose(ListBox& list, const std::vector<int>& indexes);
+void DoubleClickItem(ListBox& list, int index);
 void ClickItem(VirtualList& list, size_t item, bool shift = false, bool control = false);
 void DoubleClickItem(VirtualList& list, size_t item);
 void ChooseFromPopup(VirtualList& list, int position);  // the right button, then an item counted from 0

@@ -51,6 +51,11 @@ void Choose(ListBox& list, const std::vector<int>& indexes) {
     list.UserSelects(indexes);
 }
 
+void DoubleClickItem(ListBox& list, int index) {
+    Choose(list, {index});
+    list.UserDoubleClicks(index);
+}
+
 void ClickItem(VirtualList& list, size_t item, bool shift, bool control) {
     list.SetFocus();
     list.UserClicksItem(item, shift, control);

@@ -117,6 +117,12 @@ void Choose(ListBox& list, const std::vector<int>& indexes) {
     Tell(list, LBN_SELCHANGE);
 }
 
+void DoubleClickItem(ListBox& list, int index) {
+    Choose(list, {index});
+    Send(list, LB_SETCARETINDEX, static_cast<WPARAM>(index));
+    Tell(list, LBN_DBLCLK);
+}
+
 void ClickItem(VirtualList& list, size_t item, bool shift, bool control) {
     RECT place{};
     Send(list, LB_GETITEMRECT, item, reinterpret_cast<LPARAM>(&place));
