@@ -18,6 +18,8 @@ constexpr Bounds kOk{   1620, 1230,  1380, kButtonHeight};
 constexpr Bounds kCancel{3120, 1230, 1380, kButtonHeight};
 // clang-format on
 
+constexpr size_t kGroup = 4;  // symbols between two dashes
+
 }  // namespace
 
 frmConfig::frmConfig(const AdvancedStates& states)
@@ -32,6 +34,7 @@ frmConfig::frmConfig(const AdvancedStates& states)
     SetButtons(&Command1, &Command2);
     mskConfigCode.SetText(EncodeConfigCode(states));
     mskConfigCode.onChange = [this] { ShowWhatChanges(); };
+    mskConfigCode.onPaste = [this](const std::string& text) { return PasteCode(text); };
     // Selected, so that it can be copied, and typing or pasting replaces it.
     onActivate = [this] { mskConfigCode.SelectAll(); };
     ShowWhatChanges();
@@ -44,6 +47,16 @@ void frmConfig::ShowWhatChanges() {
     if (code.find('_') != std::string::npos) return lblChanges.SetText("Places left empty count as 0");
     lblChanges.SetText("Changes " + std::to_string(CountChanges(code, states_)) + " of " +
                        std::to_string(kSwitchesInCode) + " switches");
+}
+
+// A whole code, however a message has broken or grouped it.
+bool frmConfig::PasteCode(const std::string& text) {
+    std::string code = text;
+    std::erase_if(code, [](char c) { return c == '-' || static_cast<unsigned char>(c) <= ' '; });
+    if (code.size() != 3 * kGroup) return false;
+    mskConfigCode.SetText(code.substr(0, kGroup) + "-" + code.substr(kGroup, kGroup) + "-" + code.substr(2 * kGroup));
+    ShowWhatChanges();
+    return true;
 }
 
 void frmConfig::Command1_Click() {

@@ -19,6 +19,7 @@ public:
 
 private:
     void Command1_Click();
+    bool PasteCode(const std::string& text);
     void ShowWhatChanges();
 
     AdvancedStates states_;
