@@ -1,9 +1,11 @@
 #include "game/playerfiles.h"
 
 #include <algorithm>
+#include <array>
 #include <set>
 
 #include "platform/files.h"
+#include "platform/folders.h"
 #include "platform/text.h"
 
 namespace quirn {
@@ -42,14 +44,30 @@ Plan PlanIgnoreFile(const Profile& profile, const std::string& path) {
     return std::optional(text);
 }
 
-// The profile's wave file, unless it has none or already names the game's own.
-Plan PlanWave(const std::string& source, const std::string& target) {
+bool IsBrought(const std::string& source, const std::string& target) {
     // The first character alone decides, on purpose: every path that begins with "<" counts as not set. An empty path
     // is none either.
-    if (source.starts_with('<') || source.empty() || EqualNoCase(source, target)) return std::optional<std::string>();
+    return !source.starts_with('<') && !source.empty() && !EqualNoCase(source, target);
+}
+
+// The profile's wave file, unless it has none or already names the game's own.
+Plan PlanWave(const std::string& source, const std::string& target) {
+    if (!IsBrought(source, target)) return std::optional<std::string>();
     Result<std::string> wave = ReadWholeFile(source);
     if (wave.Failed()) return wave.Error();
     return std::optional(wave.Take());
+}
+
+// A file that cannot be read is no wave that the game would send.
+bool IsNoWave(const std::string& path) {
+    constexpr size_t kHeader = 12;
+    std::array<char, kHeader> bytes{};
+    FileReader file;
+    if (file.Open(path)) return false;
+    const Result<size_t> read = file.Read(bytes.data(), bytes.size());
+    if (read.Failed()) return false;
+    const std::string_view header(bytes.data(), read.Value());
+    return !header.starts_with("RIFF") || !header.ends_with("WAVE");
 }
 
 // The wave that a file of the game is copied from; the file itself when it is the ignore list.
@@ -119,6 +137,17 @@ Failure ReadPlayerFiles(Profile& profile, const std::string& gameFolder) {
         profile.WaveFiles[slot] = FileExists(path) ? path : kNotSet;
     }
     return failure;
+}
+
+std::optional<OddWave> FindOddWave(const Profile& profile, const std::string& gameFolder) {
+    for (size_t slot = 0; slot < profile.WaveFiles.size(); ++slot) {
+        const std::string& source = profile.WaveFiles[slot];
+        const std::string target = PathIn(gameFolder, kWaveNames[slot]);
+        if (!IsBrought(source, target)) continue;
+        const bool elsewhere = IsOnOtherComputer(source);
+        if (elsewhere || IsNoWave(target)) return OddWave{slot, source, elsewhere};
+    }
+    return std::nullopt;
 }
 
 std::vector<FileTrouble> WritePlayerFiles(const Profile& profile, const std::string& gameFolder, Flush flush) {

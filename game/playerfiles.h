@@ -43,6 +43,17 @@ struct FileTrouble {
     RuntimeError error;
 };
 
+// A wave message of a profile that the player may want to know of, since the game sends it to others and a stranger's
+// profile can name any file.
+struct OddWave {
+    size_t slot;  // 0 for F11, 1 for F12
+    std::string path;
+    bool elsewhere;  // on another computer; else it is no wave file
+};
+
+// The first of the two whose path leads to another computer or, once it is in the game, is no RIFF file of waves.
+std::optional<OddWave> FindOddWave(const Profile& profile, const std::string& gameFolder);
+
 // The ignore list and the two waves, from the game or to it. What fails does not stop the rest.
 Failure ReadPlayerFiles(Profile& profile, const std::string& gameFolder);
 std::vector<FileTrouble> WritePlayerFiles(const Profile& profile, const std::string& gameFolder,

@@ -27,10 +27,13 @@ bool Launcher::Transfer(const Profile& profile, const TransferNote& note) {
 }
 
 bool Launcher::Write(const Profile& profile, const TransferNote& note) {
-    return ShowResult(TransferToGame(profile, program_.gameFolder, TransferLog(program_.dataFolder), note));
+    const TransferResult result = TransferToGame(profile, program_.gameFolder, TransferLog(program_.dataFolder), note);
+    oddWave_ = FindOddWave(profile, program_.gameFolder);
+    return ShowResult(result);
 }
 
 bool Launcher::PutIntoGame(const GameState& part, const std::string& gameFolder, const TransferNote& note) {
+    oddWave_.reset();
     return ShowResult(quirn::PutIntoGame(part, gameFolder, TransferLog(program_.dataFolder), note));
 }
 

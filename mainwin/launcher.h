@@ -36,6 +36,10 @@ public:
     // The last transfer could be kept.
     bool KeptLast() const { return keptLast_; }
 
+    // A wave message of the last profile that went into the game, for as long as the player has not accepted it.
+    const std::optional<OddWave>& OddWaveMessage() const { return oddWave_; }
+    void AcceptOddWave() { oddWave_.reset(); }
+
     std::function<void()> onChange;  // the game has been started or has ended, or its settings have been changed
 
 private:
@@ -45,6 +49,7 @@ private:
 
     const Program& program_;
     bool keptLast_ = true;
+    std::optional<OddWave> oddWave_;
     GameRun game_;
     frmRunBox runBox_;
 };

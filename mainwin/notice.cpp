@@ -13,12 +13,21 @@ std::string WhatTheGameChanged(const NoticeFacts& facts) {
     return std::to_string(facts.changes) + (facts.changes == 1 ? " setting" : " settings");
 }
 
+// Others hear what the game sends.
+Notice NoticeOf(const OddWave& wave) {
+    const std::string key = wave.slot == 0 ? "Shift-F11: " : "Shift-F12: ";
+    const std::string what = wave.elsewhere ? " lies on another computer." : " is no wave file.";
+    return {key + (wave.elsewhere ? wave.path : SplitPath(wave.path).File()) + what + " The game sends it to others.",
+            "Accept", Notice::Action::AcceptWave};
+}
+
 }  // namespace
 
 Notice WorstOf(const NoticeFacts& facts) {
     if (facts.unfinished) return {"The last transfer was not finished.", "Put back...", Notice::Action::Undo};
     if (facts.notKept) return {"The last transfer could not be kept: no way back."};
     if (facts.versionNotKept) return {"The file that was saved over could not be kept."};
+    if (facts.oddWave) return NoticeOf(*facts.oddWave);
     if (facts.gameRuns) return {"The game runs: it writes its own settings at its end."};
     if (facts.noSettings) return {"The game has no settings yet. Start it once by itself."};
     if (facts.folderChanged) return {"The game folder has changed. Start QUIRN again first."};

@@ -1,14 +1,18 @@
 #pragma once
 
+#include <optional>
 #include <string>
+
+#include "game/playerfiles.h"
 
 // What the main window tells beside its Run button: one thing at a time, the most harmful first.
 namespace quirn {
 
 struct NoticeFacts {
-    bool unfinished = false;      // the last transfer was cut off
-    bool notKept = false;         // the last transfer changed the game, and there is no way back
-    bool versionNotKept = false;  // the last save replaced a file, and there is no way back
+    bool unfinished = false;         // the last transfer was cut off
+    bool notKept = false;            // the last transfer changed the game, and there is no way back
+    bool versionNotKept = false;     // the last save replaced a file, and there is no way back
+    std::optional<OddWave> oddWave;  // that the last transfer brought
     bool gameRuns = false;
     bool noSettings = false;     // the game has no registry keys
     bool folderChanged = false;  // since the profile in the window was read from the game
@@ -19,7 +23,7 @@ struct NoticeFacts {
 };
 
 struct Notice {
-    enum class Action { None, Undo, Keep };
+    enum class Action { None, Undo, Keep, AcceptWave };
     std::string text;
     std::string link = {};  // empty: none
     Action action = Action::None;

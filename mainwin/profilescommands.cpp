@@ -142,6 +142,10 @@ bool ProfilesCommands::HasTransfer() const {
 void ProfilesCommands::FollowNotice(Notice::Action action) {
     if (action == Notice::Action::Undo) mnuProfiles_Undo_Click();
     if (action == Notice::Action::Keep) comparison_.OpenWithChanges();
+    if (action == Notice::Action::AcceptWave) {
+        launcher_.AcceptOddWave();
+        LookSoon();
+    }
 }
 
 void ProfilesCommands::CloseWindows() {
@@ -178,6 +182,7 @@ NoticeFacts ProfilesCommands::Facts() const {
     facts.unfinished = last && !last->finished;
     facts.notKept = !launcher_.KeptLast();
     facts.versionNotKept = !program_.keptLastVersion;
+    facts.oddWave = launcher_.OddWaveMessage();
     facts.gameRuns = launcher_.GameIsRunning();
     facts.noSettings = !settings.Failed() && settings.Value().empty();
     facts.folderChanged = !EqualNoCase(program_.gameFolder, firstGameFolder_);

@@ -38,6 +38,9 @@ Failure RenameEntry(const std::string& from, const std::string& to);
 // True for a folder on a disk of this machine. No network and no empty drive is asked.
 bool IsOnLocalDisk(const std::string& folder);
 
+// True for a path that leads over the network: one of a share, or on a drive that stands for one.
+bool IsOnOtherComputer(const std::string& path);
+
 // A path in the folder that nothing has yet, for what is kept by its time. It sorts behind all others: one of the same
 // second gets a number, and so does one after the clock was set back, which then has the newest one's time.
 std::string NewPathByTime(const std::string& folder, const std::string& time, const std::string& ending);

@@ -92,6 +92,10 @@ bool IsOnLocalDisk(const std::string& folder) {
     return folder.size() > 1 && folder[1] == ':';
 }
 
+bool IsOnOtherComputer(const std::string& path) {
+    return path.starts_with("\\\\");
+}
+
 std::vector<std::string> ProgramPlaces() {
     return {"C:", "C:\\Program Files"};
 }

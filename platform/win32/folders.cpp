@@ -79,6 +79,12 @@ bool IsOnLocalDisk(const std::string& folder) {
     return folder.size() > 1 && folder[1] == ':' && GetDriveTypeA((folder.substr(0, 2) + "\\").c_str()) == DRIVE_FIXED;
 }
 
+bool IsOnOtherComputer(const std::string& path) {
+    if (path.starts_with("\\\\?\\") || path.starts_with("\\\\.\\")) return path.substr(4).starts_with("UNC\\");
+    return path.starts_with("\\\\") ||
+           (path.size() > 1 && path[1] == ':' && GetDriveTypeA((path.substr(0, 2) + "\\").c_str()) == DRIVE_REMOTE);
+}
+
 std::vector<std::string> ProgramPlaces() {
     std::vector<std::string> places;
     const std::string windows = KnownFolder(CSIDL_WINDOWS);

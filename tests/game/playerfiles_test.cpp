@@ -71,6 +71,20 @@ TEST_F(PlayerFilesTest, FindsTheGamesOwnWaves) {
     EXPECT_EQ(profile_.WaveFiles[1], wave1_);
 }
 
+// A stranger's profile can name any file, and the game sends it on.
+TEST_F(PlayerFilesTest, NamesAWaveThatIsNone) {
+    const std::string diary = Scratch() + "\\diary.txt";
+    PutFile(diary, "dear diary");
+    profile_.WaveFiles = {kNotSet, diary};
+    EXPECT_TRUE(WritePlayerFiles(profile_, game_).empty());
+    ASSERT_TRUE(FindOddWave(profile_, game_));
+    EXPECT_EQ(FindOddWave(profile_, game_)->path, diary);
+    PutFile(wave1_, "RIFF\x24\x01\x01\x01WAVEfmt ");
+    EXPECT_FALSE(FindOddWave(profile_, game_));
+    profile_.WaveFiles[0] = "\\\\server\\share\\x.wav";
+    EXPECT_TRUE(FindOddWave(profile_, game_)->elsewhere);
+}
+
 TEST_F(PlayerFilesTest, CopiesWavesUnlessNotSetOrTheGamesOwn) {
     const std::string source = Scratch() + "\\ping.wav";
     PutFile(source, "ping");

@@ -27,6 +27,9 @@ TEST(NoticeTest, TellsTheWorstFirst) {
     facts.since = "2004-03-13 09.05.59";
     EXPECT_EQ(WorstOf(facts).text, "The game changed 1 setting since 2004-03-13 09:05.");
     EXPECT_EQ(WorstOf(facts).action, Notice::Action::Keep);
+    facts.oddWave = OddWave{1, "C:\\me\\diary.txt", false};
+    EXPECT_EQ(WorstOf(facts).text, "Shift-F12: diary.txt is no wave file. The game sends it to others.");
+    facts.oddWave.reset();
     facts.gameRuns = true;
     EXPECT_EQ(WorstOf(facts).link, "");
     facts.unfinished = true;
