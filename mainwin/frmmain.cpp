@@ -12,6 +12,7 @@
 #include "mainwin/loading.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
+#include "platform/settings.h"
 #include "platform/shell.h"
 #include "platform/text.h"
 #include "platform/version.h"
@@ -39,6 +40,7 @@ constexpr Bounds kDistinguish{  4560, 3720, 2400, kCheckHeight};
 constexpr const SettingRow& kDistinguishRow = setting::Find(setting::Group::Options, "Distinguish");
 
 constexpr int kMacrosShiftPage = 4;
+constexpr char kToldOfTray[] = "ToldOfTray";  // once ever
 constexpr char kHelpPage[] = "\\help.html";
 
 }  // namespace
@@ -127,6 +129,7 @@ frmMain::frmMain(Program& program)
     trayCommands_.onKeepChanges = [this] { profilesCommands_.FollowNotice(Notice::Action::Keep); };
     trayCommands_.onFillFavourite = [this] { ShowOptions(true); };
 
+    identityPage_.onZoneInList = [this](const std::string& zone) { StatusBar1.SetText(zone); };
     HideRecentMenu(menuBar_);
     ShowFavourites();
     SSTab1.onClick = [this] { picker_.Close(); };
@@ -180,6 +183,12 @@ void frmMain::mnuFile_Close_Click() {
     if (!trayCommands_.Icon().IsThere())
         ShowMessage("QUIRN is still running, but its icon has gone from the tray. Start QUIRN again to see its window.",
                     kInformation);
+    else if (!program_.quiet && GetNumberSetting(kSettings, kToldOfTray, 0) == 0) {
+        SaveSetting(kSettings, kToldOfTray, "1");
+        trayCommands_.Icon().ShowBalloon("QUIRN is still here",
+                                         "A double click on this icon brings the window back. "
+                                         "The right button plays a favourite or ends QUIRN.");
+    }
 }
 
 bool frmMain::Form_Unload() {

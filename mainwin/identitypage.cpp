@@ -113,7 +113,11 @@ IdentityPage::IdentityPage(TabStrip& strip, Profile& profile, Edited edited)
     cmbResolution.onClick = edited_;
     Check1.onClick = [this] { Check1_Click(); };
     cmbZone.onClick = [this] { cmbZone_Click(); };
-    cmbZone.onHighlight = [this](int index) { ShowZone(index); };
+    cmbZone.onHighlight = [this](int index) {
+        ShowZone(index);
+        TellZone(true);
+    };
+    cmbZone.onOpen = [this](bool open) { TellZone(open); };
     chkUseProxy.onClick = [this] { chkUseProxy_Click(); };
     txtChatName.onLostFocus = [this] { txtChatName_LostFocus(); };
 }
@@ -134,10 +138,7 @@ void IdentityPage::Show() {
     cmbZone.SetListIndex(zone);
     ShowZone(zone);
 
-    for (size_t i = 0; i < lblWaveFileName.size(); ++i) {
-        lblWaveFileName[i].SetText(profile_.WaveFiles[i]);
-        lblWaveFileName[i].SetToolTip(profile_.WaveFiles[i]);
-    }
+    for (size_t i = 0; i < lblWaveFileName.size(); ++i) ShowWave(i, profile_.WaveFiles[i]);
     // Only the width counts, on purpose: the item of the list decides both.
     cmbResolution.SetListIndex(ResolutionIndex(profile_.Options.Value(kResolutionX)));
 
@@ -200,6 +201,20 @@ void IdentityPage::ShowZone(int index) {
     lblZoneDesc.SetToolTip(zone.description);
 }
 
+void IdentityPage::TellZone(bool listOpen) {
+    const std::string& description = lblZoneDesc.Text();
+    if (onZoneInList)
+        onZoneInList(listOpen ? lblServerIP.Text() + "  Port " + lblServerPort.Text() +
+                                    (description.empty() ? "" : "  " + description)
+                              : "");
+}
+
+void IdentityPage::ShowWave(size_t slot, const std::string& path) {
+    lblWaveFileName[slot].SetText(path);
+    lblWaveFileName[slot].SetToolTip(path);
+    cmdWavePlay[slot].SetEnabled(!path.starts_with('<') && !path.empty());
+}
+
 void IdentityPage::chkUseProxy_Click() {
     EnableProxy();
     edited_();
@@ -240,8 +255,7 @@ void IdentityPage::cmdWaveBrowse_Click(size_t index) {
     if (!current.starts_with('<')) dialog.folder = SplitPath(current).Folder();
     const std::optional<std::string> chosen = AskOpenFile(dialog);
     if (!chosen) return;
-    lblWaveFileName[index].SetText(*chosen);
-    lblWaveFileName[index].SetToolTip(*chosen);
+    ShowWave(index, *chosen);
     edited_();
 }
 

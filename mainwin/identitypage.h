@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 
 #include "game/zonelist.h"
 #include "mainwin/page.h"
@@ -20,9 +21,15 @@ public:
     void Show();
     void Collect();
 
+    // While the list of zones is open it covers what the page says of a zone: the address, port and description of the
+    // one that the player is at, and an empty text when the list has been closed.
+    std::function<void(const std::string& zone)> onZoneInList;
+
 private:
     void cmbZone_Click();
     void ShowZone(int index);
+    void TellZone(bool listOpen);
+    void ShowWave(size_t slot, const std::string& path);
     void chkUseProxy_Click();
     void EnableProxy();
     bool PasteProxy(const std::string& text);

@@ -1,5 +1,7 @@
 #include "mainwin/ignorepage.h"
 
+#include <set>
+
 #include "platform/form.h"
 #include "platform/text.h"
 
@@ -28,6 +30,8 @@ IgnorePage::IgnorePage(TabStrip& strip, Profile& profile, Edited edited)
       Command1(*this, kAdd, "<--- Add"),
       Command2(*this, kRemove, "---> Remove") {
     txtIgnoreAdd.onKeyPress = [this](char key) { return txtIgnoreAdd_KeyPress(key); };
+    txtIgnoreAdd.onPaste = [this](const std::string& text) { return txtIgnoreAdd_Paste(text); };
+    lstIgnoreList.onClick = [this] { ShowWhatCanBeDone(); };
     Command1.onClick = [this] { Command1_Click(); };
     Command2.onClick = [this] { Command2_Click(); };
     lstIgnoreList.onKeyDown = [this](int key) {
@@ -39,6 +43,11 @@ IgnorePage::IgnorePage(TabStrip& strip, Profile& profile, Edited edited)
 
 void IgnorePage::Show() {
     lstIgnoreList.SetItems(profile_.IgnoreList);
+    ShowWhatCanBeDone();
+}
+
+void IgnorePage::ShowWhatCanBeDone() {
+    Command2.SetEnabled(!lstIgnoreList.SelectedItems().empty());
 }
 
 void IgnorePage::Collect() {
@@ -54,14 +63,39 @@ bool IgnorePage::txtIgnoreAdd_KeyPress(char key) {
 void IgnorePage::Command1_Click() {
     const std::string name(Trim(txtIgnoreAdd.Text()));
     if (name.empty()) return;
-    lstIgnoreList.AddItem(name);
+    AddNames({name});
     txtIgnoreAdd.SetText("");
-    edited_();  // the list counts, not the box: what is typed there and not added is in no profile
+}
+
+// Many names at once go straight into the list; one may still be edited in the box.
+bool IgnorePage::txtIgnoreAdd_Paste(const std::string& text) {
+    std::vector<std::string_view> names = SplitLines(text);
+    for (std::string_view& name : names) name = Trim(name);
+    std::erase(names, "");
+    if (names.size() < 2) return false;
+    AddNames(names);
+    return true;
+}
+
+// Those that are not there yet: the game does not tell capitals apart. The list counts, not the box: what is typed
+// there and not added is in no profile.
+void IgnorePage::AddNames(const std::vector<std::string_view>& names) {
+    std::set<std::string, LessNoCase> known(lstIgnoreList.Items().begin(), lstIgnoreList.Items().end());
+    std::vector<std::string> items = lstIgnoreList.Items();
+    for (const std::string_view name : names)
+        if (known.emplace(name).second) items.emplace_back(name);
+    const size_t added = items.size() - lstIgnoreList.Items().size();
+    if (added == 0) return;
+    if (added == 1) lstIgnoreList.AddItem(items.back());
+    else lstIgnoreList.SetItems(std::move(items));
+    ShowWhatCanBeDone();
+    edited_();
 }
 
 void IgnorePage::Command2_Click() {
     if (lstIgnoreList.SelectedItems().empty()) return;
     lstIgnoreList.RemoveSelected();
+    ShowWhatCanBeDone();
     edited_();
 }
 

@@ -15,6 +15,9 @@ public:
 
 private:
     bool txtIgnoreAdd_KeyPress(char key);
+    bool txtIgnoreAdd_Paste(const std::string& text);
+    void AddNames(const std::vector<std::string_view>& names);
+    void ShowWhatCanBeDone();
     void Command1_Click();
     void Command2_Click();
 

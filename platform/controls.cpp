@@ -170,6 +170,12 @@ void TextBox::UserEdits(const std::string& text) {
     CallHandler(onChange);
 }
 
+bool TextBox::UserPastes(const std::string& text) {
+    bool taken = false;
+    if (onPaste) CallHandler([&] { taken = onPaste(text); });
+    return taken;
+}
+
 bool TextBox::UserTypes(char character) {
     return Ask(onKeyPress, character);
 }
@@ -207,6 +213,10 @@ void ComboBox::UserSelects(int index) {
 
 void ComboBox::UserHighlights(int index) {
     if (onHighlight) CallHandler([&] { onHighlight(IndexIn(items_, index)); });
+}
+
+void ComboBox::UserOpens(bool open) {
+    if (onOpen) CallHandler([&] { onOpen(open); });
 }
 
 // They close the open list.

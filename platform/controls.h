@@ -149,9 +149,11 @@ public:
     // The caret's distance from the left edge of the box, in twips; 0 without a window.
     int CaretLeft() const;
 
-    std::function<void()> onChange;        // the text has been edited
-    std::function<bool(char)> onKeyPress;  // a character typed; true swallows it
+    std::function<void()> onChange;                   // the text has been edited
+    std::function<bool(char)> onKeyPress;             // a character typed; true swallows it
+    std::function<bool(const std::string&)> onPaste;  // true: the handler has put the text where it belongs
 
+    bool UserPastes(const std::string& text);  // false: the window's own handling goes on
     void UserEdits(const std::string& text);
     bool UserTypes(char character);  // false: the window's own handling goes on
     bool UserPressesEnter() override;
@@ -212,9 +214,11 @@ public:
 
     std::function<void()> onClick;         // the player has selected another item
     std::function<void(int)> onHighlight;  // the player moves through the open list, over this item
+    std::function<void(bool)> onOpen;      // the list has been opened, or closed
 
     void UserSelects(int index);
     void UserHighlights(int index);
+    void UserOpens(bool open);
     bool KeepsKey(int key) const override;
 
 private:

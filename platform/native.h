@@ -67,6 +67,7 @@ void ScrollTo(Table& table, size_t row);
 
 void AddTrayIcon(TrayIcon& icon);
 void RemoveTrayIcon(TrayIcon& icon);
+void ShowTrayBalloon(TrayIcon& icon, const std::string& title, const std::string& text);
 
 void StartTimer(Timer& timer);  // or starts it anew
 void StopTimer(Timer& timer);

@@ -16,6 +16,10 @@ void TrayIcon::Remove() {
     native::RemoveTrayIcon(*this);
 }
 
+void TrayIcon::ShowBalloon(const std::string& title, const std::string& text) {
+    if (there_) native::ShowTrayBalloon(*this, title, text);
+}
+
 void TrayIcon::UserPoints(unsigned mouseMessage) {
     if (there_ && onMouse) CallHandler([&] { onMouse(mouseMessage); });
 }

@@ -19,6 +19,7 @@ public:
     void Add();  // the form must be loaded; the icon comes back by itself when the shell restarts
     void Remove();
     bool IsThere() const { return there_; }
+    void ShowBalloon(const std::string& title, const std::string& text);  // goes by itself; at most 63 and 255 bytes
     Form& Owner() const { return *form_; }
     const std::string& Tip() const { return tip_; }  // shown while the pointer is over it
 

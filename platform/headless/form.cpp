@@ -277,6 +277,10 @@ void RemoveTrayIcon(TrayIcon& icon) {
     std::erase(headless::TheWorld().trayIcons, &icon);
 }
 
+void ShowTrayBalloon(TrayIcon&, const std::string& title, const std::string& text) {
+    headless::TheWorld().balloons.push_back(title + ": " + text);
+}
+
 void StopTimer(Timer& timer) {
     std::erase_if(timers, [&](const RunningTimer& running) { return running.timer == &timer; });
 }

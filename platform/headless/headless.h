@@ -86,6 +86,7 @@ struct World {
     std::vector<std::string> shownHelp;                           // help files
     std::optional<ErrorNumber> shellFailure;                      // of both
     std::vector<TrayIcon*> trayIcons;
+    std::vector<std::string> balloons;        // that icons have shown
     std::vector<PoppedUpMenu> poppedUpMenus;  // a test chooses with UserChooses afterwards
 
     std::vector<TopLevelWindow> windows;   // from front to back; a handle is an index + 1

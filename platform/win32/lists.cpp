@@ -146,7 +146,11 @@ int Current(const ComboBox& box) {
 
 void ComboBoxCommand(ComboBox& box, WORD code) {
     switch (code) {
-        case CBN_DROPDOWN: highlight = {&box, box.ListIndex()}; break;
+        case CBN_DROPDOWN:
+            highlight = {&box, box.ListIndex()};
+            box.UserOpens(true);
+            break;
+        case CBN_CLOSEUP: box.UserOpens(false); break;
         case CBN_SELENDOK:
             Report(box, Current(box));
             highlight = {};

@@ -87,12 +87,16 @@ std::optional<LRESULT> TextBoxMessage(TextBox& box, const Message& m) {
                 return 0;
             }
             if (box.IsMasked() && (wParam == kCopy || wParam == kCut)) return 0;
+            if (wParam == kPaste && box.onPaste) return SendMessageA(window, WM_PASTE, 0, 0);
             break;
         // Windows refuses all of these for hidden text itself; Wine does not, and by these keys without a message.
         case WM_KEYDOWN:
             if (box.IsMasked() &&
                 ((wParam == VK_DELETE && Pressed(VK_SHIFT)) || (wParam == VK_INSERT && Pressed(VK_CONTROL))))
                 return 0;
+            break;
+        case WM_PASTE:
+            if (box.onPaste && box.UserPastes(ClipboardText(window))) return 0;
             break;
         case WM_COPY:
         case WM_CUT:

@@ -76,6 +76,19 @@ void RemoveTrayIcon(TrayIcon& icon) {
     Tell(NIM_DELETE, icon);
 }
 
+// Balloons came with the record's second form.
+void ShowTrayBalloon(TrayIcon& icon, const std::string& title, const std::string& text) {
+    NOTIFYICONDATAA record{};
+    record.cbSize = NOTIFYICONDATAA_V2_SIZE;
+    record.hWnd = WindowOf(icon.Owner());
+    record.uID = kIconId;
+    record.uFlags = NIF_INFO;
+    record.dwInfoFlags = NIIF_INFO;
+    title.copy(record.szInfoTitle, sizeof(record.szInfoTitle) - 1);
+    text.copy(record.szInfo, sizeof(record.szInfo) - 1);
+    Shell_NotifyIconA(NIM_MODIFY, &record);
+}
+
 }  // namespace native
 
 }  // namespace quirn

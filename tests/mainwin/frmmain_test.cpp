@@ -185,6 +185,47 @@ TEST_F(FrmMainTest, APastedProxyAddressFillsItsFourBoxes) {
     EXPECT_EQ(program_.profile.Dialog.Value(kProxyIP), "1.210.3.4");
 }
 
+TEST_F(FrmMainTest, PastedNamesGoInLineByLineAndNoneTwice) {
+    frmMain window(program_);
+    window.Load();
+    window.Show();
+    auto& strip = ControlOf<TabStrip>(window, "");
+    strip.SetTab(6);
+    const auto& controls = strip.Pages()[6]->Controls();
+    auto& list = dynamic_cast<ListBox&>(*controls[0]);
+    auto& name = dynamic_cast<TextBox&>(*controls[2]);
+    Paste(name, " Mole\r\norla \r\n\r\nmole\r\n");
+    EXPECT_EQ(list.Items(), (std::vector<std::string>{"Mole", "orla"}));
+    EXPECT_TRUE(program_.dirty);
+    program_.dirty = false;
+    Type(name, "ORLA");
+    Click(*controls[3]);
+    EXPECT_EQ(list.Items().size(), 2u);
+    EXPECT_EQ(name.Text(), "");
+    EXPECT_FALSE(program_.dirty);
+    EXPECT_FALSE(controls[4]->Enabled());
+    Choose(list, {0});
+    Click(*controls[4]);
+    EXPECT_EQ(list.Items(), (std::vector<std::string>{"orla"}));
+    EXPECT_FALSE(controls[4]->Enabled());
+}
+
+// The open list covers what the page says of a zone.
+TEST_F(FrmMainTest, TheStatusBarTellsOfTheZonesInTheOpenList) {
+    frmMain window(program_);
+    window.Load();
+    window.Show();
+    auto& bar = ControlOf<StatusBar>(window, "");
+    ComboBox* zones = nullptr;
+    for (Control* control : ControlOf<TabStrip>(window, "").Pages()[0]->Controls())
+        if (auto* box = dynamic_cast<ComboBox*>(control)) zones = box;
+    zones->UserOpens(true);
+    zones->UserHighlights(1);
+    EXPECT_EQ(bar.Text(), "b.example  Port 6000  Second");
+    zones->UserOpens(false);
+    EXPECT_EQ(bar.Text(), "");
+}
+
 TEST_F(FrmMainTest, ClosesToTheTrayAndEndsByExitAlone) {
     frmMain window(program_);
     window.Load();
@@ -193,6 +234,7 @@ TEST_F(FrmMainTest, ClosesToTheTrayAndEndsByExitAlone) {
     window.UserCloses(UnloadMode::CloseBox);
     EXPECT_TRUE(window.IsLoaded());
     EXPECT_FALSE(window.Visible());
+    EXPECT_EQ(GetSetting("Settings", "ToldOfTray", ""), "1");
 
     ExpectMessage("Save changes to <current SS settings>", kYesNoCancel | kQuestion, Answer::Cancel, "Save Changes?");
     EXPECT_FALSE(window.Unload());

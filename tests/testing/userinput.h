@@ -18,6 +18,7 @@ void RightClick(Label& label);
 void Type(TextBox& box, const std::string& text);                    // at the end
 size_t Type(MaskedBox& box, const std::string& text, size_t caret);  // returns the new caret; 8 and 127 erase
 size_t Paste(MaskedBox& box, const std::string& text, size_t caret);
+void Paste(TextBox& box, const std::string& text);  // at the end
 void Choose(ComboBox& box, int index);
 void Choose(ListBox& list, const std::vector<int>& indexes);
 void DoubleClickItem(ListBox& list, int index);

@@ -43,6 +43,11 @@ size_t Paste(MaskedBox& box, const std::string& text, size_t caret) {
     return box.UserPastes(text, caret);
 }
 
+// A box of one line takes the first.
+void Paste(TextBox& box, const std::string& text) {
+    if (!box.UserPastes(text)) box.UserEdits(box.Text() + text.substr(0, text.find_first_of("\r\n")));
+}
+
 void Choose(ComboBox& box, int index) {
     box.UserSelects(index);
 }

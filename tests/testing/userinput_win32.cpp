@@ -102,6 +102,11 @@ size_t Paste(MaskedBox& box, const std::string& text, size_t caret) {
     return CaretIn(box);
 }
 
+void Paste(TextBox& box, const std::string& text) {
+    PutInClipboard(text);
+    Send(box, WM_CHAR, 22);  // Ctrl+V
+}
+
 void Choose(ComboBox& box, int index) {
     Send(box, CB_SETCURSEL, static_cast<WPARAM>(index));
     Tell(box, CBN_SELCHANGE);
