@@ -1,7 +1,7 @@
 ; QUIRN's installer: per user, without administrator rights. Made by ./package, which defines VERSION, FILE_VERSION,
 ; SOURCE (the folder with what ships) and OUTPUT.
 ;
-; Silently: QUIRN-x.xx-setup.exe /S [/DESKTOP] [/D=C:\Folder]      Uninstall.exe /S
+; Silently: QUIRN-x.xx-setup.exe /S [/DESKTOP] [/D=C:\Folder]      Uninstall.exe /S [/OWN]
 
 Unicode true
 !include "MUI2.nsh"
@@ -40,6 +40,7 @@ VIAddVersionKey "LegalCopyright" ""
 !insertmacro MUI_PAGE_INSTFILES
 !insertmacro MUI_PAGE_FINISH
 !insertmacro MUI_UNPAGE_CONFIRM
+!insertmacro MUI_UNPAGE_COMPONENTS
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "English"
 
@@ -57,10 +58,6 @@ VIAddVersionKey "LegalCopyright" ""
         Quit
     ended:
 !macroend
-
-Function un.onInit
-    !insertmacro WAIT_FOR_ITS_END
-FunctionEnd
 
 Section "QUIRN"
     SectionIn RO
@@ -98,7 +95,8 @@ FunctionEnd
 
 ; Only what the installer put there. Profiles may lie in the folder, which then stays with them, and the settings under
 ; Software\QUIRN are the player's.
-Section "Uninstall"
+Section "un.QUIRN"
+    SectionIn RO
     Delete "$INSTDIR\QUIRN.exe"
     Delete "$INSTDIR\help.html"
     Delete "$INSTDIR\readme.txt"
@@ -109,3 +107,20 @@ Section "Uninstall"
     Delete "$DESKTOP\QUIRN.lnk"
     DeleteRegKey HKCU "${UNINSTALL_KEY}"
 SectionEnd
+
+; What QUIRN has kept for the player; his profiles stay in any case.
+Section /o "un.My settings, kept transfers and versions" OWN
+    DeleteRegKey HKCU "Software\QUIRN"
+    RMDir /r "$LOCALAPPDATA\QUIRN\Transfers"
+    RMDir /r "$LOCALAPPDATA\QUIRN\Versions"
+    RMDir "$LOCALAPPDATA\QUIRN"
+SectionEnd
+
+Function un.onInit
+    !insertmacro WAIT_FOR_ITS_END
+    ${GetParameters} $R0
+    ClearErrors
+    ${GetOptions} $R0 "/OWN" $R1
+    IfErrors +2
+        SectionSetFlags ${OWN} ${SF_SELECTED}
+FunctionEnd

@@ -2,6 +2,7 @@
 
 Run by ./package check, which names their folder in QUIRN_PACKAGE.
 """
+import json
 import os
 import pathlib
 import shutil
@@ -115,6 +116,30 @@ def test_installed_played_and_uninstalled(home):
     assert left == {str((folder / "DUEL.QRN").relative_to(home.machine.drive / "users"))}
     assert home.machine.export_registry(OWN_KEY) == settings
     assert home.machine.export_registry(GAME_KEY) == game and {f.name for f in home.game.iterdir()} == files
+
+
+    # Those go too where the player says so.
+    assert home.run(setup, "/S") == 0
+    home.run(inside + r"\Uninstall.exe", "/S", "/OWN")
+    wait_for(lambda: home.machine.export_registry(OWN_KEY) is None, 20, "the end of the settings")
+    wait_for(lambda: not any("/QUIRN/Transfers/" in name for name in home.files()), what="the end of the transfers")
+    assert (folder / "DUEL.QRN").exists()
+
+
+def test_the_manifests_name_the_packages_that_are_there():
+    import yaml  # which ./package check installs
+
+    sums = dict(line.split()[::-1] for line in (PACKAGE / "SHA256SUMS").read_text().splitlines())
+    scoop = json.loads((PACKAGE / "quirn.json").read_text())
+    assert scoop["hash"] == sums[scoop["url"].rsplit("/", 1)[1]]
+    winget = [yaml.safe_load(file.read_text()) for file in (PACKAGE / "winget").glob("*.yaml")]
+    assert {manifest["ManifestType"] for manifest in winget} == {"version", "installer", "defaultLocale"}
+    assert {manifest["PackageVersion"] for manifest in winget} == {scoop["version"]}
+    installer = next(manifest["Installers"][0] for manifest in winget if "Installers" in manifest)
+    assert installer["InstallerSha256"].lower() == sums[installer["InstallerUrl"].rsplit("/", 1)[1]]
+    for file in [PACKAGE / "quirn.json", *(PACKAGE / "winget").iterdir()]:
+        assert "@" not in file.read_text()
+    assert yaml.safe_load((ROOT / ".github/workflows/check.yml").read_text())["jobs"]
 
 
 def test_unpacked_in_a_folder_with_blanks_and_an_umlaut(home):
