@@ -35,6 +35,7 @@ frmRelNotes::frmRelNotes()
     SetCaption(std::string(kTitle) + " Readme/Revision Notes");
     SetMinimumSize(kSmallestWidth, kSmallestHeight);
     SetButtons(nullptr, &Command1);
+    txtRelNotes.SetAccessibleName("Notes");
     txtRelNotes.SetFont({"Courier New", 9});
     anchors_.Add(txtRelNotes, Anchor::Grow, Anchor::Grow);
     for (Button* button : {&Command1, &Command2, &Command3}) anchors_.Add(*button, Anchor::Follow, Anchor::Follow);

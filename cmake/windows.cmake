@@ -22,7 +22,7 @@ file(GLOB backend_sources CONFIGURE_DEPENDS platform/win32/*.cpp)
 set(dialogs_source ${CMAKE_SOURCE_DIR}/platform/win32/dialogs.cpp)  # tests have scripted ones instead
 list(REMOVE_ITEM backend_sources ${dialogs_source})
 add_library(quirn_backend OBJECT ${backend_sources})
-target_link_libraries(quirn_backend PUBLIC quirn_options user32 gdi32 comctl32 comdlg32 advapi32 shell32 ole32 uuid)
+target_link_libraries(quirn_backend PUBLIC quirn_options user32 gdi32 comctl32 comdlg32 advapi32 shell32 ole32 oleaut32 uuid)
 
 # A vector picture of resources/, rendered in the sizes that Windows asks for. Only the largest icon stays compressed,
 # because Wine mixes up the colours of such pictures and never needs that one.

@@ -81,6 +81,7 @@ frmOptions::frmOptions(Program& program, std::function<void()> applied)
       cmdApply(*this, kApply, "Apply") {
     SetCaption("Options");
     SetButtons(&cmdOK, &cmdCancel);
+    lstFavourites.SetAccessibleName("Favourites");
     onLoad = [this] { Form_Load(); };
     txtSubLoc.onChange = [this] {
         if (subLocChanged_) Changed();

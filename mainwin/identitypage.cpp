@@ -82,6 +82,7 @@ IdentityPage::IdentityPage(TabStrip& strip, Profile& profile, Edited edited)
       txtChatName(*this, kChatPlace),
       Frame3(*this, kWaveFrame, "Wave Messages") {
     for (size_t i = 0; i < mskProxyAddress.size(); ++i) {
+        mskProxyAddress[i].SetAccessibleName("Proxy address, part " + std::to_string(i + 1) + " of 4");
         mskProxyAddress[i].onChange = edited_;
         // A point goes on to the next part, as in an address that is typed in one go.
         mskProxyAddress[i].onKeyPress = [this, i](char key) {

@@ -29,6 +29,8 @@ IgnorePage::IgnorePage(TabStrip& strip, Profile& profile, Edited edited)
       txtIgnoreAdd(*this, kName),
       Command1(*this, kAdd, "<--- Add"),
       Command2(*this, kRemove, "---> Remove") {
+    lstIgnoreList.SetAccessibleName("Ignored players");
+    txtIgnoreAdd.SetAccessibleName("Player to ignore");
     txtIgnoreAdd.onKeyPress = [this](char key) { return txtIgnoreAdd_KeyPress(key); };
     txtIgnoreAdd.onPaste = [this](const std::string& text) { return txtIgnoreAdd_Paste(text); };
     lstIgnoreList.onClick = [this] { ShowWhatCanBeDone(); };

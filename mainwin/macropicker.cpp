@@ -11,6 +11,7 @@ constexpr char kBackspace = 8, kBlank = ' ';
 
 MacroPicker::MacroPicker(Form& form, TabStrip& strip, Edited edited)
     : form_(form), strip_(strip), edited_(std::move(edited)), PopupList(form, kListPlace, ListStyle::Single) {
+    PopupList.SetAccessibleName("Macro variables");
     PopupList.SetVisible(false);
     PopupList.SetItems({kMacroVariables.begin(), kMacroVariables.end()});
     PopupList.onGotFocus = [this] { PopupList_GotFocus(); };

@@ -123,6 +123,9 @@ public:
     void SetForeColor(std::optional<Color> color);
     void SetBackColor(std::optional<Color> color);
     void SetToolTip(const std::string& text);
+    // What a screen reader calls a control that has neither a caption of its own nor a label just before it.
+    void SetAccessibleName(const std::string& name) { accessibleName_ = name; }
+    const std::string& AccessibleName() const { return accessibleName_; }
     void Repaint();  // paints it now, without waiting for events
     // Does nothing while it cannot have the focus. Calls onLostFocus of the old one, then onGotFocus. Before its form
     // is shown it says where the focus will be, and calls nobody. A form behind another one stays there.
@@ -166,6 +169,7 @@ private:
     std::optional<Color> foreColor_;
     std::optional<Color> backColor_;
     std::string toolTip_;
+    std::string accessibleName_;
 };
 
 }  // namespace quirn

@@ -1,5 +1,6 @@
 #include <windows.h>
 
+#include "platform/win32/accessible.h"
 #include "platform/win32/kind.h"
 
 // The messages of controls: those that their windows get, before their own procedures see them, and those that their
@@ -23,6 +24,8 @@ LRESULT CALLBACK ControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lP
     Control* const control = ControlOf(window);
     if (control == nullptr) return Pass(m);  // it is being destroyed
     if (message == WM_SETFOCUS) return Focus(*control, m);
+    if (message == WM_GETOBJECT && !control->AccessibleName().empty())
+        if (const auto result = AnswerReader(&MakeAnswers<NamedControl>, m)) return *result;
     if (message == WM_MOUSEMOVE) PrepareToolTip(*control);
     if (message == WM_CONTEXTMENU && control->onContextMenu) {
         CallHandler(control->onContextMenu);

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/win32/accessible.h"
 #include "platform/win32/kind.h"
 #include "platform/win32/metrics.h"
 
@@ -227,8 +228,51 @@ std::optional<size_t> BoxAt(const Table& table, LPARAM point) {
     return static_cast<size_t>(hit.iItem);
 }
 
+// The system would not tell of ticks that the list view does not hold itself.
+class TableAnswers : public ItemsOfControl {
+public:
+    using ItemsOfControl::ItemsOfControl;
+
+private:
+    Table& Rows() const { return static_cast<Table&>(*ItsControl()); }
+    size_t Count() const override { return Rows().RowCount(); }
+    std::string Name(size_t row) const override { return Rows().cellText(row, 0); }
+    std::string Description(size_t row) const override {
+        std::string text;
+        for (size_t i = 1; i < Rows().Columns().size(); ++i) {
+            const std::string cell = Rows().cellText(row, static_cast<int>(i));
+            if (cell.empty()) continue;
+            if (!text.empty()) text += "; ";
+            text.append(Rows().Columns()[i].caption).append(": ").append(cell);
+        }
+        return text;
+    }
+    std::optional<size_t> Current() const override { return Rows().Current(); }
+    LONG State(size_t row) const override {
+        LONG state = Rows().Selection().IsSelected(row) ? STATE_SYSTEM_SELECTED : 0;
+        if (Rows().isTicked && Rows().isTicked(row)) state |= STATE_SYSTEM_CHECKED;
+        return state;
+    }
+    RECT Place(size_t row) const override {
+        RECT place{LVIR_BOUNDS, 0, 0, 0};
+        Send(Rows(), LVM_GETITEMRECT, row, reinterpret_cast<LPARAM>(&place));
+        return place;
+    }
+    std::optional<size_t> ItemAt(POINT place) const override {
+        LVHITTESTINFO hit{};
+        hit.pt = place;
+        const LRESULT row = Send(Rows(), LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+        return row >= 0 ? std::optional(static_cast<size_t>(row)) : std::nullopt;
+    }
+    void SelectAlone(size_t row) const override {
+        SetState(Rows(), {}, 0, LVIS_SELECTED);
+        SetState(Rows(), row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    }
+};
+
 std::optional<LRESULT> TableMessage(Table& table, const Message& m) {
     switch (m.message) {
+        case WM_GETOBJECT: return AnswerReader(&MakeAnswers<TableAnswers>, m);
         case kSelectionChanged: table.WindowChangedSelection(); return 0;
         case WM_KEYDOWN:
             if (table.UserPressesKey(static_cast<int>(m.wParam), Pressed(VK_CONTROL))) return 0;

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/win32/accessible.h"
 #include "platform/win32/kind.h"
 #include "platform/win32/metrics.h"
 
@@ -126,7 +127,7 @@ Look ListLook(const VirtualList&) {
 
 void Prepare(const VirtualList& list) {
     // The list box has read its styles. Those who ask it for texts look at them too, and would take a list without
-    // strings for one without texts: screen readers, and the system on a text's way to another program.
+    // strings for one without texts, as the system does on a text's way to another program.
     const HWND window = WindowOf(list);
     SetWindowLongPtrA(window, GWL_STYLE, GetWindowLongPtrA(window, GWL_STYLE) | LBS_HASSTRINGS);
 }
@@ -187,9 +188,41 @@ void ListCommand(VirtualList& list, WORD code) {
     list.WindowChangedSelection(there ? std::optional(static_cast<size_t>(caret)) : std::nullopt);
 }
 
+class ListAnswers : public ItemsOfControl {
+public:
+    using ItemsOfControl::ItemsOfControl;
+
+private:
+    VirtualList& List() const { return static_cast<VirtualList&>(*ItsControl()); }
+    size_t Count() const override { return List().Count(); }
+    std::string Name(size_t item) const override { return List().itemText(item); }
+    std::optional<size_t> Current() const override { return List().Current(); }
+    LONG State(size_t item) const override {
+        return STATE_SYSTEM_EXTSELECTABLE | (List().Selection().IsSelected(item) ? STATE_SYSTEM_SELECTED : 0);
+    }
+    RECT Place(size_t item) const override {
+        RECT place{};
+        Send(List(), LB_GETITEMRECT, item, reinterpret_cast<LPARAM>(&place));
+        return place;
+    }
+    // The message for this knows 16 bits only.
+    std::optional<size_t> ItemAt(POINT place) const override {
+        const auto item = static_cast<size_t>(Send(List(), LB_GETTOPINDEX) +
+                                              place.y / std::max<LRESULT>(Send(List(), LB_GETITEMHEIGHT), 1));
+        return item < Count() ? std::optional(item) : std::nullopt;
+    }
+    void SelectAlone(size_t item) const override {
+        Send(List(), LB_SETSEL, FALSE, -1);
+        Send(List(), LB_SETSEL, TRUE, static_cast<LPARAM>(item));
+        Send(List(), LB_SETCARETINDEX, item, FALSE);
+        List().WindowChangedSelection(item);
+    }
+};
+
 std::optional<LRESULT> ListMessage(VirtualList& list, const Message& m) {
     const WPARAM wParam = m.wParam;
     switch (m.message) {
+        case WM_GETOBJECT: return AnswerReader(&MakeAnswers<ListAnswers>, m);
         case LB_GETTEXT: {
             if (wParam >= list.Count()) return LB_ERR;
             const std::string text = AnswerText(list, wParam);

@@ -70,7 +70,22 @@ void CheckControls(const Container& container, const Bounds& area, const std::st
     }
 }
 
+// What a screen reader calls a control: its caption, its own name, or the label just before it.
+void CheckNames(const Container& container, const std::string& where) {
+    const Control* before = nullptr;
+    for (const Control* control : container.Controls()) {
+        const bool showsTyped =
+            dynamic_cast<const TextBox*>(control) != nullptr || dynamic_cast<const MaskedBox*>(control) != nullptr;
+        const bool named = !control->AccessibleName().empty() || (!control->Text().empty() && !showsTyped) ||
+                           (dynamic_cast<const Label*>(before) != nullptr && !before->Text().empty());
+        EXPECT_TRUE(named || !control->TakesFocus() || !control->Pages().empty()) << where << ": " << Name(*control);
+        for (const TabPage* page : control->Pages()) CheckNames(*page, where + ", " + page->Caption());
+        before = control;
+    }
+}
+
 void Check(const Form& form, const std::string& where) {
+    CheckNames(form, where);
     Bounds area{0, 0, form.InnerWidth(), form.InnerHeight()};
     for (const Control* control : form.Controls())
         if (dynamic_cast<const StatusBar*>(control) != nullptr) area.height -= StatusBar::kHeight;
