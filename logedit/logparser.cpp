@@ -18,7 +18,7 @@ namespace {
 // Read and scanned at once: little enough to stay in the cache in between.
 constexpr size_t kReadBytes = size_t{256} * 1024;
 
-// What the first character of a prefix says when the second is a blank; 0 for the first characters of lines that need a
+// What the first character of a prefix says when the second is a space; 0 for the first characters of lines that need a
 // closer look.
 constexpr std::array<uint16_t, 256> MakePrefixTable() {
     std::array<uint16_t, 256> table{};
@@ -158,11 +158,11 @@ bool LogParser::ParseWindow(size_t end) {
         const char* const arrow = Select(hasSpeaker, text + first, line + 3);
         const char* name = line + 2;
         const uint32_t prefix = kPrefixes[static_cast<unsigned char>(*line)];
-        const bool blanks = (*name == ' ') | (hasSpeaker & (arrow[-1] == ' '));
+        const bool spaces = (*name == ' ') | (hasSpeaker & (arrow[-1] == ' '));
         const bool squad = hasSpeaker & (*name == '(');
         const char* const nameEnd = arrow - squad;
         name += squad;
-        unusual |= (prefix == 0) | (lineEnd - line < 3) | blanks | (name >= nameEnd) | (text + first < line + 2);
+        unusual |= (prefix == 0) | (lineEnd - line < 3) | spaces | (name >= nameEnd) | (text + first < line + 2);
         if (unusual) [[unlikely]] {
             ParseUnusual({whole, lineEnd}, directlyNext);
             continue;

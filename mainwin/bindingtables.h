@@ -37,7 +37,7 @@ void SplitResolution(std::string_view text, std::string& width, std::string& hei
 using ProxyParts = std::array<std::string, 4>;
 ProxyParts SplitProxyAddress(std::string_view address);
 
-// The parts of an address that is pasted: four numbers of up to three digits, with points between. Blanks around them
+// The parts of an address that is pasted: four numbers of up to three digits, with points between. Spaces around them
 // and what follows the last one, such as a port, are passed over. Nothing for any other text.
 std::optional<ProxyParts> PastedProxyAddress(std::string_view text);
 

@@ -34,7 +34,7 @@ HiddenPage::HiddenPage(TabStrip& strip, Profile& profile, const Edited& edited)
       chkShowFrameRate(*this, kBoxes.Cell(0), setting::kHiddenBoxes[0]->caption),
       chkForce60(*this, kBoxes.Cell(1), setting::kHiddenBoxes[1]->caption),
       chkFlickSysMem(*this, kBoxes.Cell(2), setting::kHiddenBoxes[2]->caption),
-      // The spelling and the double blanks are meant to be so.
+      // The spelling and the double spaces are meant to be so.
       Label14(*this, kWarning,
               "WARNING! - Its is NOT recommended that you alter ANY of these settings.  The ability to alter these "
               "settings are included here for completeness.  If you break Subspace because you have changed these "

@@ -25,7 +25,7 @@ private:
     std::string text_ = "%";
 };
 
-// What picking a variable adds to the end of the macro, which has the "%" already: its name and a blank.
+// What picking a variable adds to the end of the macro, which has the "%" already: its name and a space.
 std::string PickedText(int index);
 
 // Where the list opens. Its size is the list's; the text box is given in the tab strip's coordinates, the caret's

@@ -5,7 +5,7 @@
 
 namespace quirn {
 
-// Today's date, a blank, and the time, both in the user's short formats.
+// Today's date, a space, and the time, both in the user's short formats.
 std::string ShortDateAndTime();
 
 // The same of a file, as FolderEntry has it.

@@ -187,7 +187,7 @@ public:
     static constexpr char kBackspace = 8;
     static constexpr char kDelete = 127;
     size_t UserTypes(char character, size_t caret, size_t selectionEnd = 0);
-    size_t UserPastes(std::string_view text, size_t caret, size_t selectionEnd = 0);  // without blanks and line ends
+    size_t UserPastes(std::string_view text, size_t caret, size_t selectionEnd = 0);  // without spaces and line ends
     size_t UserClears(size_t from, size_t to);                                        // removes a selection
     void UserEdits(const std::string& text);  // the window's text after any other edit
     bool KeepsKey(int key) const override;
@@ -249,7 +249,7 @@ public:
     std::function<void()> onMouseUp;
     std::function<void(int index)> onDoubleClick;
     std::function<bool(int)> onKeyDown;    // a key by its virtual code; true swallows it
-    std::function<bool(char)> onKeyPress;  // a character, Enter, Escape, Backspace and blank included
+    std::function<bool(char)> onKeyPress;  // a character, Enter, Escape, Backspace and space included
 
     void UserSelects(const std::vector<int>& indexes);
     void UserReleasesMouse();

@@ -4,7 +4,7 @@
 #include <string>
 
 // Private-profile (INI) files by the rules of GetPrivateProfileString and its kin: section and key names
-// are case-blind, blanks around names and values do not count, one pair of quotes around a value is dropped, the
+// are case-blind, spaces around names and values do not count, one pair of quotes around a value is dropped, the
 // first of two equal names wins, a line starting with ";" is a comment. A missing file reads as an empty one.
 // On Windows these are the functions themselves.
 namespace quirn {

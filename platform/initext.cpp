@@ -25,7 +25,7 @@ std::string_view FirstLine(std::string_view text) {
     return text.substr(0, text.substr(end).starts_with(kLineEnd) ? end + 2 : end + 1);
 }
 
-// A line without its end and the blanks around it; a NUL ends it too.
+// A line without its end and the spaces around it; a NUL ends it too.
 std::string_view ContentOf(std::string_view line) {
     return TrimIni(line.substr(0, line.find_first_of(std::string_view("\r\n\0", 3))));
 }

@@ -31,7 +31,7 @@ std::string WithIniSection(std::string_view text, std::string_view section, cons
 // A value as readers get it: one pair of quotes around it is dropped.
 std::string_view WithoutQuotes(std::string_view value);
 
-// Without what counts as a blank at the ends of a line, a name or a value.
+// Without what counts as a space at the ends of a line, a name or a value.
 std::string_view TrimIni(std::string_view text);
 
 }  // namespace quirn

@@ -21,13 +21,13 @@ struct LessNoCase {
     bool operator()(std::string_view a, std::string_view b) const;
 };
 
-// Without the blanks (0x20 only) at both ends.
+// Without the spaces (0x20 only) at both ends.
 std::string_view Trim(std::string_view text);
 
 // A text as a menu or a button is given it to show it letter for letter: a lone "&" would name an access key.
 std::string DoubleAmpersands(std::string_view text);
 
-// The decimal number at the start of a text, after blanks and tabs: sign, digits, point, digits, exponent.
+// The decimal number at the start of a text, after spaces and tabs: sign, digits, point, digits, exponent.
 // 0 when there is none. The point is "." whatever the system's language.
 double Val(std::string_view text);
 

@@ -44,7 +44,7 @@ std::string_view WithoutBlanks(std::string_view text) {
     return text;
 }
 
-// What reading gives for a written text: the blanks around it and one pair of quotes are lost, and a text ends with its
+// What reading gives for a written text: the spaces around it and one pair of quotes are lost, and a text ends with its
 // line.
 std::string_view AsRead(std::string_view text) {
     return WithoutBlanks(

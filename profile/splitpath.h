@@ -18,7 +18,7 @@ struct PathParts {
     std::string File() const { return name + "." + extension; }
 };
 
-// Takes a path apart; blanks at its ends do not count. The name ends at its first point, not its last, on purpose:
+// Takes a path apart; spaces at its ends do not count. The name ends at its first point, not its last, on purpose:
 // "C:\games\my.best.qrn" is "C:", "\games", "my" and "best.qrn".
 PathParts SplitPath(std::string_view path);
 

@@ -8,8 +8,8 @@
 
 namespace quirn {
 
-// The words of a command line, between blanks and tabs. Element 0 is always empty, the words are 1..n; those after
-// MaxCount are ignored. Double quotes have no meaning: file names with blanks cannot be passed.
+// The words of a command line, between spaces and tabs. Element 0 is always empty, the words are 1..n; those after
+// MaxCount are ignored. Double quotes have no meaning: file names with spaces cannot be passed.
 std::vector<std::string> SplitCommandLine(std::string_view commandLine, int MaxCount = 10);
 
 // Handles one argument: "/LR:file" loads a profile, writes it into the game and starts the game; "/Q" sets the quiet

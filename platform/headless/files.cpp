@@ -235,7 +235,7 @@ std::string AbsolutePath(const std::string& path) {
             parts.push_back(part);
         }
     }
-    // The system drops points and blanks at the end of a path.
+    // The system drops points and spaces at the end of a path.
     if (!parts.empty() && !whole.ends_with('\\')) parts.back().resize(parts.back().find_last_not_of(". ") + 1);
     std::string result = whole.substr(0, 2);
     for (const std::string& part : parts) result += "\\" + part;

@@ -119,7 +119,7 @@ def test_every_kind_of_control_on_every_page_comes_back(desk):
     # The file, read by an INI reader that is not ours.
     file = Profile(desk.machine.path(TARGET))
     for group, values in EDITED.items():
-        # This reader drops blanks at the end, and a profile keeps none.
+        # This reader drops spaces at the end, and a profile keeps none.
         assert {n: file.sections[group][n] for n in values} == {n: v.rstrip() for n, v in values.items()}
     assert re.fullmatch(r"\d+/\d+/\d+ \d+:\d\d( [AP]M)?", file.sections["QUIRN"]["Modified"])
     assert file.sections["Dialog"]["WaveFileF11"] == r"C:\SubSpace\waves\goal.wav"
@@ -226,7 +226,7 @@ def test_the_keyboard_reaches_everything(desk):
     assert player.page() == len(PAGES) - 1
     assert min(reached.values()) > 3 and reached["Advanced"] >= 57 and reached["Options"] >= 30
 
-    # Option groups by the arrows, boxes by the blank.
+    # Option groups by the arrows, boxes by the space bar.
     player.turn_to("Options")
     player.click(player.in_frame("Radar", "Small"))
     player.keys("Down")

@@ -68,7 +68,7 @@ public:
 private:
     size_t Number(size_t below) { return random_() % below; }
 
-    // Over all printable bytes; blanks and quotes around a value are lost in every INI file.
+    // Over all printable bytes; spaces and quotes around a value are lost in every INI file.
     std::string Text() {
         std::string text(Number(30), ' ');
         for (char& c : text) do

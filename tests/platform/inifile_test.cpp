@@ -38,7 +38,7 @@ TEST_F(IniFileTest, ReadsValues) {
         // encodings: not last, because Wine writes a new file in that of the last one it read
         {"\xEF\xBB\xBF[s]\r\nk=\xC3\xA9\xE2\x82\xAC\r\n", "s", "k", "\xE9\x80"},
         {"\xFF\xFE[\0s\0]\0\r\0\n\0k\0=\0\xAC\x20\r\0\n\0"s, "s", "k", "\x80"},
-        // blanks
+        // spaces
         {"[s]\r\n\tk\t=  v w \t\r\n", "s", "k", "v w"},
         {"  [ s ]  \r\nk=v\r\n", " s\t", "\tk ", "v"},
         // quotes
