@@ -3,7 +3,7 @@
     python3 -m pytest tools/pictures.py
         those that the help page shows, into resources/ship/pictures
     QUIRN_PICTURES=FOLDER python3 -m pytest tools/pictures.py
-        those of all windows at 96 and at 144 dpi, into FOLDER/96 and FOLDER/144, to look at
+        those of all windows at 96, 144 and 192 dpi, into FOLDER/96, FOLDER/144 and FOLDER/192, to look at
 """
 import os
 import pathlib
@@ -27,7 +27,7 @@ DESKTOP = r"HKEY_CURRENT_USER\Control Panel\Desktop"
 MENU = "#32768"
 
 
-@pytest.fixture(params=(96, 144) if LOOK else (96,))
+@pytest.fixture(params=(96, 144, 192) if LOOK else (96,))
 def camera(desk, request):
     folder = pathlib.Path(LOOK).resolve() / str(request.param) if LOOK else SHIP / "pictures"
     folder.mkdir(parents=True, exist_ok=True)

@@ -27,13 +27,15 @@ def wait_for(condition, seconds=10, what="it"):
 
 
 class Screen:
-    """A virtual display. The window manager has a tray, and its own settings, so that no user's change a journey."""
+    """A virtual display. The window manager has a tray, frames that look as those of Windows, and its own settings, so
+    that no user's change a journey."""
 
     def __init__(self, folder):
         folder.mkdir(parents=True, exist_ok=True)
         (folder / "preferences").write_text("ShowTaskBar=1\nTaskBarShowTray=1\nClickToFocus=1\nFocusOnMap=1\n")
+        (folder / "theme").write_text('Theme="win95/default.theme"\n')
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", "1", "-screen", "0", "1920x1200x24", "-nolisten", "tcp"],
             stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
         self.name = ":" + self.server.stdout.readline().decode().strip()
         assert len(self.name) > 1, "the virtual display did not start"
