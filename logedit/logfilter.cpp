@@ -18,12 +18,12 @@ std::vector<uint8_t> ShownPlayers(const PlayerList& include, const PlayerList& e
 
 // Each line's index is written, and counted only when it is shown: no branch that could be guessed wrong.
 template <class IsShown>
-size_t Collect(const ParsedLog& log, uint32_t* shown, IsShown isShown) {
+size_t Collect(const ParsedLog& log, uint32_t* shown, size_t from, IsShown isShown) {
     uint32_t* out = shown;
-    uint32_t line = 0;
-    for (const auto& block : log.Blocks()) {
-        const auto end = static_cast<uint32_t>(std::min(log.LineCount(), line + kLinesPerBlock));
-        for (const int32_t* info = block->info; line < end; ++line, ++info) {
+    auto line = static_cast<uint32_t>(from);
+    for (size_t block = from / kLinesPerBlock; line < log.LineCount(); ++block) {
+        const auto end = static_cast<uint32_t>(std::min(log.LineCount(), (block + 1) * kLinesPerBlock));
+        for (const int32_t* info = log.Blocks()[block]->info + line % kLinesPerBlock; line < end; ++line, ++info) {
             *out = line;
             out += isShown(*info);
         }
@@ -40,15 +40,28 @@ uint32_t BuildFilterMask(const FilterBoxValues& values) {
     return mask;
 }
 
-size_t FilterLines(const ParsedLog& log, uint32_t mask, const PlayerList& include, const PlayerList& exclude,
-                   uint32_t* shown) {
-    const uint32_t hidden = ~mask;
-    if (exclude.Count() == 0)
-        return Collect(log, shown, [hidden](int32_t info) { return (TypeOf(info) & hidden) == 0; });
-    const std::vector<uint8_t> players = ShownPlayers(include, exclude);
-    return Collect(log, shown, [hidden, table = players.data()](int32_t info) {
+LineFilter MakeLineFilter(uint32_t mask, const PlayerList& include, const PlayerList& exclude) {
+    return {mask, exclude.Count() == 0 ? std::vector<uint8_t>() : ShownPlayers(include, exclude)};
+}
+
+size_t FilterLines(const ParsedLog& log, const LineFilter& filter, uint32_t* shown, size_t from) {
+    const uint32_t hidden = ~filter.mask;
+    if (filter.players.empty())
+        return Collect(log, shown, from, [hidden](int32_t info) { return (TypeOf(info) & hidden) == 0; });
+    return Collect(log, shown, from, [hidden, table = filter.players.data()](int32_t info) {
         return static_cast<uint8_t>((TypeOf(info) & hidden) == 0) & table[PlayerOf(info)];
     });
+}
+
+size_t CountLines(const ParsedLog& log, uint32_t mask) {
+    size_t count = 0;
+    for (size_t line = 0; line < log.LineCount();) {
+        const int32_t* const info = log.Blocks()[line / kLinesPerBlock]->info;
+        const size_t inBlock = std::min(log.LineCount() - line, kLinesPerBlock);
+        for (size_t i = 0; i < inBlock; ++i) count += (TypeOf(info[i]) & ~mask) == 0;
+        line += inBlock;
+    }
+    return count;
 }
 
 }  // namespace quirn

@@ -36,10 +36,20 @@ inline constexpr FilterBox kFilterBoxes[kFilterBoxCount] = {
 using FilterBoxValues = std::array<int, kFilterBoxCount>;
 uint32_t BuildFilterMask(const FilterBoxValues& values);
 
-// Fills shown with the indexes of the lines that are shown, ascending; there must be room for every line of the log.
-// Returns their number. A type outside the mask hides a line, so lines of unknown type never show. A line with a player
-// shows by the shorter of the two lists: not in the excluded ones, or in the included ones.
-size_t FilterLines(const ParsedLog& log, uint32_t mask, const PlayerList& include, const PlayerList& exclude,
-                   uint32_t* shown);
+// What the check boxes and the two lists say of a line, taken down, so that they may change before it is applied anew.
+struct LineFilter {
+    uint32_t mask = 0;             // a type outside of it hides a line
+    std::vector<uint8_t> players;  // by number, 1: his lines are shown; empty: all are
+};
+
+// A line with a player shows by the shorter of the two lists: not in the excluded ones, or in the included ones.
+LineFilter MakeLineFilter(uint32_t mask, const PlayerList& include, const PlayerList& exclude);
+
+// Fills shown with the indexes of the lines that are shown, from one line on, ascending; there must be room for all of
+// them. Returns their number.
+size_t FilterLines(const ParsedLog& log, const LineFilter& filter, uint32_t* shown, size_t from = 0);
+
+// How many lines are of no type outside the mask, whoever speaks.
+size_t CountLines(const ParsedLog& log, uint32_t mask);
 
 }  // namespace quirn

@@ -3,44 +3,21 @@
 #include <algorithm>
 #include <vector>
 
+#include "logedit/linesearch.h"
 #include "logedit/textfinder.h"
 
 namespace quirn {
 
 namespace {
 
-// The last item, from one on, whose line starts at a place of the log's text or before. Near ones are tried first.
-size_t ItemAt(const LogView& view, size_t item, size_t place) {
-    const auto startsBefore = [&](size_t i) { return view.Log()->Offset(view.LineIndex(i)) <= place; };
-    size_t step = 1;
-    while (item + step < view.Count() && startsBefore(item + step)) {
-        item += step;
-        step *= 2;
-    }
-    for (; step > 0; step /= 2)
-        if (item + step < view.Count() && startsBefore(item + step)) item += step;
-    return item;
-}
-
-// The first item whose stored line has a hit. Goes through the log's text in one go, hidden lines too: that is faster
-// than a look at each line.
+// The first item whose stored line has a hit.
 std::optional<size_t> FindInLines(const LogView& view, const TextFinder& finder, size_t item) {
-    const ParsedLog& log = *view.Log();
-    const std::string_view lastLine = view.Line(view.Count() - 1);
-    const char* const end = lastLine.data() + lastLine.size();
-    const char* from = view.Line(item).data();
-    while (const char* hit = finder.Next(from, end)) {
-        item = ItemAt(view, item, static_cast<size_t>(hit - log.Text()));
-        const std::string_view line = view.Line(item);
-        const char* const lineEnd = line.data() + line.size();
-        if (hit + finder.Length() <= lineEnd) return item;
-        from = hit + 1;  // across a line's end, or in what is not shown
-        if (hit >= lineEnd) {
-            if (item + 1 == view.Count()) return std::nullopt;
-            from = std::max(from, log.Text() + log.Offset(view.LineIndex(item + 1)));
-        }
-    }
-    return std::nullopt;
+    std::optional<size_t> hit;
+    ForEachHit(view.Lines(), finder, item, [&](size_t found) {
+        hit = found;
+        return false;
+    });
+    return hit;
 }
 
 // Where in a tag ("{", digits, "} ") the text could start, by the kind of each character.

@@ -36,7 +36,8 @@ size_t LogView::LongestText() const {
 }
 
 Failure LogView::ApplyLogFilter(std::shared_ptr<const ParsedLog> log, uint32_t mask, const PlayerList& include,
-                                const PlayerList& exclude, bool lineNumbers) {
+                                const PlayerList& exclude, bool lineNumbers, bool keepDeletedOut) {
+    if (log != log_ || !keepDeletedOut) deletions_.Clear();
     if (log != log_) {
         // Filled with zeros it would cost as much as the filter itself.
         std::unique_ptr<uint32_t[]> room(new (std::nothrow) uint32_t[log->LineCount() + 1]);
@@ -44,13 +45,80 @@ Failure LogView::ApplyLogFilter(std::shared_ptr<const ParsedLog> log, uint32_t m
         shown_ = std::move(room);
         log_ = std::move(log);
     }
-    count_ = FilterLines(*log_, mask, include, exclude, shown_.get());
+    filter_ = MakeLineFilter(mask, include, exclude);
+    all_.reset();
+    Recompute();
     tags_.reset();
     if (lineNumbers) tags_.emplace(log_->LineCount());
     return {};
 }
 
-void LogView::Delete(const ListSelection& selected) {
+void LogView::Recompute() {
+    if (!log_) return;
+    passed_ = FilterLines(*log_, all_ ? LineFilter{*all_, {}} : filter_, shown_.get());
+    undeleted_ = passed_;
+    if (!deletions_.IsEmpty()) {
+        undeleted_ = 0;
+        for (size_t i = 0; i < passed_; ++i) {
+            shown_[undeleted_] = shown_[i];
+            undeleted_ += !deletions_.Has(shown_[i]);
+        }
+    }
+    count_ = all_ || text_.IsEmpty() ? undeleted_ : text_.Apply(*log_, shown_.get(), undeleted_);
+}
+
+void LogView::SetText(TextFilter text) {
+    text_ = std::move(text);
+    Recompute();
+}
+
+void LogView::ShowAll(std::optional<uint32_t> mask) {
+    all_ = mask;
+    Recompute();
+}
+
+size_t LogView::ItemOfLine(size_t line) const {
+    return static_cast<size_t>(std::lower_bound(shown_.get(), shown_.get() + count_, line) - shown_.get());
+}
+
+LogView::Restored LogView::Undo() {
+    const Deletions::Step& step = deletions_.Undo();
+    Recompute();
+    Restored restored{{}, ItemOfLine(step.top)};
+    restored.selection.Reset(count_);
+    for (const Deletions::Range& range : step.lines) {
+        const size_t first = ItemOfLine(range.first);
+        const size_t end = ItemOfLine(range.end);
+        if (first < end) restored.selection.SelectRange(first, end - 1, true);
+    }
+    return restored;
+}
+
+LogView::Restored LogView::Redo() {
+    const Deletions::Step& step = deletions_.Redo();
+    Recompute();
+    Restored restored{{}, ItemOfLine(step.top)};
+    restored.selection.Reset(count_);
+    return restored;
+}
+
+LogView::Hidden LogView::CountHidden() const {
+    Hidden hidden;
+    if (!log_) return hidden;
+    const uint32_t mask = all_.value_or(filter_.mask);
+    const size_t ofTypes = CountLines(*log_, mask);
+    hidden.byType = log_->LineCount() - ofTypes;
+    hidden.byPlayer = ofTypes - passed_;
+    hidden.deleted = passed_ - undeleted_;
+    hidden.byText = undeleted_ - count_;
+    hidden.unknown = CountLines(*log_, mask | kUnknown) - ofTypes;
+    return hidden;
+}
+
+void LogView::Delete(const ListSelection& selected, size_t top) {
+    if (count_ == 0) return;
+    deletions_.Add(shown_.get(), selected, LineIndex(std::min(top, count_ - 1)));
+    undeleted_ -= selected.SelectedCount();
     size_t kept = 0;
     for (size_t i = 0; i < count_; ++i) {
         shown_[kept] = shown_[i];

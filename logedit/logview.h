@@ -6,8 +6,11 @@
 #include <string>
 #include <string_view>
 
+#include "logedit/deletions.h"
+#include "logedit/linesearch.h"
 #include "logedit/logfilter.h"
 #include "logedit/parsedlog.h"
+#include "logedit/textfilter.h"
 #include "platform/error.h"
 #include "platform/listselection.h"
 
@@ -40,6 +43,9 @@ public:
     const std::optional<LineNumberTag>& Tags() const { return tags_; }
     const ParsedLog* Log() const { return log_.get(); }  // null when nothing is shown
 
+    LinesOfLog Lines() const { return {*log_, shown_.get(), count_}; }  // not when nothing is shown
+    size_t ItemOfLine(size_t line) const;  // the first item of this line or a later one; Count() when there is none
+
     // The longest text that an item of this log can have, in bytes: for the list's horizontal extent.
     size_t LongestText() const;
 
@@ -48,21 +54,57 @@ public:
 
     void Clear() { *this = LogView(); }
 
-    // Shows the lines of a log that pass the filter; what was deleted before comes back. With 7 nothing has changed.
+    // Shows the lines of a log that pass the filter and the text filter. What was deleted before comes back, and cannot
+    // be undone any more, unless it is kept out. With 7 nothing has changed.
     Failure ApplyLogFilter(std::shared_ptr<const ParsedLog> log, uint32_t mask, const PlayerList& include,
-                           const PlayerList& exclude, bool lineNumbers);
+                           const PlayerList& exclude, bool lineNumbers, bool keepDeletedOut = false);
 
-    // Takes the selected items out of the display; the parsed lines stay. The selection must have Count() items.
-    void Delete(const ListSelection& selected);
+    // On top of types and players, as they were applied last.
+    void SetText(TextFilter text);
+    const TextFilter& TextFiltered() const { return text_; }
+
+    // Shows the lines of all these types, whoever speaks and whatever they say, until the filter is applied anew or
+    // nothing is given.
+    void ShowAll(std::optional<uint32_t> mask);
+    bool ShowsAll() const { return all_.has_value(); }
+
+    // Takes the selected items out of the display; the parsed lines stay. The selection must have Count() items. top:
+    // the first item in sight.
+    void Delete(const ListSelection& selected, size_t top = 0);
+
+    // What Undo and Redo leave: the lines that are back and the item that was the first in sight.
+    struct Restored {
+        ListSelection selection;
+        size_t top = 0;
+    };
+    bool CanUndo() const { return deletions_.CanUndo(); }
+    bool CanRedo() const { return deletions_.CanRedo(); }
+    Restored Undo();
+    Restored Redo();
+
+    // Why lines are not shown, each counted once, in this order.
+    struct Hidden {
+        size_t byType = 0, byPlayer = 0, deleted = 0, byText = 0;
+        size_t unknown = 0;  // those of byType whose kind nobody knows
+    };
+    Hidden CountHidden() const;
 
     // The selected items as displayed, CR LF between them.
     std::string SelectedText(const ListSelection& selected) const;
 
 private:
+    void Recompute();
+
     std::shared_ptr<const ParsedLog> log_;
     std::unique_ptr<uint32_t[]> shown_;  // with room for every line of the log
     size_t count_ = 0;
     std::optional<LineNumberTag> tags_;
+    LineFilter filter_;  // as it was applied last
+    TextFilter text_;
+    std::optional<uint32_t> all_;  // the types, while all is shown
+    Deletions deletions_;
+    size_t passed_ = 0;     // lines that pass types and players
+    size_t undeleted_ = 0;  // of these
 };
 
 }  // namespace quirn

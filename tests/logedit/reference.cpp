@@ -129,6 +129,70 @@ std::vector<size_t> Filter(const Log& log, int mask, const std::vector<Player>& 
     return shown;
 }
 
+namespace {
+
+// All words of the first list in it and none of the second.
+bool Passes(const std::string& line, const std::vector<std::string>& wanted, const std::vector<std::string>& unwanted) {
+    const auto holds = [&](const std::string& word) {
+        return FoldCase(line).find(FoldCase(word)) != std::string::npos;
+    };
+    return std::all_of(wanted.begin(), wanted.end(), holds) && std::none_of(unwanted.begin(), unwanted.end(), holds);
+}
+
+// The text filter with pieces of the text as words, deletions, and the way back. The view ends as it was.
+std::string TextAndUndo(LogView& view, std::string_view text, uint32_t seed) {
+    const auto items = [&] {
+        std::vector<size_t> lines;
+        for (size_t i = 0; i < view.Count(); ++i) lines.push_back(view.LineIndex(i));
+        return lines;
+    };
+    const std::vector<size_t> all = items();
+    std::vector<std::string> wanted, unwanted;
+    std::string filter;
+    for (size_t i = 0; i < seed % 4; ++i) {
+        std::string word(text.substr(seed * (i + 7) % (text.size() + 1), 1 + (seed + i) % 4));
+        std::erase_if(word, [](char c) { return c == '"' || c == '-'; });
+        if (word.empty()) continue;
+        const bool isWanted = (seed >> i & 4) != 0;
+        (isWanted ? wanted : unwanted).push_back(word);
+        filter += (isWanted ? " \"" : "  -\"") + word + '"';
+    }
+    view.SetText(TextFilter(filter));
+    std::vector<size_t> expected;
+    for (const size_t line : all)
+        if (Passes(std::string(view.Log()->Line(line)), wanted, unwanted)) expected.push_back(line);
+    if (items() != expected) return "text filter" + filter;
+
+    std::vector<std::vector<size_t>> states{expected};
+    for (size_t step = 1; step < 4; ++step) {
+        ListSelection selected;
+        selected.Reset(view.Count());
+        std::vector<size_t> left;
+        for (size_t i = 0; i < view.Count(); ++i) {
+            const bool goes = (i * step + seed) % 3 == 0;
+            if (goes) selected.Select(i, true);
+            else left.push_back(states.back()[i]);
+        }
+        view.Delete(selected);
+        if (items() != left) return "what a deletion leaves";
+        if (left.size() != states.back().size()) states.push_back(left);
+    }
+    for (size_t step = states.size() - 1; step > 0; --step) {
+        const LogView::Restored back = view.Undo();
+        if (items() != states[step - 1]) return "what is undone";
+        if (back.selection.SelectedCount() != states[step - 1].size() - states[step].size()) return "what is selected";
+    }
+    for (size_t step = 1; step < states.size(); ++step) view.Redo();
+    if (items() != states.back() || view.CanRedo()) return "what is done again";
+    const LogView::Hidden hidden = view.CountHidden();
+    if (hidden.deleted + hidden.byText != all.size() - view.Count()) return "how many are hidden";
+    while (view.CanUndo()) view.Undo();
+    view.SetText({});
+    return items() == all ? "" : "what comes back";
+}
+
+}  // namespace
+
 std::string Difference(std::string_view text, size_t piece, uint32_t hidden) {
     const auto log = std::make_shared<ParsedLog>();
     LogParser parser(*log, text.size());
@@ -163,6 +227,7 @@ std::string Difference(std::string_view text, size_t piece, uint32_t hidden) {
     if (view.Count() != shown.size()) return "number of shown lines";
     for (size_t i = 0; i < shown.size(); ++i)
         if (view.LineIndex(i) != shown[i]) return "shown line " + std::to_string(i);
+    if (std::string difference = TextAndUndo(view, text, hidden); !difference.empty()) return difference;
     if (view.Count() == 0) return {};
 
     // A piece of the text itself, looked for in what is shown.
