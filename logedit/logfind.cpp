@@ -5,6 +5,7 @@
 
 #include "logedit/linesearch.h"
 #include "logedit/textfinder.h"
+#include "platform/text.h"
 
 namespace quirn {
 
@@ -68,6 +69,27 @@ std::optional<size_t> FindItem(const LogView& view, std::string_view text, size_
     if (!view.Tags()) return inLines;
     const std::optional<size_t> inTags = FindInTags(view, text, finder, start, inLines.value_or(view.Count()));
     return inTags ? inTags : inLines;
+}
+
+// Some items at a time, from the end on; in each the last hit counts.
+std::optional<size_t> FindItemBefore(const LogView& view, std::string_view text, size_t end) {
+    constexpr size_t kItems = 4096;
+    const TextFinder finder(text);
+    const std::string folded = FoldCase(text);
+    for (end = std::min(end, view.Count()); end > 0;) {
+        const size_t begin = end - std::min(end, kItems);
+        std::optional<size_t> last;
+        ForEachHit({*view.Log(), view.Lines().lines, end}, finder, begin, [&](size_t item) {
+            last = item;
+            return true;
+        });
+        // A hit may start in the tag, which is no part of the line.
+        for (size_t item = end; view.Tags() && item > last.value_or(begin); --item)
+            if (FoldCase(view.Text(item - 1)).find(folded) != std::string::npos) return item - 1;
+        if (last) return last;
+        end = begin;
+    }
+    return std::nullopt;
 }
 
 bool FindInLog(const LogView& view, std::string_view text, const FindList& list) {

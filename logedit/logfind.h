@@ -27,6 +27,9 @@ struct FindList {
 // (it is on the last screenful, or the top line itself). That a hit may be answered so is kept on purpose.
 bool FindInLog(const LogView& view, std::string_view text, const FindList& list);
 
+// The last item before an end whose displayed text holds the text; nothing when there is none.
+std::optional<size_t> FindItemBefore(const LogView& view, std::string_view text, size_t end);
+
 std::string CannotFindText(const std::string& text);
 
 }  // namespace quirn

@@ -145,11 +145,11 @@ public:
 
     // What the kinds do differently for their form.
     virtual bool TakesFocus() const { return true; }
-    virtual bool KeepsKey(int) const { return false; }     // by its virtual code: not the form's while it has the focus
-    virtual bool UserPressesEnter() { return false; }      // false: the key is the default button's
-    virtual bool UserPressesAccessKey() { return false; }  // false: the "&" in its text marks none
-    virtual bool UserTurns(int) { return false; }          // to another page; false: it has none
-    virtual const std::vector<TabPage*>& Pages() const;    // none, but those of a tab strip
+    virtual bool KeepsKey(int, bool) const { return false; }  // by its virtual code, and with Ctrl: not the form's
+    virtual bool UserPressesEnter() { return false; }         // false: the key is the default button's
+    virtual bool UserPressesAccessKey() { return false; }     // false: the "&" in its text marks none
+    virtual bool UserTurns(int) { return false; }             // to another page; false: it has none
+    virtual const std::vector<TabPage*>& Pages() const;       // none, but those of a tab strip
 
 protected:
     Control(Parent parent, const native::Kind& kind, const Bounds& place, const std::string& text);

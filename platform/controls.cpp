@@ -184,8 +184,10 @@ bool TextBox::UserPressesEnter() {
     return UserTypes(static_cast<char>(kKeyEnter));
 }
 
-bool TextBox::KeepsKey(int key) const {
-    return key == kKeyDelete;
+// Those with which it edits.
+bool TextBox::KeepsKey(int key, bool control) const {
+    return key == kKeyDelete ||
+           (control && std::string_view("ACVXZ").find(static_cast<char>(key)) != std::string_view::npos);
 }
 
 ComboBox::ComboBox(Parent parent, const Bounds& place) : Control(parent, native::kComboBox, place, {}) {}
@@ -220,7 +222,7 @@ void ComboBox::UserOpens(bool open) {
 }
 
 // They close the open list.
-bool ComboBox::KeepsKey(int key) const {
+bool ComboBox::KeepsKey(int key, bool) const {
     return IsEnterOrEscape(key) && window != nullptr && native::IsOpen(*this);
 }
 
@@ -308,7 +310,7 @@ bool ListBox::UserTypes(char character) {
     return Ask(onKeyPress, character);
 }
 
-bool ListBox::KeepsKey(int key) const {
+bool ListBox::KeepsKey(int key, bool) const {
     return IsEnterOrEscape(key) && onKeyPress;
 }
 

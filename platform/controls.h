@@ -157,7 +157,7 @@ public:
     void UserEdits(const std::string& text);
     bool UserTypes(char character);  // false: the window's own handling goes on
     bool UserPressesEnter() override;
-    bool KeepsKey(int key) const override;
+    bool KeepsKey(int key, bool control) const override;
 
 private:
     TextStyle style_;
@@ -190,7 +190,7 @@ public:
     size_t UserPastes(std::string_view text, size_t caret, size_t selectionEnd = 0);  // without spaces and line ends
     size_t UserClears(size_t from, size_t to);                                        // removes a selection
     void UserEdits(const std::string& text);  // the window's text after any other edit
-    bool KeepsKey(int key) const override;
+    bool KeepsKey(int key, bool control) const override;
 
 private:
     std::string EmptyText() const;
@@ -219,7 +219,7 @@ public:
     void UserSelects(int index);
     void UserHighlights(int index);
     void UserOpens(bool open);
-    bool KeepsKey(int key) const override;
+    bool KeepsKey(int key, bool control) const override;
 
 private:
     std::vector<std::string> items_;
@@ -256,7 +256,7 @@ public:
     void UserDoubleClicks(int index);
     bool UserPressesKey(int virtualKey);
     bool UserTypes(char character);
-    bool KeepsKey(int key) const override;
+    bool KeepsKey(int key, bool control) const override;
 
 private:
     ListStyle style_;

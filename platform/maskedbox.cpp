@@ -152,7 +152,7 @@ size_t MaskedBox::UserClears(size_t from, size_t to) {
     return from;
 }
 
-bool MaskedBox::KeepsKey(int key) const {
+bool MaskedBox::KeepsKey(int key, bool) const {
     return key == kKeyDelete;
 }
 

@@ -71,6 +71,11 @@ void VirtualList::SelectionRemoved(size_t longestText) {
     SetTopIndex(newTop);
 }
 
+void VirtualList::SetEmptyText(const std::string& text) {
+    emptyText_ = text;
+    Changed(Aspect::Colors);  // painted anew
+}
+
 void VirtualList::UserClicksItem(size_t item, bool shift, bool control) {
     Selection();
     selection_.Click(item, shift, control);
@@ -82,7 +87,8 @@ void VirtualList::UserDoubleClicks() {
     CallHandler(onDoubleClick);
 }
 
-void VirtualList::UserPressesRightButton() {
+void VirtualList::UserPressesRightButton(std::optional<size_t> item) {
+    pointed_ = item;
     CallHandler(onRightMouseDown);
 }
 

@@ -4,6 +4,8 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "platform/control.h"
 #include "platform/listselection.h"
@@ -19,16 +21,21 @@ public:
     // What the items are. Asked at any time; an index is always below Count().
     std::function<std::string(size_t)> itemText;
     std::function<int32_t(size_t)> itemData;
+    std::function<std::vector<std::pair<size_t, size_t>>(size_t)> itemMarks;  // what is marked: first byte and length
 
     size_t Count() const { return count_; }
     size_t LongestText() const { return longestText_; }  // bytes
     const ListSelection& Selection() const;
     std::optional<size_t> Current() const { return current_; }  // the item that the keyboard is at, once it is at one
-    size_t TopIndex() const;                                    // the first visible item
+    const std::string& EmptyText() const { return emptyText_; }
+    // While onRightMouseDown is called: the item under the pointer, or by the keyboard the current one.
+    std::optional<size_t> Pointed() const { return pointed_; }
+    size_t TopIndex() const;  // the first visible item
 
     // Other items: nothing is selected, none is current, and the list is scrolled to its start. longestText: the most
     // bytes that an item has, for scrolling sideways.
     void SetCount(size_t count, size_t longestText);
+    void SetEmptyText(const std::string& text);         // shown, grey, while there are no items
     void SetSelection(const ListSelection& selection);  // of Count() items
     void Select(size_t item);                           // beside what is selected
     void SelectAll();
@@ -43,7 +50,7 @@ public:
 
     void UserClicksItem(size_t item, bool shift, bool control);
     void UserDoubleClicks();
-    void UserPressesRightButton();
+    void UserPressesRightButton(std::optional<size_t> item = {});
     void WindowChangedSelection(std::optional<size_t> current);  // the window has done what UserClicksItem would
 
 private:
@@ -52,6 +59,8 @@ private:
     mutable ListSelection selection_;
     mutable bool selectionIsOld_ = false;  // the window knows a newer one; fetched when somebody asks
     std::optional<size_t> current_;
+    std::optional<size_t> pointed_;
+    std::string emptyText_;
     size_t topIndex_ = 0;  // while there is no window
 };
 

@@ -37,7 +37,8 @@ Key AnswerKey(Form& form, int key) {
     if (Pressed(VK_MENU)) return enterOrEscape ? Key::ForControl : Key::ForDialogManager;
     if (control && key == VK_TAB && form.UserTurnsPage(shift ? -1 : 1)) return Key::Done;
     if (control && (key == VK_NEXT || key == VK_PRIOR) && form.UserTurnsPage(key == VK_NEXT ? 1 : -1)) return Key::Done;
-    if (form.ActiveControl() != nullptr && form.ActiveControl()->KeepsKey(key)) return Key::ForControl;
+    if (form.ActiveControl() != nullptr && form.ActiveControl()->KeepsKey(key, control && !shift))
+        return Key::ForControl;
     if (form.UserPressesShortcut({key, control, shift})) return Key::Done;
     if (!enterOrEscape) return Key::ForDialogManager;
     AnswerEnterOrEscape(form, key);

@@ -161,6 +161,30 @@ void SetListFont(const VirtualList& list, HFONT font) {
     Send(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(TextExtent(list)));
 }
 
+// The list box's own message for this knows 16 bits only.
+std::optional<size_t> ItemAt(const VirtualList& list, LONG y) {
+    const LRESULT height = std::max<LRESULT>(Send(list, LB_GETITEMHEIGHT), 1);
+    const auto item = static_cast<size_t>(Send(list, LB_GETTOPINDEX) + y / height);
+    return y >= 0 && item < list.Count() ? std::optional(item) : std::nullopt;
+}
+
+// Draws marked pieces of a text again, in the colours of hints. Only the start of a very long line is looked at.
+void DrawMarks(const VirtualList& list, const DRAWITEMSTRUCT& item, std::string_view text) {
+    constexpr size_t kLookedAt = 4096;
+    SetTextColor(item.hDC, GetSysColor(COLOR_INFOTEXT));
+    SetBkColor(item.hDC, GetSysColor(COLOR_INFOBK));
+    for (const auto& [first, length] : list.itemMarks(item.itemID)) {
+        if (first + length > std::min(text.size(), kLookedAt)) continue;
+        SIZE before{}, marked{};
+        GetTextExtentPoint32A(item.hDC, text.data(), static_cast<int>(first), &before);
+        GetTextExtentPoint32A(item.hDC, text.data() + first, static_cast<int>(length), &marked);
+        const int left = item.rcItem.left + kTextMargin + before.cx;
+        const RECT place{left, item.rcItem.top, left + marked.cx, item.rcItem.bottom};
+        ExtTextOutA(item.hDC, left, item.rcItem.top, ETO_OPAQUE | ETO_CLIPPED, &place, text.data() + first,
+                    static_cast<UINT>(length), nullptr);
+    }
+}
+
 void DrawListItem(const VirtualList& list, const DRAWITEMSTRUCT& item) {
     const bool selected = (item.itemState & ODS_SELECTED) != 0;
     const Color fore = list.ForeColor().value_or(GetSysColor(COLOR_WINDOWTEXT));
@@ -170,8 +194,9 @@ void DrawListItem(const VirtualList& list, const DRAWITEMSTRUCT& item) {
     ExtTextOutA(item.hDC, 0, 0, ETO_OPAQUE, &item.rcItem, nullptr, 0, nullptr);
     SetBkMode(item.hDC, TRANSPARENT);
     if (item.itemID < list.Count()) {
-        const int end = DrawLine(item.hDC, item.rcItem.left + kTextMargin, item.rcItem.top, item.rcItem,
-                                 list.itemText(item.itemID));
+        const std::string text = list.itemText(item.itemID);
+        const int end = DrawLine(item.hDC, item.rcItem.left + kTextMargin, item.rcItem.top, item.rcItem, text);
+        if (list.itemMarks && !selected) DrawMarks(list, item, text);
         // Later, because it may paint the list anew.
         const int extent = end + kTextMargin - item.rcItem.left;
         if (extent > Send(list, LB_GETHORIZONTALEXTENT))
@@ -186,6 +211,20 @@ void ListCommand(VirtualList& list, WORD code) {
     const LRESULT caret = Send(list, LB_GETCARETINDEX);
     const bool there = caret >= 0 && static_cast<size_t>(caret) < list.Count();
     list.WindowChangedSelection(there ? std::optional(static_cast<size_t>(caret)) : std::nullopt);
+}
+
+void DrawEmptyText(const VirtualList& list) {
+    const HWND window = WindowOf(list);
+    RECT area{};
+    GetClientRect(window, &area);
+    area.top += (area.bottom - area.top) / 3;
+    const HDC device = GetDC(window);
+    const HGDIOBJ before = SelectObject(device, FontFor({}, DpiOf(list)));
+    SetTextColor(device, GetSysColor(COLOR_GRAYTEXT));
+    SetBkMode(device, TRANSPARENT);
+    DrawTextA(device, list.EmptyText().c_str(), -1, &area, DT_CENTER | DT_WORDBREAK | DT_NOPREFIX);
+    SelectObject(device, before);
+    ReleaseDC(window, device);
 }
 
 class ListAnswers : public ItemsOfControl {
@@ -205,12 +244,7 @@ private:
         Send(List(), LB_GETITEMRECT, item, reinterpret_cast<LPARAM>(&place));
         return place;
     }
-    // The message for this knows 16 bits only.
-    std::optional<size_t> ItemAt(POINT place) const override {
-        const auto item = static_cast<size_t>(Send(List(), LB_GETTOPINDEX) +
-                                              place.y / std::max<LRESULT>(Send(List(), LB_GETITEMHEIGHT), 1));
-        return item < Count() ? std::optional(item) : std::nullopt;
-    }
+    std::optional<size_t> ItemAt(POINT place) const override { return win32::ItemAt(List(), place.y); }
     void SelectAlone(size_t item) const override {
         Send(List(), LB_SETSEL, FALSE, -1);
         Send(List(), LB_SETSEL, TRUE, static_cast<LPARAM>(item));
@@ -239,10 +273,16 @@ std::optional<LRESULT> ListMessage(VirtualList& list, const Message& m) {
             if (LOWORD(wParam) != SB_THUMBTRACK && LOWORD(wParam) != SB_THUMBPOSITION) return std::nullopt;
             ScrollToThumb(list);
             return 0;
-        case WM_RBUTTONDOWN: list.UserPressesRightButton(); return 0;
+        case WM_RBUTTONDOWN: list.UserPressesRightButton(ItemAt(list, static_cast<short>(HIWORD(m.lParam)))); return 0;
         case WM_CONTEXTMENU:
-            if (m.lParam == -1) list.UserPressesRightButton();  // by the keyboard
+            if (m.lParam == -1) list.UserPressesRightButton(list.Current());  // by the keyboard
             return 0;
+        case WM_PAINT: {
+            if (list.Count() > 0 || list.EmptyText().empty()) return std::nullopt;
+            const LRESULT result = Pass(m);
+            DrawEmptyText(list);
+            return result;
+        }
         default: return std::nullopt;
     }
 }

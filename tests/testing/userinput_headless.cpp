@@ -119,13 +119,14 @@ void Close(Form& form) {
 
 void Press(Form& form, int key, bool control, bool shift) {
     if (control && key == kKeyTab && form.UserTurnsPage(1)) return;
-    if (form.UserPressesShortcut({key, control, shift})) return;
     Control* active = form.ActiveControl();
     auto* list = dynamic_cast<ListBox*>(active);
-    if (list != nullptr && list->KeepsKey(key)) {
-        list->UserTypes(static_cast<char>(key));
+    if (active != nullptr && active->KeepsKey(key, control && !shift)) {
+        if (list != nullptr) list->UserTypes(static_cast<char>(key));
         return;
     }
+    if (form.UserPressesShortcut({key, control, shift})) return;
+    active = form.ActiveControl();
     auto* table = dynamic_cast<Table*>(active);
     if (table != nullptr && table->UserPressesKey(key, control)) return;
     form.UserTypes(static_cast<char>(key));
