@@ -47,9 +47,6 @@ constexpr char kLoaded[] = "Log file has been loaded";
 constexpr char kLoadFailed[] = "ERROR loading log file";
 constexpr char kSaved[] = "File has been saved";
 
-constexpr Color kBlack = Rgb(0, 0, 0);
-constexpr Color kWhite = Rgb(255, 255, 255);
-
 }  // namespace
 
 frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
@@ -65,7 +62,9 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
       players_(*this, edit, anchors_),
       cmdApplyFilter(*this, kApply, "Apply Filter"),
       Frame1(*this, kTypes, "Include Message Types"),
+      row_(*this, anchors_),
       StatusBar1(*this, kCountPanelWidth),
+      commands_(edit, lstLog, players_, [this] { ShowCounts(); }),
       find_([this](const std::string& text) { FindInLog(text); }, edit.lastSearch) {
     for (size_t i = 0; i < kFilterBoxCount; ++i) {
         CheckBox& box = chkFilters.emplace_back(Frame1, kBoxes.Cell(i), kFilterBoxes[i].caption);
@@ -78,7 +77,12 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
     lstLog.SetFont({.face = "Courier New", .points = 9});
     lstLog.itemText = [this](size_t item) { return edit_.view.Text(item); };
     lstLog.itemData = [this](size_t item) { return edit_.view.Info(item); };
-    lstLog.onRightMouseDown = [this] { PopUpMenu(mnuLogEditPopup_, 0); };
+    lstLog.itemMarks = [this](size_t item) { return edit_.view.TextFiltered().Marks(edit_.view.Text(item)); };
+    lstLog.SetEmptyText("Open a log with Ctrl+O, or drop one here.");
+    lstLog.onRightMouseDown = [this] { lstLog_MouseDown(); };
+    row_.onText = [this](const std::string& text) { commands_.FilterByText(text); };
+    row_.onShowAll = [this] { commands_.ShowAll(); };
+    row_.onDown = [this] { lstLog.SetFocus(); };
     players_.onMove = [this] {
         if (edit_.applyAtOnce) ApplyLogFilter();
     };
@@ -101,10 +105,13 @@ void frmLogEdit::Form_Load() {
     edit_.include.Clear();
     edit_.exclude.Clear();
     edit_.view.Clear();
+    edit_.view.SetText({});
     players_.Reset();
     lstLog.SetCount(0, 0);
-    edit_.applyAtOnce = edit_.lineNumbers = false;
-    for (const int command : {mnuOptions_Apply, mnuOptions_LineNums}) menuBar_.SetChecked(command, false);
+    edit_.applyAtOnce = edit_.lineNumbers = edit_.keepDeletedOut = edit_.showUnknown = false;
+    for (const int command : {mnuOptions_Apply, mnuOptions_LineNums, mnuEdit_Keep, mnuView_Unknown, mnuView_All})
+        menuBar_.SetChecked(command, false);
+    row_.Reset();
     edit_.chkFilters.fill(1);
     for (CheckBox& box : chkFilters) box.SetValue(1);
     edit_.LogFilterMask = BuildFilterMask(edit_.chkFilters);
@@ -138,23 +145,20 @@ bool frmLogEdit::Form_Unload() {
 }
 
 bool frmLogEdit::Form_KeyDown(int key, bool control) {
-    if (!control && key == kKeyF3) {
-        if (edit_.lastSearch.empty()) mnuSearch_Find_Click();
-        else FindInLog(edit_.lastSearch);
-        return true;
-    }
-    auto* const list = dynamic_cast<VirtualList*>(ActiveControl());
-    if (list == nullptr) return false;
-    if (!control && key == kKeyDelete && lstLog.HasFocus()) {
-        mnuLogEditPopup_Delete_Click();
-    } else if (control && key == 'A') {
-        list->SelectAll();
-    } else if (control && key == 'C') {
-        CopySelected();
-    } else {
-        return false;
-    }
+    if (control) return false;
+    if (row_.KeyDown(key)) return true;
+    if (key != kKeyDelete || !lstLog.HasFocus()) return false;
+    mnuLogEditPopup_Delete_Click();
     return true;
+}
+
+// What is deleted must be what the player sees: with nothing selected it is the line that he points at.
+void frmLogEdit::lstLog_MouseDown() {
+    if (const std::optional<size_t> item = lstLog.Pointed()) {
+        if (lstLog.Selection().SelectedCount() == 0) lstLog.Select(*item);
+        lstLog.SetCurrent(*item);
+    }
+    PopUpMenu(mnuLogEditPopup_, 0);
 }
 
 void frmLogEdit::mnuFile_Open_Click() {
@@ -190,14 +194,13 @@ void frmLogEdit::mnuFileMRU_Click(size_t index) {
     OpenLog(std::string(edit_.LogMRU[index]));
 }
 
-void frmLogEdit::mnuOptions_Apply_Click() {
-    edit_.applyAtOnce = !edit_.applyAtOnce;
-    menuBar_.SetChecked(mnuOptions_Apply, edit_.applyAtOnce);
+void frmLogEdit::Toggle(int command, bool& option) {
+    option = !option;
+    menuBar_.SetChecked(command, option);
 }
 
 void frmLogEdit::mnuOptions_LineNums_Click() {
-    edit_.lineNumbers = !edit_.lineNumbers;
-    menuBar_.SetChecked(mnuOptions_LineNums, edit_.lineNumbers);
+    Toggle(mnuOptions_LineNums, edit_.lineNumbers);
     ApplyLogFilter();
 }
 
@@ -205,21 +208,28 @@ void frmLogEdit::mnuSearch_Find_Click() {
     find_.Open(*this);
 }
 
+void frmLogEdit::mnuSearch_Next_Click() {
+    if (edit_.lastSearch.empty()) mnuSearch_Find_Click();
+    else FindInLog(edit_.lastSearch);
+}
+
+void frmLogEdit::mnuSearch_Previous_Click() {
+    if (edit_.lastSearch.empty()) mnuSearch_Find_Click();
+    else commands_.FindPrevious(edit_.lastSearch);
+}
+
+void frmLogEdit::mnuView_Unknown_Click() {
+    Toggle(mnuView_Unknown, edit_.showUnknown);
+    if (commands_.HasLog()) ApplyLogFilter();
+}
+
+void frmLogEdit::mnuInExPopup_Only_Click() {
+    players_.mnuInExPopup_Only_Click();
+    if (edit_.applyAtOnce) ApplyLogFilter();
+}
+
 void frmLogEdit::mnuLogEditPopup_Delete_Click() {
-    edit_.view.Delete(lstLog.Selection());
-    lstLog.SelectionRemoved(edit_.view.LongestText());
-    StatusBar1.SetSecondText(edit_.view.CountText());
-}
-
-void frmLogEdit::ChooseLogFont() {
-    if (const auto font = AskFont(lstLog.FontUsed())) lstLog.SetFont(*font);
-}
-
-void frmLogEdit::ChooseLogColor(bool foreground) {
-    const auto color = AskColor(foreground ? lstLog.ForeColor().value_or(kBlack) : lstLog.BackColor().value_or(kWhite));
-    if (!color) return;
-    if (foreground) lstLog.SetForeColor(*color);
-    else lstLog.SetBackColor(*color);
+    commands_.Delete();
 }
 
 void frmLogEdit::RefreshLogMRUMenu() {
@@ -304,14 +314,32 @@ void frmLogEdit::FindInLog(const std::string& text) {
     if (!moved) ShowMessage(CannotFindText(text), kInformation);
 }
 
+// In the list that has the keyboard; from the menu, the lines when none has it.
+void frmLogEdit::SelectAll() {
+    auto* const list = dynamic_cast<VirtualList*>(ActiveControl());
+    (list != nullptr ? *list : lstLog).SelectAll();
+}
+
 void frmLogEdit::CopySelected() {
-    const std::string text = lstLog.HasFocus() ? edit_.view.SelectedText(lstLog.Selection()) : players_.SelectedText();
+    const std::string text = players_.SelectedText();
+    if (text.empty()) CopyLines();
+    else ShowError(SetClipboardText(text));
+}
+
+void frmLogEdit::CopyLines() {
+    const std::string text = edit_.view.SelectedText(lstLog.Selection());
     if (!text.empty()) ShowError(SetClipboardText(text));
 }
 
 void frmLogEdit::ShowLog() {
     lstLog.SetCount(edit_.view.Count(), edit_.view.LongestText());
+    ShowCounts();
+}
+
+void frmLogEdit::ShowCounts() {
     StatusBar1.SetSecondText(edit_.view.CountText());
+    menuBar_.SetChecked(mnuView_All, edit_.view.ShowsAll());
+    row_.ShowCounts(edit_.view);
 }
 
 }  // namespace quirn

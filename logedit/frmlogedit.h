@@ -3,10 +3,12 @@
 #include <deque>
 #include <string>
 
+#include "logedit/filterrow.h"
 #include "logedit/frmlogfind.h"
 #include "logedit/logedit.h"
 #include "logedit/playerpanel.h"
 #include "logedit/progressframe.h"
+#include "logedit/viewcommands.h"
 #include "platform/anchors.h"
 #include "platform/form.h"
 #include "platform/virtuallist.h"
@@ -33,12 +35,14 @@ private:
     void mnuFile_SaveAs_Click();
     void mnuFileMRU_Click(size_t index);
     void mnuFile_Close_Click() { Unload(); }
-    void mnuOptions_Apply_Click();
+    void Toggle(int command, bool& option);
     void mnuOptions_LineNums_Click();
     void mnuSearch_Find_Click();
+    void mnuSearch_Next_Click();
+    void mnuSearch_Previous_Click();
+    void mnuView_Unknown_Click();
+    void mnuInExPopup_Only_Click();
     void mnuLogEditPopup_Delete_Click();
-    void ChooseLogFont();
-    void ChooseLogColor(bool foreground);
     void RefreshLogMRUMenu();
 
     void chkFilters_Click();
@@ -46,8 +50,12 @@ private:
     void OpenLog(const std::string& path);
     void ApplyLogFilter();
     void FindInLog(const std::string& text);
+    void SelectAll();
     void CopySelected();
+    void CopyLines();
+    void lstLog_MouseDown();
     void ShowLog();
+    void ShowCounts();
 
     const std::string& gameFolder_;
     LogEdit& edit_;
@@ -61,7 +69,9 @@ private:
     Button cmdApplyFilter;
     Frame Frame1;
     std::deque<CheckBox> chkFilters;
+    FilterRow row_;
     StatusBar StatusBar1;
+    ViewCommands commands_;
     frmLogFind find_;
 };
 

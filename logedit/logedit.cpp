@@ -12,6 +12,12 @@ void LogEdit::Forget() {
     lastSearch.clear();
 }
 
+uint32_t LogEdit::KnownTypes() const {
+    FilterBoxValues all;
+    all.fill(1);
+    return BuildFilterMask(all) | (showUnknown ? uint32_t{kUnknown} : 0);
+}
+
 namespace {
 
 // What a file that could not be read leaves.
@@ -48,7 +54,8 @@ ParseResult ParseLogFile(LogEdit& edit, const std::string& path, const ParseStep
 }
 
 Failure ApplyLogFilter(LogEdit& edit) {
-    return edit.view.ApplyLogFilter(edit.LogLines, edit.LogFilterMask, edit.include, edit.exclude, edit.lineNumbers);
+    return edit.view.ApplyLogFilter(edit.LogLines, edit.FilterMask(), edit.include, edit.exclude, edit.lineNumbers,
+                                    edit.keepDeletedOut);
 }
 
 }  // namespace quirn

@@ -20,10 +20,16 @@ struct LogEdit {
     FilterBoxValues chkFilters{};  // the values of the check boxes
     bool applyAtOnce = false;      // mnuOptions_Apply
     bool lineNumbers = false;      // mnuOptions_LineNums
+    bool keepDeletedOut = false;   // mnuEdit_Keep
+    bool showUnknown = false;      // mnuView_Unknown
     PlayerList include, exclude;   // lstInclude, lstExclude
     LogView view;                  // lstLog
     RecentFiles LogMRU;
     std::string lastSearch;
+
+    // LogFilterMask, and on demand the lines of a kind that no check box stands for.
+    uint32_t FilterMask() const { return LogFilterMask | (showUnknown ? uint32_t{kUnknown} : 0); }
+    uint32_t KnownTypes() const;  // the same with all check boxes ticked
 
     // What the main window's Log menu does before it shows the window: no lines, no search text.
     void Forget();

@@ -31,24 +31,51 @@ std::vector<MenuRow> frmLogEdit::MenuRows() {
         {mnuFile_Close, 1, "Close", "", "Close the LogEdit window",
             [this] { mnuFile_Close_Click(); }},
 
+        {mnuEdit, 0, "&Edit"},
+        {mnuEdit_Undo, 1, "&Undo Delete", "Ctrl+Z", "Bring back the lines that were deleted last",
+            [this] { commands_.Undo(); }, [this] { return commands_.CanUndo(); }},
+        {mnuEdit_Redo, 1, "&Redo Delete", "Ctrl+Y", "Delete again what was brought back last",
+            [this] { commands_.Redo(); }, [this] { return commands_.CanRedo(); }},
+        {mnuEditBarCopy, 1, "-"},
+        {mnuEdit_Copy, 1, "&Copy", "Ctrl+C", "Copy the selected lines or players",
+            [this] { CopySelected(); }},
+        {mnuEdit_All, 1, "Select &All", "Ctrl+A", "Select all lines or players",
+            [this] { SelectAll(); }},
+        {mnuEditBarKeep, 1, "-"},
+        {mnuEdit_Keep, 1, "&Keep Deleted Lines Out", "", "Applying the filter does not bring deleted lines back",
+            [this] { Toggle(mnuEdit_Keep, edit_.keepDeletedOut); }},
+
+        {mnuView, 0, "&View"},
+        {mnuView_Text, 1, "Text &Filter", "Ctrl+Shift+F", "Show only lines with certain words",
+            [this] { row_.FocusText(); }},
+        {mnuView_All, 1, "Show &All", "Ctrl+Shift+A", "Show all lines, or again what the filters leave",
+            [this] { commands_.ShowAll(); }, [this] { return commands_.HasLog(); }},
+        {mnuViewBarUnknown, 1, "-"},
+        {mnuView_Unknown, 1, "Show Lines of &Unknown Kind", "", "Show lines that no check box stands for",
+            [this] { mnuView_Unknown_Click(); }},
+
         {mnuOptions, 0, "&Options"},
         {mnuOptions_Font, 1, "Change Font...", "", kFontHelp,
-            [this] { ChooseLogFont(); }},
+            [this] { commands_.ChooseLogFont(); }},
         {mnuOptions_Color, 1, "Change Color"},
         {mnuOptions_Color_Foreground, 2, "Foreground Color...", "",
             "Change the foreground color for the log edit window",
-            [this] { ChooseLogColor(true); }},
+            [this] { commands_.ChooseLogColor(true); }},
         {mnuOptions_Color_Background, 2, "Background Color...", "",
             "Change the background color for the log edit window",
-            [this] { ChooseLogColor(false); }},
+            [this] { commands_.ChooseLogColor(false); }},
         {mnuOptions_Apply, 1, "Apply Filter Immediately", "", "Apply any filter changes immediately",
-            [this] { mnuOptions_Apply_Click(); }},
+            [this] { Toggle(mnuOptions_Apply, edit_.applyAtOnce); }},
         {mnuOptions_LineNums, 1, "Display Line Numbers", "", "Display line numbers on log list",
             [this] { mnuOptions_LineNums_Click(); }},
 
         {mnuSearch, 0, "&Search"},
         {mnuSearch_Find, 1, "&Find...", "Ctrl+F", "Find text within the log",
             [this] { mnuSearch_Find_Click(); }},
+        {mnuSearch_Next, 1, "Find &Next", "F3", "Find the same text again, downwards",
+            [this] { mnuSearch_Next_Click(); }, [this] { return commands_.HasLog(); }},
+        {mnuSearch_Previous, 1, "Find &Previous", "Shift+F3", "Find the same text again, upwards",
+            [this] { mnuSearch_Previous_Click(); }, [this] { return commands_.HasLog(); }},
     };
 }
 
@@ -59,7 +86,16 @@ std::vector<MenuRow> frmLogEdit::LogPopupRows() {
         {mnuLogEditPopup_Delete, 1, "Delete Selected", "Del", "Delete the selected (highlighted) lines",
             [this] { mnuLogEditPopup_Delete_Click(); }},
         {mnuLogEditPopup_Font, 1, "Change Font...", "", kFontHelp,
-            [this] { ChooseLogFont(); }},
+            [this] { commands_.ChooseLogFont(); }},
+        {mnuLogEditPopupBarCopy, 1, "-"},
+        {mnuLogEditPopup_Copy, 1, "Copy", "Ctrl+C", "Copy the selected lines",
+            [this] { CopyLines(); }},
+        {mnuLogEditPopup_Only, 1, "Only This Player", "", "Show only this player's lines and those of nobody",
+            [this] { commands_.OnlySpeaker(); }, [this] { return commands_.HasSpeaker(); }},
+        {mnuLogEditPopup_Hide, 1, "Hide This Player", "", "Hide this player's lines",
+            [this] { commands_.HideSpeaker(); }, [this] { return commands_.HasSpeaker(); }},
+        {mnuLogEditPopup_Everyone, 1, "Everyone Again", "", "Show the lines of all players",
+            [this] { commands_.Everyone(); }, [this] { return edit_.exclude.Count() > 0; }},
     };
 }
 
@@ -71,6 +107,8 @@ std::vector<MenuRow> frmLogEdit::PlayersPopupRows() {
             [this] { players_.mnuInExPopup_All_Click(); }},
         {mnuInExPopup_Invert, 1, "Invert Selection", "", "Invert all selected (highlighted) items in this list",
             [this] { players_.mnuInExPopup_Invert_Click(); }},
+        {mnuInExPopup_Only, 1, "Only These", "", "Include the selected players only",
+            [this] { mnuInExPopup_Only_Click(); }, [this] { return players_.HasSelected(); }},
     };
 }
 // clang-format on

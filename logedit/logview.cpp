@@ -67,6 +67,12 @@ void LogView::Recompute() {
     count_ = all_ || text_.IsEmpty() ? undeleted_ : text_.Apply(*log_, shown_.get(), undeleted_);
 }
 
+void LogView::Clear() {
+    TextFilter text = std::move(text_);
+    *this = LogView();
+    text_ = std::move(text);
+}
+
 void LogView::SetText(TextFilter text) {
     text_ = std::move(text);
     Recompute();

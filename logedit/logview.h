@@ -52,7 +52,7 @@ public:
     // "Log Lines = 12": panel 2 of the status bar.
     std::string CountText() const { return "Log Lines = " + std::to_string(count_); }
 
-    void Clear() { *this = LogView(); }
+    void Clear();  // all but the text filter
 
     // Shows the lines of a log that pass the filter and the text filter. What was deleted before comes back, and cannot
     // be undone any more, unless it is kept out. With 7 nothing has changed.

@@ -19,6 +19,7 @@ constexpr Bounds kExcludeLabel{3140, 5145, 1700, kLabelHeight};
 constexpr Bounds kExclude{     3140, 5370, 1700, 1900};
 // clang-format on
 
+constexpr int kTyping = 1000;                    // milliseconds
 constexpr char kIncludeCaption[] = "Include :";  // until a log is loaded
 constexpr char kExcludeCaption[] = "Exclude :";
 
@@ -45,9 +46,15 @@ PlayerPanel::PlayerPanel(Form& form, LogEdit& edit, Anchors& anchors)
         list->itemData = [&players](size_t item) { return static_cast<int32_t>(players.Number(item)); };
         list->onRightMouseDown = [this, list] {
             popupList_ = list;
+            if (list->Selection().SelectedCount() == 0 && list->Pointed()) list->Select(*list->Pointed());
             if (onPopUp) onPopUp();
         };
     }
+    typing_.SetInterval(kTyping);
+    typing_.onTimer = [this] {
+        typing_.SetEnabled(false);
+        typed_.clear();
+    };
     lstInclude.onDoubleClick = [this] { cmdOut_Click(); };
     lstExclude.onDoubleClick = [this] { cmdIn_Click(); };
     cmdIn.onClick = [this] { cmdIn_Click(); };
@@ -81,20 +88,68 @@ void PlayerPanel::UpdateListCounts() {
 
 void PlayerPanel::KeyPress(char character) {
     for (VirtualList* list : {&lstInclude, &lstExclude}) {
-        if (!list->HasFocus() || static_cast<unsigned char>(character) <= ' ') continue;
-        const PlayerList& players = PlayersOf(*list);
-        for (size_t i = 0; i < players.Count(); ++i) {
-            const size_t item = (list->Current().value_or(players.Count() - 1) + 1 + i) % players.Count();
-            if (players.Name(item).empty() || FoldCase(players.Name(item)[0]) != FoldCase(character)) continue;
-            ListSelection one;
-            one.Reset(players.Count());
-            one.Select(item, true);
-            list->SetSelection(one);
-            list->SetCurrent(item);
-            list->SetTopIndex(item);
-            break;
+        if (!list->HasFocus() || static_cast<unsigned char>(character) <= ' ' || list->Count() == 0) continue;
+        const size_t current = list->Current().value_or(list->Count() - 1);
+        typed_ += character;
+        // The name that one is at may be the one that is meant; a single character goes on to the next.
+        if (typed_.size() == 1 || !GoTo(*list, current, typed_)) {
+            typed_ = character;
+            GoTo(*list, current + 1, typed_);
         }
+        typing_.SetEnabled(false);
+        typing_.SetEnabled(true);
     }
+}
+
+// The first name, from one on and round the end, that begins with a text.
+bool PlayerPanel::GoTo(VirtualList& list, size_t from, const std::string& start) {
+    const PlayerList& players = PlayersOf(list);
+    const std::string wanted = FoldCase(start);
+    for (size_t i = 0; i < players.Count(); ++i) {
+        const size_t item = (from + i) % players.Count();
+        if (FoldCase(players.Name(item).substr(0, wanted.size())) != wanted) continue;
+        ListSelection one;
+        one.Reset(players.Count());
+        one.Select(item, true);
+        list.SetSelection(one);
+        list.SetCurrent(item);
+        list.SetTopIndex(item);
+        return true;
+    }
+    return false;
+}
+
+void PlayerPanel::ShowOnly(const std::vector<uint32_t>& numbers) {
+    const auto isWanted = [&](uint32_t number) {
+        return std::find(numbers.begin(), numbers.end(), number) != numbers.end();
+    };
+    MoveNumbers(edit_.include, edit_.exclude, [&](uint32_t number) { return !isWanted(number); });
+    MoveNumbers(edit_.exclude, edit_.include, isWanted);
+    Show();
+}
+
+void PlayerPanel::Hide(uint32_t number) {
+    MoveNumbers(edit_.include, edit_.exclude, [number](uint32_t other) { return other == number; });
+    Show();
+}
+
+void PlayerPanel::Everyone() {
+    MoveNumbers(edit_.exclude, edit_.include, [](uint32_t) { return true; });
+    Show();
+}
+
+void PlayerPanel::MoveNumbers(PlayerList& from, PlayerList& to, const std::function<bool(uint32_t number)>& moves) {
+    from.Selection().ClearAll();
+    for (size_t i = 0; i < from.Count(); ++i)
+        if (moves(from.Number(i))) from.Selection().Select(i, true);
+    quirn::MovePlayers(from, to);
+}
+
+void PlayerPanel::mnuInExPopup_Only_Click() {
+    const PlayerList& players = PlayersOf(*popupList_);
+    std::vector<uint32_t> numbers;
+    popupList_->Selection().ForEach([&](size_t item) { numbers.push_back(players.Number(item)); });
+    ShowOnly(numbers);
 }
 
 void PlayerPanel::mnuInExPopup_All_Click() {

@@ -6,6 +6,7 @@
 #include "logedit/logedit.h"
 #include "platform/anchors.h"
 #include "platform/form.h"
+#include "platform/timer.h"
 #include "platform/virtuallist.h"
 
 namespace quirn {
@@ -23,7 +24,14 @@ public:
     void Empty();  // before a log is read
     void Show();   // what the edit's lists hold, nothing selected
 
-    void KeyPress(char character);  // in a list it leads to the next name that begins with it
+    // In a list it leads to the next name that begins with it, or with all characters of the last second.
+    void KeyPress(char character);
+    // These move players, and tell nobody.
+    void ShowOnly(const std::vector<uint32_t>& numbers);
+    void Hide(uint32_t number);
+    void Everyone();
+    void mnuInExPopup_Only_Click();  // the selected ones of the list that was clicked
+    bool HasSelected() const { return popupList_->Selection().SelectedCount() > 0; }
     void mnuInExPopup_All_Click();  // the commands of the menu
     void mnuInExPopup_Invert_Click();
     std::string SelectedText();  // of the list that has the keyboard, CR LF between names; else empty
@@ -32,11 +40,15 @@ private:
     void cmdIn_Click();
     void cmdOut_Click();
     void MovePlayers(VirtualList& from, VirtualList& to);
+    void MoveNumbers(PlayerList& from, PlayerList& to, const std::function<bool(uint32_t number)>& moves);
+    bool GoTo(VirtualList& list, size_t from, const std::string& start);
     void UpdateListCounts();
     PlayerList& PlayersOf(const VirtualList& list);
 
     LogEdit& edit_;
     VirtualList* popupList_;  // that mnuInExPopup was opened on
+    std::string typed_;       // the characters of the last second
+    Timer typing_;
 
     Label lblInclude;
     VirtualList lstInclude;

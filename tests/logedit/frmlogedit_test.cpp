@@ -153,6 +153,59 @@ TEST_F(LogEditTest, TheKeyboardSelectsCopiesAndDeletes) {
     EXPECT_EQ(Clipboard(), "Ann\r\nBo\r\nCy\r\nDee");
 }
 
+TEST_F(LogEditTest, FiltersByWordsDeletesAndGoesBack) {
+    Open(path_);
+    auto& words = Find<TextBox>(*form_, "");
+    const auto wait = [] {
+        for (int i = 0; i < 6; ++i) WaitForEvents(60);
+    };
+    ClickItem(Log(), 4);
+    Type(words, "\"C\" -two");
+    wait();
+    EXPECT_EQ(Shown(Log()), (Lines{"  Welcome", "  Cy> four BO"}));
+    EXPECT_TRUE(Log().Selection().IsSelected(1)) << "the line stays selected";
+    EXPECT_EQ(ShownSecondText(Status()), "Log Lines = 2");
+    auto& counts = Find<Label>(*form_, "2 of 6 lines");
+    EXPECT_EQ(counts.ToolTip(), "Hidden: 1 of unknown kind, 3 by text");
+    Log().SetFocus();
+    quirn::test::Press(*form_, kKeyDelete);
+    EXPECT_EQ(Shown(Log()), Lines{"  Welcome"});
+    Press("Show &All");
+    EXPECT_EQ(Log().Count(), 4u) << "what is deleted stays so";
+    Press("Show &Filtered");
+    Choose(*form_, mnuEdit_Undo);
+    EXPECT_EQ(Shown(Log()), (Lines{"  Welcome", "  Cy> four BO"}));
+    EXPECT_TRUE(Log().Selection().IsSelected(1));
+    Choose(*form_, mnuEdit_Redo);
+    EXPECT_EQ(Log().Count(), 1u);
+    words.SetFocus();
+    quirn::test::Press(*form_, kKeyEscape);
+    wait();
+    EXPECT_EQ(words.Text(), "");
+    EXPECT_EQ(Log().Count(), 4u);
+    Press("Apply Filter");
+    EXPECT_EQ(Log().Count(), 5u) << "brings deleted lines back";
+    EXPECT_FALSE(form_->MenuBar()->Find(mnuEdit_Undo)->IsEnabled());
+    Choose(*form_, mnuView_Unknown);
+    EXPECT_EQ(Shown(Log())[4], "Xx Dee> hidden");
+}
+
+TEST_F(LogEditTest, ThePopupTakesTheLineUnderThePointer) {
+    Open(path_);
+    ChooseFromPopup(Log(), 0);  // nothing is selected: the first line is at the pointer
+    EXPECT_EQ(Log().Count(), 4u);
+    ClickItem(Log(), 0);
+    ChooseFromPopup(Log(), 4);  // "Only This Player"
+    EXPECT_EQ(Shown(Log()), (Lines{"P Cy> two", "  Welcome", "  Cy> four BO"})) << "deleted lines stay deleted";
+    EXPECT_EQ(Shown(List("Exclude")), (Lines{"Ann", "Bo", "Dee"}));
+    ChooseFromPopup(Log(), 6);  // "Everyone Again"
+    EXPECT_EQ(Log().Count(), 4u);
+    edit_.lastSearch = "cy";
+    Log().SetCurrent(3);
+    quirn::test::Press(*form_, kKeyF3, false, true);
+    EXPECT_EQ(Log().Current(), 0u);
+}
+
 TEST_F(LogEditTest, SavesWhatIsShownAndOpensItAgain) {
     Open(path_);
     Choose(*form_, mnuOptions_LineNums);

@@ -72,7 +72,7 @@ void DoubleClickItem(VirtualList& list, size_t item) {
 }
 
 void ChooseFromPopup(VirtualList& list, int position) {
-    list.UserPressesRightButton();
+    list.UserPressesRightButton(list.Count() > 0 ? std::optional(list.TopIndex()) : std::nullopt);
     Menu* menu = headless::TheWorld().poppedUpMenus.back().menu;
     menu->UserChooses(menu->Items()[static_cast<size_t>(position) + 1].row.command);
 }

@@ -1,0 +1,91 @@
+#include "logedit/filterrow.h"
+
+#include "platform/measures.h"
+
+namespace quirn {
+
+namespace {
+
+// clang-format off
+//                       left   top  width  height
+constexpr Bounds kOnly{   150, 7590,  1290, kLabelHeight};
+constexpr Bounds kText{  1500, 7545,  3340, kRowHeight};
+constexpr Bounds kAll{   4960, 7515,  1380, kButtonHeight};
+constexpr Bounds kCounts{6480, 7590,  2700, kLabelHeight};
+constexpr Bounds kNews{  9240, 7590,  2510, kLabelHeight};
+// clang-format on
+
+constexpr int kPause = 200;  // milliseconds
+constexpr int kKeyDown = 40;
+
+std::string WhyHidden(const LogView::Hidden& hidden) {
+    std::string text;
+    const auto add = [&](size_t count, const char* why) {
+        if (count > 0) text += (text.empty() ? "Hidden: " : ", ") + std::to_string(count) + why;
+    };
+    add(hidden.byType - hidden.unknown, " by type");
+    add(hidden.unknown, " of unknown kind");
+    add(hidden.byPlayer, " by player");
+    add(hidden.deleted, " deleted");
+    add(hidden.byText, " by text");
+    return text.empty() ? "No line is hidden" : text;
+}
+
+}  // namespace
+
+FilterRow::FilterRow(Form& form, Anchors& anchors)
+    : lblOnly(form, kOnly, "Only lines &with:"),
+      txtFilter(form, kText),
+      cmdShowAll(form, kAll, "Show &All"),
+      lblCounts(form, kCounts, "", Alignment::Left, Label::kShowsData),
+      lblNews(form, kNews, "", Alignment::Right, Label::kShowsData) {
+    for (Control* control : std::initializer_list<Control*>{&lblOnly, &txtFilter, &cmdShowAll, &lblCounts})
+        anchors.Add(*control, Anchor::Stay, Anchor::Follow);
+    anchors.Add(lblNews, Anchor::Grow, Anchor::Follow);
+    txtFilter.SetToolTip("All words must stand in a line; -word must not; \"two words\" count as one");
+    pause_.SetInterval(kPause);
+    pause_.onTimer = [this] {
+        pause_.SetEnabled(false);
+        onText(txtFilter.Text());
+    };
+    txtFilter.onChange = [this] {
+        pause_.SetEnabled(false);
+        pause_.SetEnabled(true);
+    };
+    cmdShowAll.onClick = [this] { onShowAll(); };
+    Reset();
+}
+
+void FilterRow::Reset() {
+    pause_.SetEnabled(false);
+    txtFilter.SetText("");
+    lblCounts.SetText("");
+    lblCounts.SetToolTip("");
+    lblNews.SetText("");
+    cmdShowAll.SetText("Show &All");
+    cmdShowAll.SetEnabled(false);
+}
+
+bool FilterRow::KeyDown(int key) {
+    if (!txtFilter.HasFocus()) return false;
+    if (key == kKeyDown) onDown();
+    else if (key == kKeyEscape && !txtFilter.Text().empty()) txtFilter.UserEdits("");
+    else return false;
+    return true;
+}
+
+void FilterRow::ShowCounts(const LogView& view) {
+    cmdShowAll.SetEnabled(view.Log() != nullptr);
+    cmdShowAll.SetText(view.ShowsAll() ? "Show &Filtered" : "Show &All");
+    if (view.Log() == nullptr) return;
+    const size_t all = view.Log()->LineCount();
+    lblCounts.SetText(std::to_string(view.Count()) + " of " + std::to_string(all) + (all == 1 ? " line" : " lines"));
+    lblCounts.SetToolTip(WhyHidden(view.CountHidden()));
+}
+
+void FilterRow::ShowNews(const std::string& text) {
+    lblNews.SetText(text);
+    lblNews.SetToolTip(text);
+}
+
+}  // namespace quirn

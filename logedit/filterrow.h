@@ -1,0 +1,38 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "logedit/logview.h"
+#include "platform/anchors.h"
+#include "platform/form.h"
+#include "platform/timer.h"
+
+namespace quirn {
+
+// The row above the status bar: a text that lines must have, all lines at once, and how many are shown.
+class FilterRow {
+public:
+    // Its controls follow the form's lower edge by these anchors.
+    FilterRow(Form& form, Anchors& anchors);
+
+    std::function<void(const std::string& text)> onText;  // 200 ms after the last change
+    std::function<void()> onShowAll;
+    std::function<void()> onDown;  // the keyboard goes on to the lines
+
+    void Reset();  // as without a log; the box is empty
+    void FocusText() { txtFilter.SetFocus(); }
+    bool KeyDown(int key);  // of the form; true swallows it
+    void ShowCounts(const LogView& view);
+    void ShowNews(const std::string& text);  // of a log that is followed
+
+private:
+    Timer pause_;
+
+    Label lblOnly;
+    TextBox txtFilter;
+    Button cmdShowAll;
+    Label lblCounts, lblNews;
+};
+
+}  // namespace quirn

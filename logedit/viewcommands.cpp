@@ -1,0 +1,136 @@
+#include "logedit/viewcommands.h"
+
+#include <algorithm>
+
+#include "logedit/logfind.h"
+#include "platform/dialogs.h"
+
+namespace quirn {
+
+namespace {
+
+constexpr Color kBlack = Rgb(0, 0, 0);
+constexpr Color kWhite = Rgb(255, 255, 255);
+
+}  // namespace
+
+ViewCommands::ViewCommands(LogEdit& edit, VirtualList& list, PlayerPanel& players, std::function<void()> shown)
+    : edit_(edit), list_(list), players_(players), shown_(std::move(shown)) {}
+
+void ViewCommands::Delete() {
+    edit_.view.Delete(list_.Selection(), list_.TopIndex());
+    list_.SelectionRemoved(edit_.view.LongestText());
+    shown_();
+}
+
+void ViewCommands::Undo() {
+    if (CanUndo()) Restore(edit_.view.Undo());
+}
+
+void ViewCommands::Redo() {
+    if (CanRedo()) Restore(edit_.view.Redo());
+}
+
+void ViewCommands::Restore(const LogView::Restored& restored) {
+    list_.SetCount(edit_.view.Count(), edit_.view.LongestText());
+    list_.SetSelection(restored.selection);
+    list_.SetTopIndex(restored.top);
+    shown_();
+}
+
+void ViewCommands::KeepPlace(const std::function<void()>& change) {
+    LogView& view = edit_.view;
+    if (!HasLog()) return change();
+    const bool any = view.Count() > 0;
+    const size_t top = any ? view.LineIndex(std::min(list_.TopIndex(), view.Count() - 1)) : 0;
+    const std::optional<size_t> current =
+        list_.Current() ? std::optional(view.LineIndex(*list_.Current())) : std::nullopt;
+    const bool selects = any && list_.Selection().SelectedCount() > 0;
+    ListSelection lines;
+    if (selects) {
+        lines.Reset(view.Log()->LineCount());
+        list_.Selection().ForEach([&](size_t item) { lines.Select(view.LineIndex(item), true); });
+    }
+    change();
+    list_.SetCount(view.Count(), view.LongestText());
+    if (selects) {
+        ListSelection items;
+        items.Reset(view.Count());
+        lines.ForEach([&](size_t line) {
+            const size_t item = view.ItemOfLine(line);
+            if (item < view.Count() && view.LineIndex(item) == line) items.Select(item, true);
+        });
+        list_.SetSelection(items);
+    }
+    if (current && view.Count() > 0) list_.SetCurrent(std::min(view.ItemOfLine(*current), view.Count() - 1));
+    list_.SetTopIndex(view.ItemOfLine(top));
+    shown_();
+}
+
+void ViewCommands::FilterByText(const std::string& text) {
+    KeepPlace([&] {
+        edit_.view.ShowAll(std::nullopt);
+        edit_.view.SetText(TextFilter(text));
+    });
+}
+
+void ViewCommands::ShowAll() {
+    if (!HasLog()) return;
+    KeepPlace([this] { edit_.view.ShowAll(edit_.view.ShowsAll() ? std::nullopt : std::optional(edit_.KnownTypes())); });
+}
+
+// With a rule of its own: also a hit in the last screenful, or one that is in sight already, is selected.
+void ViewCommands::FindPrevious(const std::string& text) {
+    const std::optional<size_t> hit = FindItemBefore(edit_.view, text, list_.Current().value_or(list_.TopIndex()));
+    if (!hit) {
+        ShowMessage(CannotFindText(text), kInformation);
+        return;
+    }
+    ListSelection one;
+    one.Reset(list_.Count());
+    one.Select(*hit, true);
+    list_.SetSelection(one);
+    list_.SetTopIndex(*hit);
+    list_.SetCurrent(*hit);
+}
+
+uint32_t ViewCommands::Speaker() const {
+    const std::optional<size_t> current = list_.Current();
+    return HasLog() && current && *current < edit_.view.Count() ? PlayerOf(edit_.view.Info(*current)) : 0;
+}
+
+void ViewCommands::OnlySpeaker() {
+    players_.ShowOnly({Speaker()});
+    ApplyPlayers();
+}
+
+void ViewCommands::HideSpeaker() {
+    players_.Hide(Speaker());
+    ApplyPlayers();
+}
+
+void ViewCommands::Everyone() {
+    players_.Everyone();
+    ApplyPlayers();
+}
+
+void ViewCommands::ChooseLogFont() {
+    if (const auto font = AskFont(list_.FontUsed())) list_.SetFont(*font);
+}
+
+void ViewCommands::ChooseLogColor(bool foreground) {
+    const auto color = AskColor(foreground ? list_.ForeColor().value_or(kBlack) : list_.BackColor().value_or(kWhite));
+    if (!color) return;
+    if (foreground) list_.SetForeColor(*color);
+    else list_.SetBackColor(*color);
+}
+
+// Other than "Apply Filter" it leaves deleted lines deleted.
+void ViewCommands::ApplyPlayers() {
+    KeepPlace([this] {
+        ShowError(edit_.view.ApplyLogFilter(edit_.LogLines, edit_.FilterMask(), edit_.include, edit_.exclude,
+                                            edit_.lineNumbers, true));
+    });
+}
+
+}  // namespace quirn
