@@ -41,6 +41,10 @@ Failure FileReader::Open(const std::string& path) {
     return {};
 }
 
+Failure FileReader::GoTo(uint64_t position) {
+    return lseek(Descriptor(handle_), static_cast<off_t>(position), SEEK_SET) < 0 ? Failure(LastError()) : Failure();
+}
+
 Result<size_t> FileReader::Read(char* buffer, size_t bytes) {
     const ssize_t got = read(Descriptor(handle_), buffer, bytes);
     if (got < 0) return LastError();

@@ -39,6 +39,7 @@ constexpr Bounds kTypes{  4960, 5370,  5100, 1900};
 constexpr Grid kBoxes{{    150,  270,  2400, kCheckHeight}, 2450, 262, 6};  // in the frame
 // clang-format on
 
+constexpr int kKeyEnd = 35;
 constexpr int kCountPanelWidth = 2700;
 constexpr char kLogFilter[] = "All Files (*.*)|*.*|LOG Files (*.log)|*.log|Text Files (*.txt)|*.txt";
 constexpr int kLogFiles = 2;  // in the filter
@@ -65,6 +66,7 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
       row_(*this, anchors_),
       StatusBar1(*this, kCountPanelWidth),
       commands_(edit, lstLog, players_, [this] { ShowCounts(); }),
+      follow_(*this, edit, lstLog, players_, commands_, row_),
       find_([this](const std::string& text) { FindInLog(text); }, edit.lastSearch) {
     for (size_t i = 0; i < kFilterBoxCount; ++i) {
         CheckBox& box = chkFilters.emplace_back(Frame1, kBoxes.Cell(i), kFilterBoxes[i].caption);
@@ -82,6 +84,7 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
     lstLog.onRightMouseDown = [this] { lstLog_MouseDown(); };
     row_.onText = [this](const std::string& text) { commands_.FilterByText(text); };
     row_.onShowAll = [this] { commands_.ShowAll(); };
+    follow_.onFollow = [this](bool follows) { menuBar_.SetChecked(mnuView_Follow, follows); };
     row_.onDown = [this] { lstLog.SetFocus(); };
     players_.onMove = [this] {
         if (edit_.applyAtOnce) ApplyLogFilter();
@@ -112,6 +115,7 @@ void frmLogEdit::Form_Load() {
     for (const int command : {mnuOptions_Apply, mnuOptions_LineNums, mnuEdit_Keep, mnuView_Unknown, mnuView_All})
         menuBar_.SetChecked(command, false);
     row_.Reset();
+    follow_.Opened("");
     edit_.chkFilters.fill(1);
     for (CheckBox& box : chkFilters) box.SetValue(1);
     edit_.LogFilterMask = BuildFilterMask(edit_.chkFilters);
@@ -141,10 +145,15 @@ bool frmLogEdit::Form_Unload() {
     WriteLogSettings({NormalPlace(), lstLog.FontUsed(), lstLog.ForeColor(), lstLog.BackColor()});
     WriteLogMRU(edit_.LogMRU);
     find_.Unload();
+    follow_.Opened("");
     return true;
 }
 
 bool frmLogEdit::Form_KeyDown(int key, bool control) {
+    if (control && key == kKeyEnd && lstLog.HasFocus()) {
+        follow_.GoToEnd();
+        return true;
+    }
     if (control) return false;
     if (row_.KeyDown(key)) return true;
     if (key != kKeyDelete || !lstLog.HasFocus()) return false;
@@ -208,14 +217,10 @@ void frmLogEdit::mnuSearch_Find_Click() {
     find_.Open(*this);
 }
 
-void frmLogEdit::mnuSearch_Next_Click() {
+void frmLogEdit::FindAgain(bool upwards) {
     if (edit_.lastSearch.empty()) mnuSearch_Find_Click();
+    else if (upwards) commands_.FindPrevious(edit_.lastSearch);
     else FindInLog(edit_.lastSearch);
-}
-
-void frmLogEdit::mnuSearch_Previous_Click() {
-    if (edit_.lastSearch.empty()) mnuSearch_Find_Click();
-    else commands_.FindPrevious(edit_.lastSearch);
 }
 
 void frmLogEdit::mnuView_Unknown_Click() {
@@ -281,6 +286,7 @@ void frmLogEdit::OpenLog(const std::string& path) {
         StatusBar1.SetText(kLoadFailed);
         return;
     }
+    follow_.Opened(path);
     AddToLogMRU(edit_.LogMRU, path);
     RefreshLogMRUMenu();
     SetCaption(std::string(kFullTitle) + " - " + SplitPath(path).File());

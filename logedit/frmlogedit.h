@@ -4,6 +4,7 @@
 #include <string>
 
 #include "logedit/filterrow.h"
+#include "logedit/followcommands.h"
 #include "logedit/frmlogfind.h"
 #include "logedit/logedit.h"
 #include "logedit/playerpanel.h"
@@ -38,8 +39,7 @@ private:
     void Toggle(int command, bool& option);
     void mnuOptions_LineNums_Click();
     void mnuSearch_Find_Click();
-    void mnuSearch_Next_Click();
-    void mnuSearch_Previous_Click();
+    void FindAgain(bool upwards);
     void mnuView_Unknown_Click();
     void mnuInExPopup_Only_Click();
     void mnuLogEditPopup_Delete_Click();
@@ -72,6 +72,7 @@ private:
     FilterRow row_;
     StatusBar StatusBar1;
     ViewCommands commands_;
+    FollowCommands follow_;
     frmLogFind find_;
 };
 

@@ -51,6 +51,10 @@ std::vector<MenuRow> frmLogEdit::MenuRows() {
         {mnuView_All, 1, "Show &All", "Ctrl+Shift+A", "Show all lines, or again what the filters leave",
             [this] { commands_.ShowAll(); }, [this] { return commands_.HasLog(); }},
         {mnuViewBarUnknown, 1, "-"},
+        {mnuView_Reload, 1, "&Reload", "F5", "Read the log again",
+            [this] { follow_.Reload(); }, [this] { return follow_.HasFile(); }},
+        {mnuView_Follow, 1, "F&ollow Growing Log", "F9", "Show what the game goes on writing into the log",
+            [this] { follow_.Follow(); }, [this] { return follow_.HasFile(); }},
         {mnuView_Unknown, 1, "Show Lines of &Unknown Kind", "", "Show lines that no check box stands for",
             [this] { mnuView_Unknown_Click(); }},
 
@@ -73,9 +77,9 @@ std::vector<MenuRow> frmLogEdit::MenuRows() {
         {mnuSearch_Find, 1, "&Find...", "Ctrl+F", "Find text within the log",
             [this] { mnuSearch_Find_Click(); }},
         {mnuSearch_Next, 1, "Find &Next", "F3", "Find the same text again, downwards",
-            [this] { mnuSearch_Next_Click(); }, [this] { return commands_.HasLog(); }},
+            [this] { FindAgain(false); }, [this] { return commands_.HasLog(); }},
         {mnuSearch_Previous, 1, "Find &Previous", "Shift+F3", "Find the same text again, upwards",
-            [this] { mnuSearch_Previous_Click(); }, [this] { return commands_.HasLog(); }},
+            [this] { FindAgain(true); }, [this] { return commands_.HasLog(); }},
     };
 }
 

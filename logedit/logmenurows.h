@@ -50,6 +50,8 @@ enum Command : int {
     mnuLogEditPopup_Hide,
     mnuLogEditPopup_Everyone,
     mnuInExPopup_Only,
+    mnuView_Reload,
+    mnuView_Follow,
 };
 
 }  // namespace logmenu

@@ -111,12 +111,34 @@ bool LogParser::Finish(size_t available) {
     std::memset(Buffer() + available, '\n', ParsedLog::kMargin);
     if (!Advance(available)) return false;
     if (start_ < available && !ParseAlone(available, available)) return false;
+    Count(available);
+    return true;
+}
+
+// end: of the text, where a line end stands.
+void LogParser::Count(size_t end) {
     const size_t kept = (log_.blocks_.size() - 1) * kLinesPerBlock + slot_;
     // The first element stays what it was before the file when no line was kept.
-    if (kept == 0) block_->begin[0] = static_cast<uint32_t>(available);
+    if (kept == 0) block_->begin[0] = static_cast<uint32_t>(end);
     log_.lineCount_ = std::max<size_t>(kept, 1);
     log_.longestLine_ = longest_;
+}
+
+bool LogParser::Grow(size_t size) {
+    if (size >= kLogSizeLimit) return false;
+    std::unique_ptr<char[]> old = std::move(log_.text_);
+    const size_t oldSize = log_.textSize_;
+    if (!log_.Allocate(size)) {
+        log_.text_ = std::move(old);
+        return false;
+    }
+    std::memcpy(Buffer(), old.get() + ParsedLog::kMargin, oldSize);
+    for (std::string_view& name : log_.players_) name = {log_.text_.get() + (name.data() - old.get()), name.size()};
     return true;
+}
+
+void LogParser::Publish() {
+    Count(log_.textSize_);
 }
 
 // Parses the whole lines from start_ on up to end; without any, searched_ says so.

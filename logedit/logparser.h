@@ -35,6 +35,13 @@ public:
     // That was all, though it be less than announced. A last line without an end is parsed too.
     bool Finish(size_t available);
 
+    // For a text that goes on growing: room for so many bytes, what is there included. False when memory cannot hold
+    // that; everything stays as it was.
+    bool Grow(size_t size);
+
+    // The log shows all whole lines that have been parsed; a line without an end waits. More may be parsed afterwards.
+    void Publish();
+
     // For each line so far, kept or not, its length plus 2.
     uint64_t Consumed() const { return consumed_; }
 
@@ -48,6 +55,7 @@ private:
     int32_t* Keep(const char* begin, size_t length, uint32_t type, size_t directlyNext);
     void AddBlock();
     bool NumberPlayers();
+    void Count(size_t end);
 
     ParsedLog& log_;
     bool ready_;

@@ -38,11 +38,8 @@ size_t LogView::LongestText() const {
 Failure LogView::ApplyLogFilter(std::shared_ptr<const ParsedLog> log, uint32_t mask, const PlayerList& include,
                                 const PlayerList& exclude, bool lineNumbers, bool keepDeletedOut) {
     if (log != log_ || !keepDeletedOut) deletions_.Clear();
-    if (log != log_) {
-        // Filled with zeros it would cost as much as the filter itself.
-        std::unique_ptr<uint32_t[]> room(new (std::nothrow) uint32_t[log->LineCount() + 1]);
-        if (!room) return MakeError(ErrorNumber::OutOfMemory);
-        shown_ = std::move(room);
+    if (log != log_ || log->LineCount() > room_) {
+        if (!MakeRoom(log->LineCount(), 0)) return MakeError(ErrorNumber::OutOfMemory);
         log_ = std::move(log);
     }
     filter_ = MakeLineFilter(mask, include, exclude);
@@ -51,6 +48,31 @@ Failure LogView::ApplyLogFilter(std::shared_ptr<const ParsedLog> log, uint32_t m
     tags_.reset();
     if (lineNumbers) tags_.emplace(log_->LineCount());
     return {};
+}
+
+// One more than the lines, since the filter writes ahead of what it counts. The first `kept` indexes stay.
+bool LogView::MakeRoom(size_t lines, size_t kept) {
+    // Filled with zeros it would cost as much as the filter itself.
+    std::unique_ptr<uint32_t[]> room(new (std::nothrow) uint32_t[lines + 1]);
+    if (!room) return false;
+    std::copy_n(shown_.get(), kept, room.get());
+    shown_ = std::move(room);
+    room_ = lines;
+    return true;
+}
+
+Result<size_t> LogView::Extend(size_t lines, size_t players) {
+    const size_t now = log_->LineCount();
+    if (now > room_ && !MakeRoom(now + now / 8, count_)) return ErrorNumber::OutOfMemory;
+    for (size_t number = players + 1; number < filter_.players.size(); ++number) filter_.players[number] = 1;
+    uint32_t* const added = shown_.get() + count_;
+    size_t count = FilterLines(*log_, all_ ? LineFilter{*all_, {}} : filter_, added, lines);
+    passed_ += count;
+    undeleted_ += count;
+    if (!all_ && !text_.IsEmpty()) count = text_.Apply(*log_, added, count);
+    count_ += count;
+    if (tags_) tags_.emplace(now);
+    return count;
 }
 
 void LogView::Recompute() {

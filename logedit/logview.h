@@ -59,6 +59,10 @@ public:
     Failure ApplyLogFilter(std::shared_ptr<const ParsedLog> log, uint32_t mask, const PlayerList& include,
                            const PlayerList& exclude, bool lineNumbers, bool keepDeletedOut = false);
 
+    // The log has grown: shows what is new of it, by the same filters; new players are shown. lines, players: how many
+    // it had. Returns how many items are new; the old ones stay what they are. With 7 nothing has changed.
+    Result<size_t> Extend(size_t lines, size_t players);
+
     // On top of types and players, as they were applied last.
     void SetText(TextFilter text);
     const TextFilter& TextFiltered() const { return text_; }
@@ -93,6 +97,7 @@ public:
     std::string SelectedText(const ListSelection& selected) const;
 
 private:
+    bool MakeRoom(size_t lines, size_t kept);
     void Recompute();
 
     std::shared_ptr<const ParsedLog> log_;
@@ -103,6 +108,7 @@ private:
     TextFilter text_;
     std::optional<uint32_t> all_;  // the types, while all is shown
     Deletions deletions_;
+    size_t room_ = 0;       // of shown_, lines
     size_t passed_ = 0;     // lines that pass types and players
     size_t undeleted_ = 0;  // of these
 };

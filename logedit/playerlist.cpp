@@ -78,6 +78,14 @@ void PlayerList::Fill(std::shared_ptr<const ParsedLog> log) {
     selection_.Reset(items_.size());
 }
 
+void PlayerList::Add(size_t known) {
+    const std::vector<std::string_view>& players = log_->Players();
+    for (size_t i = known; i < players.size(); ++i)
+        items_.push_back({StartOf(players[i]), static_cast<uint32_t>(i + 1)});
+    std::sort(items_.begin(), items_.end(), Before{players});
+    selection_.Reset(items_.size());
+}
+
 std::string PlayerList::SelectedText() const {
     std::string text;
     const char* before = "";

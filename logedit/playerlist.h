@@ -18,6 +18,8 @@ public:
     // All players of a log, none selected. Empty for a log with one player only: kept on purpose.
     void Fill(std::shared_ptr<const ParsedLog> log);
     void Clear() { *this = PlayerList(); }
+    // The players behind the first so many, of a log that has grown, none selected.
+    void Add(size_t known);
 
     size_t Count() const { return items_.size(); }
     std::string_view Name(size_t item) const { return log_->Players()[Number(item) - 1]; }

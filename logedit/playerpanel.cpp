@@ -1,6 +1,7 @@
 #include "logedit/playerpanel.h"
 
 #include <algorithm>
+#include <set>
 
 #include "platform/measures.h"
 #include "platform/text.h"
@@ -135,6 +136,23 @@ void PlayerPanel::Hide(uint32_t number) {
 
 void PlayerPanel::Everyone() {
     MoveNumbers(edit_.exclude, edit_.include, [](uint32_t) { return true; });
+    Show();
+}
+
+void PlayerPanel::FillAgain() {
+    std::set<std::string, LessNoCase> excluded;
+    for (size_t i = 0; i < edit_.exclude.Count(); ++i) excluded.emplace(edit_.exclude.Name(i));
+    edit_.include.Fill(edit_.LogLines);
+    edit_.exclude.Clear();
+    MoveNumbers(edit_.include, edit_.exclude,
+                [&](uint32_t number) { return excluded.contains(edit_.LogLines->Players()[number - 1]); });
+    Show();
+}
+
+void PlayerPanel::AddNew(size_t known) {
+    // One player alone is in no list.
+    if (known < 2) edit_.include.Fill(edit_.LogLines);
+    else edit_.include.Add(known);
     Show();
 }
 

@@ -30,6 +30,8 @@ public:
     void ShowOnly(const std::vector<uint32_t>& numbers);
     void Hide(uint32_t number);
     void Everyone();
+    void FillAgain();                // with the players of a log that was read again; who was excluded by name stays so
+    void AddNew(size_t known);       // of a log that has grown, those behind the first so many
     void mnuInExPopup_Only_Click();  // the selected ones of the list that was clicked
     bool HasSelected() const { return popupList_->Selection().SelectedCount() > 0; }
     void mnuInExPopup_All_Click();  // the commands of the menu

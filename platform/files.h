@@ -29,6 +29,8 @@ public:
     Failure Open(const std::string& path);
     uint64_t Size() const { return size_; }  // bytes, when it was opened
 
+    Failure GoTo(uint64_t position);  // bytes from the start, where the next Read begins
+
     // How many bytes came, at most so many; 0 at the end of the file.
     Result<size_t> Read(char* buffer, size_t bytes);
 

@@ -59,6 +59,10 @@ void VirtualList::SetTopIndex(size_t item) {
     if (window != nullptr) native::SetTopIndex(*this, item);
 }
 
+bool VirtualList::ShowsEnd() const {
+    return count_ == 0 || window == nullptr || native::ShowsEnd(*this);
+}
+
 void VirtualList::SelectionRemoved(size_t longestText) {
     const ListSelection& gone = Selection();
     const size_t left = count_ - gone.SelectedCount();

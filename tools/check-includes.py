@@ -8,7 +8,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[1]
 FLOORS = ("platform", "profile", "game and logedit", "windows", "startup")
 FOLDERS = {"platform": 0, "profile": 1, "game": 2, "logedit": 2, "mainwin": 3, "auxiliary": 3, "startup": 4}
 # Windows beside the frm... files.
-WINDOWS = {"logedit/filterrow", "logedit/logmenurows", "logedit/playerpanel", "logedit/progressframe",
+WINDOWS = {"logedit/filterrow", "logedit/followcommands", "logedit/logmenurows", "logedit/playerpanel", "logedit/progressframe",
            "logedit/viewcommands"}
 # The two back ends know the platform alone, and nobody knows them.
 BACK_ENDS = ("platform/win32", "platform/headless")

@@ -139,6 +139,11 @@ Failure FileReader::Open(const std::string& path) {
     return {};
 }
 
+Failure FileReader::GoTo(uint64_t position) {
+    position_ = position;
+    return {};
+}
+
 Result<size_t> FileReader::Read(char* buffer, size_t bytes) {
     const File* file = headless::FindFile(*static_cast<std::string*>(handle_));
     if (file == nullptr || position_ >= file->bytes.size()) return size_t{0};

@@ -269,6 +269,10 @@ void SetTopIndex(VirtualList& list, size_t item) {
     topIndexes[&list] = std::min(item, HighestTop(list));
 }
 
+bool ShowsEnd(const VirtualList& list) {
+    return TopIndex(list) >= HighestTop(list);
+}
+
 void AddTrayIcon(TrayIcon& icon) {
     headless::TheWorld().trayIcons.push_back(&icon);
 }

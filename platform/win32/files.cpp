@@ -146,6 +146,12 @@ Failure FileReader::Open(const std::string& path) {
     return {};
 }
 
+Failure FileReader::GoTo(uint64_t position) {
+    LARGE_INTEGER place{};
+    place.QuadPart = static_cast<LONGLONG>(position);
+    return SetFilePointerEx(handle_, place, nullptr, FILE_BEGIN) ? Failure() : Failure(LastError());
+}
+
 Result<size_t> FileReader::Read(char* buffer, size_t bytes) {
     DWORD got = 0;
     if (!ReadFile(handle_, buffer, static_cast<DWORD>(std::min<size_t>(bytes, 1u << 30)), &got, nullptr))

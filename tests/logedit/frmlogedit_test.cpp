@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "logedit/logmenurows.h"
+#include "platform/files.h"
 #include "platform/headless/dialogs.h"
 #include "platform/settings.h"
 #include "tests/testing/userinput.h"
@@ -188,6 +189,40 @@ TEST_F(LogEditTest, FiltersByWordsDeletesAndGoesBack) {
     EXPECT_FALSE(form_->MenuBar()->Find(mnuEdit_Undo)->IsEnabled());
     Choose(*form_, mnuView_Unknown);
     EXPECT_EQ(Shown(Log())[4], "Xx Dee> hidden");
+}
+
+TEST_F(LogEditTest, FollowsALogAndKeepsWhatThePlayerChose) {
+    const auto wait = [] {
+        for (int i = 0; i < 12; ++i) WaitForEvents(60);
+    };
+    const auto news = [this] { return Find<Label>(*form_, "Following").Text(); };
+    Open(path_);
+    ClickItem(List("Include"), 2);
+    Press(">>");
+    Press("Apply Filter");
+    EXPECT_EQ(Shown(Log()), (Lines{"  Bo> one", "T Ann> three", "  Welcome"}));
+    ClickItem(Log(), 1);
+    Choose(*form_, mnuView_Follow);
+    EXPECT_EQ(news(), "Following");
+    PutFile(path_, std::string(kLog) + "  Bo> six\r\n  Cy> hidden too\r\n  New> hal");
+    wait();
+    EXPECT_EQ(Shown(Log()), (Lines{"  Bo> one", "T Ann> three", "  Welcome", "  Bo> six"}));
+    EXPECT_TRUE(Log().Selection().IsSelected(1));
+    EXPECT_EQ(Shown(List("Exclude")), Lines{"Cy"});
+    PutFile(path_, std::string(kLog) + "  Bo> six\r\n  Cy> hidden too\r\n  New> half\r\n");
+    wait();
+    EXPECT_EQ(Shown(Log()).back(), "  New> half");
+    EXPECT_EQ(Shown(List("Include")), (Lines{"Ann", "Bo", "Dee", "New"}));
+    PutFile(path_, "  Bo> anew\r\n  Cy> hidden\r\n");
+    wait();
+    EXPECT_EQ(Shown(Log()), Lines{"  Bo> anew"}) << "a shorter file is read from its start";
+    edit_.Forget();
+    Choose(*form_, mnuView_Reload);
+    EXPECT_EQ(Shown(Log()), Lines{"  Bo> anew"});
+    RemoveFile(path_);
+    wait();
+    EXPECT_EQ(Find<Label>(*form_, "Not followed").Text(), "Not followed any more: the file is gone");
+    EXPECT_FALSE(form_->MenuBar()->Find(mnuView_Follow)->checked);
 }
 
 TEST_F(LogEditTest, ThePopupTakesTheLineUnderThePointer) {

@@ -4,6 +4,7 @@
 
 #include "benchmarks/loggenerator.h"
 #include "logedit/logfind.h"
+#include "logedit/logfollower.h"
 #include "logedit/logparser.h"
 #include "logedit/logsave.h"
 #include "logedit/logsettings.h"
@@ -90,6 +91,56 @@ TEST_F(LogViewTest, FiltersByTypeAndPlayer) {
     EXPECT_EQ(PlayerOf(view.Info(4)), 3u);
     EXPECT_EQ(BuildFilterMask({1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1}), 0x7FFu);
     EXPECT_EQ(BuildFilterMask({0, 0, 0, 0, 1, 0, 0, 0, 1, 0, 2}), static_cast<uint32_t>(kChannel1 | kSquad));
+}
+
+// A log that comes in pieces of any length, half lines among them, is what one read gives.
+TEST_F(LogViewTest, AGrowingLogIsWhatOneReadGives) {
+    std::mt19937 random(7);
+    std::string text = GenerateLog({30000, 20, 9});
+    for (int round = 0; round < 20; ++round) {
+        LogFollower follower;
+        size_t at = random() % text.size();
+        test::PutFile(In("g.log"), text.substr(0, at));
+        log = follower.Start(In("g.log"), {}, {}).Value();
+        include.Fill(log);
+        exclude.Clear();
+        if (include.Count() > 3) Move(include, exclude, {include.Name(1)});
+        Apply(0x7F7, false);
+        view.SetText(TextFilter("e -q"));
+        bool anew = false;
+        while (at < text.size() && !anew) {
+            at = std::min(text.size(), at + random() % 3000);
+            const size_t lines = log->LineCount(), players = log->Players().size();
+            test::PutFile(In("g.log"), text.substr(0, at));
+            const LogFollower::News news = follower.Look();
+            anew = news == LogFollower::News::Other;
+            if (news != LogFollower::News::Grew) continue;
+            include.Add(players);
+            EXPECT_FALSE(view.Extend(lines, players).Failed());
+        }
+        if (anew) continue;
+        std::vector<std::string> grown;
+        for (size_t i = 0; i < view.Count(); ++i) grown.push_back(view.Text(i));
+        const auto whole = ReadLog(In("g.log"), {}, {}).Value();
+        ASSERT_EQ(log->LineCount(), whole->LineCount());
+        for (size_t i = 0; i < whole->LineCount(); ++i) {
+            ASSERT_EQ(log->Line(i), whole->Line(i));
+            ASSERT_EQ(log->Info(i), whole->Info(i));
+        }
+        ASSERT_EQ(log->Players().size(), include.Count() + exclude.Count());
+        Apply(0x7F7, false);
+        view.SetText(TextFilter("e -q"));
+        ASSERT_EQ(view.Count(), grown.size());
+        for (size_t i = 0; i < grown.size(); ++i) ASSERT_EQ(view.Text(i), grown[i]);
+    }
+    LogFollower follower;
+    test::PutFile(In("g.log"), text);
+    follower.Start(In("g.log"), {}, {});
+    EXPECT_EQ(follower.Look(), LogFollower::News::None);
+    test::PutFile(In("g.log"), std::string(text.size() + 10, 'x'));
+    EXPECT_EQ(follower.Look(), LogFollower::News::Other);
+    test::PutFile(In("g.log"), text.substr(0, 10));
+    EXPECT_EQ(follower.Look(), LogFollower::News::Other);
 }
 
 TEST_F(LogViewTest, ListsPlayersInAlphabeticalOrder) {

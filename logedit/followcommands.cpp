@@ -1,0 +1,107 @@
+#include "logedit/followcommands.h"
+
+#include "platform/dialogs.h"
+
+namespace quirn {
+
+namespace {
+
+constexpr int kLook = 500;  // milliseconds
+constexpr char kFollowing[] = "Following";
+
+}  // namespace
+
+FollowCommands::FollowCommands(Form& form, LogEdit& edit, VirtualList& list, PlayerPanel& players,
+                               ViewCommands& commands, FilterRow& row)
+    : form_(form), edit_(edit), list_(list), players_(players), commands_(commands), row_(row) {
+    timer_.SetInterval(kLook);
+    timer_.onTimer = [this] {
+        if (!form_.IsBlocked()) Look();
+    };
+}
+
+void FollowCommands::Opened(const std::string& path) {
+    Stop("");
+    path_ = path;
+}
+
+void FollowCommands::Reload() {
+    if (HasFile()) Read(follower_.IsFollowing());
+}
+
+void FollowCommands::Follow() {
+    if (follower_.IsFollowing()) {
+        Stop("");
+    } else if (HasFile() && Read(true)) {
+        unseen_ = 0;
+        row_.ShowNews(kFollowing);
+        timer_.SetEnabled(true);
+        onFollow(true);
+    }
+}
+
+void FollowCommands::Stop(const std::string& words) {
+    timer_.SetEnabled(false);
+    follower_.Stop();
+    row_.ShowNews(words);
+    onFollow(false);
+}
+
+// A log that cannot be read leaves what is shown.
+bool FollowCommands::Read(bool follow) {
+    Result<std::shared_ptr<const ParsedLog>> log = follow ? follower_.Start(path_, {}, {}) : ReadLog(path_, {}, {});
+    if (log.Failed()) {
+        if (follow) Stop("Not followed: the file cannot be read");
+        else ShowError(log.Error());
+        return false;
+    }
+    edit_.LogLines = log.Take();
+    players_.FillAgain();
+    commands_.KeepPlace([this] { ShowError(ApplyLogFilter(edit_)); });
+    return true;
+}
+
+void FollowCommands::Look() {
+    // The editor may have been opened anew, which forgets the log.
+    if (edit_.LogLines.get() != follower_.Log() && !Read(true)) return;
+    const size_t lines = edit_.LogLines->LineCount();
+    const size_t players = edit_.LogLines->Players().size();
+    switch (follower_.Look()) {
+        case LogFollower::News::None: break;
+        case LogFollower::News::Grew: ShowNew(lines, players); break;
+        case LogFollower::News::Other: Read(true); break;
+        case LogFollower::News::Gone: Stop("Not followed any more: the file is gone"); break;
+    }
+    if (unseen_ > 0 && list_.ShowsEnd()) {
+        unseen_ = 0;
+        row_.ShowNews(kFollowing);
+    }
+}
+
+// The list goes on with the log only while its end is in sight: who reads something else is not disturbed.
+void FollowCommands::ShowNew(size_t lines, size_t players) {
+    const bool goesOn = list_.ShowsEnd();
+    if (edit_.LogLines->Players().size() > players) players_.AddNew(players);
+    size_t added = 0;
+    commands_.KeepPlace([&] {
+        const Result<size_t> count = edit_.view.Extend(lines, players);
+        if (count.Failed()) ShowError(count.Error());
+        else added = count.Value();
+    });
+    if (goesOn) {
+        if (edit_.view.Count() > 0) list_.SetTopIndex(edit_.view.Count() - 1);
+        return;
+    }
+    unseen_ += added;
+    if (unseen_ > 0) row_.ShowNews(std::to_string(unseen_) + (unseen_ == 1 ? " new line" : " new lines"));
+}
+
+void FollowCommands::GoToEnd() {
+    if (list_.Count() == 0) return;
+    list_.SetCurrent(list_.Count() - 1);
+    list_.SetTopIndex(list_.Count() - 1);
+    if (follower_.IsFollowing()) row_.ShowNews(kFollowing);
+    unseen_ = 0;
+}
+
+}  // namespace quirn

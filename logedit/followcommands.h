@@ -1,0 +1,48 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "logedit/filterrow.h"
+#include "logedit/logfollower.h"
+#include "logedit/viewcommands.h"
+#include "platform/timer.h"
+
+namespace quirn {
+
+// Reads the log that is shown again, once or as it grows. Types, excluded players, text, selected lines and the place
+// of the list stay what they are.
+class FollowCommands {
+public:
+    // All outlive it.
+    FollowCommands(Form& form, LogEdit& edit, VirtualList& list, PlayerPanel& players, ViewCommands& commands,
+                   FilterRow& row);
+
+    std::function<void(bool follows)> onFollow;  // it has begun or stopped
+
+    bool HasFile() const { return !path_.empty(); }
+
+    void Opened(const std::string& path);  // another log, which nobody follows yet; an empty text: none
+    void Reload();
+    void Follow();  // or stops it
+    void GoToEnd();
+
+private:
+    bool Read(bool follow);
+    void Stop(const std::string& words);
+    void Look();
+    void ShowNew(size_t lines, size_t players);
+
+    Form& form_;
+    LogEdit& edit_;
+    VirtualList& list_;
+    PlayerPanel& players_;
+    ViewCommands& commands_;
+    FilterRow& row_;
+    std::string path_;
+    LogFollower follower_;
+    size_t unseen_ = 0;  // new lines since the end was in sight
+    Timer timer_;
+};
+
+}  // namespace quirn
