@@ -20,6 +20,7 @@ public:
 
     std::function<void(bool follows)> onFollow;  // it has begun or stopped
 
+    const std::string& Path() const { return path_; }
     bool HasFile() const { return !path_.empty(); }
 
     void Opened(const std::string& path);  // another log, which nobody follows yet; an empty text: none

@@ -67,7 +67,9 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
       StatusBar1(*this, kCountPanelWidth),
       commands_(edit, lstLog, players_, [this] { ShowCounts(); }),
       follow_(*this, edit, lstLog, players_, commands_, row_),
-      find_([this](const std::string& text) { FindInLog(text); }, edit.lastSearch) {
+      find_([this](const std::string& text) { FindInLog(text); }, edit.lastSearch),
+      statistics_([this](bool shownOnly) { return commands_.CountPlayers(shownOnly); },
+                  [this](const std::string& player) { commands_.OnlyPlayer(player); }) {
     for (size_t i = 0; i < kFilterBoxCount; ++i) {
         CheckBox& box = chkFilters.emplace_back(Frame1, kBoxes.Cell(i), kFilterBoxes[i].caption);
         box.onClick = [this] { chkFilters_Click(); };
@@ -145,6 +147,7 @@ bool frmLogEdit::Form_Unload() {
     WriteLogSettings({NormalPlace(), lstLog.FontUsed(), lstLog.ForeColor(), lstLog.BackColor()});
     WriteLogMRU(edit_.LogMRU);
     find_.Unload();
+    statistics_.Unload();
     follow_.Opened("");
     return true;
 }
@@ -221,6 +224,10 @@ void frmLogEdit::FindAgain(bool upwards) {
     if (edit_.lastSearch.empty()) mnuSearch_Find_Click();
     else if (upwards) commands_.FindPrevious(edit_.lastSearch);
     else FindInLog(edit_.lastSearch);
+}
+
+void frmLogEdit::mnuView_Statistics_Click() {
+    statistics_.Open(*this, SplitPath(follow_.Path()).File());
 }
 
 void frmLogEdit::mnuView_Unknown_Click() {

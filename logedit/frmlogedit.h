@@ -6,6 +6,7 @@
 #include "logedit/filterrow.h"
 #include "logedit/followcommands.h"
 #include "logedit/frmlogfind.h"
+#include "logedit/frmlogstatistics.h"
 #include "logedit/logedit.h"
 #include "logedit/playerpanel.h"
 #include "logedit/progressframe.h"
@@ -40,6 +41,7 @@ private:
     void mnuOptions_LineNums_Click();
     void mnuSearch_Find_Click();
     void FindAgain(bool upwards);
+    void mnuView_Statistics_Click();
     void mnuView_Unknown_Click();
     void mnuInExPopup_Only_Click();
     void mnuLogEditPopup_Delete_Click();
@@ -74,6 +76,7 @@ private:
     ViewCommands commands_;
     FollowCommands follow_;
     frmLogFind find_;
+    frmLogStatistics statistics_;
 };
 
 }  // namespace quirn

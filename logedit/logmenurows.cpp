@@ -50,6 +50,8 @@ std::vector<MenuRow> frmLogEdit::MenuRows() {
             [this] { row_.FocusText(); }},
         {mnuView_All, 1, "Show &All", "Ctrl+Shift+A", "Show all lines, or again what the filters leave",
             [this] { commands_.ShowAll(); }, [this] { return commands_.HasLog(); }},
+        {mnuView_Statistics, 1, "&Player Statistics...", "Ctrl+T", "Count lines, kills and deaths of each player",
+            [this] { mnuView_Statistics_Click(); }, [this] { return commands_.HasLog(); }},
         {mnuViewBarUnknown, 1, "-"},
         {mnuView_Reload, 1, "&Reload", "F5", "Read the log again",
             [this] { follow_.Reload(); }, [this] { return follow_.HasFile(); }},

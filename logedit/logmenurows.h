@@ -50,6 +50,7 @@ enum Command : int {
     mnuLogEditPopup_Hide,
     mnuLogEditPopup_Everyone,
     mnuInExPopup_Only,
+    mnuView_Statistics,
     mnuView_Reload,
     mnuView_Follow,
 };

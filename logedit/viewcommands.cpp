@@ -4,6 +4,7 @@
 
 #include "logedit/logfind.h"
 #include "platform/dialogs.h"
+#include "platform/text.h"
 
 namespace quirn {
 
@@ -97,6 +98,25 @@ void ViewCommands::FindPrevious(const std::string& text) {
 uint32_t ViewCommands::Speaker() const {
     const std::optional<size_t> current = list_.Current();
     return HasLog() && current && *current < edit_.view.Count() ? PlayerOf(edit_.view.Info(*current)) : 0;
+}
+
+std::vector<PlayerStatistics> ViewCommands::CountPlayers(bool shownOnly) const {
+    if (!HasLog()) return {};
+    return shownOnly ? quirn::CountPlayers(edit_.view.Lines()) : quirn::CountPlayers(*edit_.view.Log());
+}
+
+// Who never speaks has no lines of his own: nothing is left but those of nobody.
+void ViewCommands::OnlyPlayer(const std::string& name) {
+    std::vector<uint32_t> numbers;
+    const auto& players = edit_.LogLines->Players();
+    for (size_t i = 0; i < players.size(); ++i)
+        if (EqualNoCase(players[i], name)) numbers.push_back(static_cast<uint32_t>(i + 1));
+    if (numbers.empty()) {
+        ShowMessage(name + " says nothing in this log.", kInformation);
+        return;
+    }
+    players_.ShowOnly(numbers);
+    ApplyPlayers();
 }
 
 void ViewCommands::OnlySpeaker() {

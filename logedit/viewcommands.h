@@ -5,6 +5,7 @@
 
 #include "logedit/filterrow.h"
 #include "logedit/logedit.h"
+#include "logedit/logstatistics.h"
 #include "logedit/playerpanel.h"
 #include "platform/virtuallist.h"
 
@@ -28,6 +29,8 @@ public:
     void FilterByText(const std::string& text);
     void ShowAll();  // and, when all is shown, what the filters leave
     void FindPrevious(const std::string& text);
+    std::vector<PlayerStatistics> CountPlayers(bool shownOnly) const;
+    void OnlyPlayer(const std::string& name);
     void OnlySpeaker();  // of the line at the keyboard
     void HideSpeaker();
     void Everyone();

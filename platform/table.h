@@ -34,6 +34,7 @@ public:
     // What the cells show. Asked at any time; a row is always below RowCount().
     std::function<std::string(size_t row, int column)> cellText;
     std::function<CellStyle(size_t row, int column)> cellStyle;
+    std::function<double(size_t row, int column)> cellBar;  // a bar below the text, as long as this part of the cell
     std::function<bool(size_t row)> isTicked;  // with it each row has a box to tick; set before the table has a window
 
     ListStyle Style() const { return style_; }

@@ -164,14 +164,34 @@ LRESULT StyleCell(const Table& table, NMLVCUSTOMDRAW& drawn) {
     return CDRF_NEWFONT;
 }
 
+void DrawBar(const Table& table, const NMLVCUSTOMDRAW& drawn) {
+    const auto row = static_cast<size_t>(drawn.nmcd.dwItemSpec);
+    const double part = row < table.RowCount() ? table.cellBar(row, drawn.iSubItem) : 0;
+    if (part <= 0) return;
+    RECT cell{LVIR_BOUNDS, drawn.iSubItem, 0, 0};
+    Send(table, LVM_GETSUBITEMRECT, row, reinterpret_cast<LPARAM>(&cell));
+    const int margin = ToPixels(45, DpiOf(table));
+    const int height = std::max(ToPixels(30, DpiOf(table)), 1);
+    const RECT bar{cell.left + margin, cell.bottom - height,
+                   cell.left + margin + static_cast<int>((cell.right - cell.left - 2 * margin) * std::min(part, 1.0)),
+                   cell.bottom};
+    FillRect(drawn.nmcd.hdc, &bar, GetSysColorBrush(COLOR_HOTLIGHT));
+}
+
 LRESULT Draw(const Table& table, NMLVCUSTOMDRAW& drawn) {
     switch (drawn.nmcd.dwDrawStage) {
         case CDDS_PREPAINT:
             if (table.RowCount() == 0) return CDRF_NOTIFYPOSTPAINT;
-            return table.cellStyle ? CDRF_NOTIFYITEMDRAW : CDRF_DODEFAULT;
+            return table.cellStyle || table.cellBar ? CDRF_NOTIFYITEMDRAW : CDRF_DODEFAULT;
         case CDDS_POSTPAINT: DrawEmptyText(table, drawn.nmcd.hdc); return CDRF_DODEFAULT;
         case CDDS_ITEMPREPAINT: return CDRF_NOTIFYSUBITEMDRAW;
-        case CDDS_ITEMPREPAINT | CDDS_SUBITEM: return StyleCell(table, drawn);
+        case CDDS_ITEMPREPAINT | CDDS_SUBITEM: {
+            const LRESULT styled = table.cellStyle ? StyleCell(table, drawn) : CDRF_DODEFAULT;
+            return table.cellBar ? styled | CDRF_NOTIFYPOSTPAINT : styled;
+        }
+        case CDDS_ITEMPOSTPAINT | CDDS_SUBITEM:
+            if (table.cellBar) DrawBar(table, drawn);
+            return CDRF_DODEFAULT;
         default: return CDRF_DODEFAULT;
     }
 }

@@ -1,6 +1,8 @@
 #include "logedit/logview.h"
 
+#include <map>
 #include <random>
+#include <regex>
 
 #include "benchmarks/loggenerator.h"
 #include "logedit/logfind.h"
@@ -8,6 +10,7 @@
 #include "logedit/logparser.h"
 #include "logedit/logsave.h"
 #include "logedit/logsettings.h"
+#include "logedit/logstatistics.h"
 #include "platform/text.h"
 #include "tests/testing/world.h"
 
@@ -141,6 +144,36 @@ TEST_F(LogViewTest, AGrowingLogIsWhatOneReadGives) {
     EXPECT_EQ(follower.Look(), LogFollower::News::Other);
     test::PutFile(In("g.log"), text.substr(0, 10));
     EXPECT_EQ(follower.Look(), LogFollower::News::Other);
+}
+
+// Against a plain reading of the lines; names may hold brackets, and some players only kill or die.
+TEST_F(LogViewTest, CountsLinesKillsAndDeaths) {
+    Open(GenerateLog({200000, 60, 11}) +
+         "  Bob [x](3)(10)(230) killed by: CID\r\n    Mole(25) killed by: Orla (2)\r\n  Cid> hello\r\n");
+    struct Counts {
+        size_t lines = 0, kills = 0, deaths = 0;
+        bool operator==(const Counts&) const = default;
+    };
+    std::map<std::string, Counts> expected;
+    for (size_t i = 0; i < log->LineCount(); ++i) {
+        const int32_t info = log->Info(i);
+        if (PlayerOf(info) != 0) ++expected[FoldCase(log->Players()[PlayerOf(info) - 1])].lines;
+        std::smatch match;
+        static const std::regex kKillLine(R"(..\s*(.+?)(?:\(\d+\)){1,2} killed by: (.*\S)\s*)");
+        const std::string line(log->Line(i));
+        if (TypeOf(info) != kKill || !std::regex_match(line, match, kKillLine)) continue;
+        ++expected[FoldCase(match[1].str())].deaths;
+        ++expected[FoldCase(match[2].str())].kills;
+    }
+    std::map<std::string, Counts> counted;
+    for (const PlayerStatistics& player : CountPlayers(*log)) {
+        EXPECT_LE(player.first, player.last);
+        const Counts counts{player.lines, player.kills, player.deaths};
+        EXPECT_TRUE(counted.emplace(FoldCase(player.name), counts).second) << player.name;
+    }
+    ASSERT_EQ(counted.size(), expected.size());
+    for (const auto& [name, counts] : expected) EXPECT_EQ(counted[name], counts) << name;
+    EXPECT_EQ(ReadKill("  Bob [x](3)(10)(230) killed by: CID").victim, "Bob [x](3)");
 }
 
 TEST_F(LogViewTest, ListsPlayersInAlphabeticalOrder) {

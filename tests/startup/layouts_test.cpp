@@ -176,6 +176,9 @@ TEST_F(LayoutsTest, NothingStandsOutsideOrAcrossAnother) {
     find.Open(logEditor);
     Check(find, "find");
     find.Unload();
+    frmLogStatistics statistics([](bool) { return std::vector<PlayerStatistics>(); }, {});
+    statistics.Load();
+    CheckSizes(statistics, "player statistics");
 }
 
 TEST_F(LayoutsTest, WhatIsInAFrameMovesWithIt) {
