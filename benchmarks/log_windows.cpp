@@ -7,13 +7,17 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "benchmarks/ticks.h"
 #include "logedit/logfind.h"
+#include "logedit/logfollower.h"
 #include "logedit/logparser.h"
 #include "logedit/logsave.h"
+#include "logedit/logstatistics.h"
+#include "platform/files.h"
 
 namespace {
 
@@ -59,6 +63,47 @@ size_t MostMemory() {
     return memory.PeakWorkingSetSize;
 }
 
+// A copy of the log, to which another 10,000 lines come.
+void Follow(const std::string& path, Steps& steps) {
+    const std::string copy = path + ".growing";
+    CopyFileA(path.c_str(), copy.c_str(), FALSE);
+    std::string added;
+    for (int i = 0; i < 10000; ++i) added += "  Newcomer> what came while the log was open\r\n";
+    LogFollower follower;
+    const auto log = follower.Start(copy, {}, {}).Value();
+    PlayerList include, exclude;
+    LogView view;
+    include.Fill(log);
+    view.ApplyLogFilter(log, 0x7FF, include, exclude, false);
+    for (int round = 0; round < kRounds; ++round) {
+        std::FILE* const file = std::fopen(copy.c_str(), "ab");
+        std::fwrite(added.data(), 1, added.size(), file);
+        std::fclose(file);
+        const size_t lines = log->LineCount(), players = log->Players().size();
+        steps.Time("follow: 10,000 lines more", [&] {
+            follower.Look();
+            if (log->Players().size() > players) include.Add(players);
+            view.Extend(lines, players);
+        });
+    }
+    DeleteFileA(copy.c_str());
+}
+
+// What no way from file to list can do without.
+void ReadOnly(const std::string& path, Steps& steps) {
+    steps.Time("of which reading into fresh memory", [&] {
+        FileReader file;
+        if (file.Open(path)) return;
+        const auto size = static_cast<size_t>(file.Size());
+        const std::unique_ptr<char[]> memory(new char[size]);
+        for (size_t at = 0; at < size;) {
+            const Result<size_t> got = file.Read(memory.get() + at, std::min<size_t>(size - at, 256 * 1024));
+            if (got.Failed() || got.Value() == 0) return;
+            at += got.Value();
+        }
+    });
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -80,6 +125,7 @@ int main(int count, char** arguments) {
         include.Fill(log.Value());
         if (view.ApplyLogFilter(log.Value(), 0x7FF, include, exclude, false)) return 1;
         steps.Add("read, parse, filter", Milliseconds() - start);
+        ReadOnly(path, steps);
         lines = log.Value()->LineCount();
         bytes = log.Value()->TextSize();
         players = log.Value()->Players().size();
@@ -90,13 +136,22 @@ int main(int count, char** arguments) {
         view.ApplyLogFilter(log.Value(), 0x7FF, include, PlayerList(), false);
         steps.Time("find what is not there", [&] { FindItem(view, "zzqqxx", 0); });
         selection.Reset(view.Count());
+        steps.Time("text filter: a word and not another", [&] { view.SetText(TextFilter("the -zone")); });
+        steps.Time("text filter: one letter", [&] { view.SetText(TextFilter("e")); });
+        steps.Time("text filter: no more", [&] { view.SetText({}); });
+        steps.Time("show all", [&] { view.ShowAll(0x7FF); });
+        view.ShowAll(std::nullopt);
+        steps.Time("statistics", [&] { CountPlayers(*log.Value()); });
         steps.Time("select all", [&] { selection.SelectAll(); });
         selection.ClearAll();
         for (size_t i = 0; i < view.Count() && i < 1600000; i += 8) selection.Select(i, true);
         steps.Time("delete 200,000 lines here and there", [&] { view.Delete(selection); });
+        steps.Time("undo that", [&] { view.Undo(); });
+        view.Redo();
         steps.Time("save", [&] { SaveFilteredLog(view, path + ".saved"); });
     }
     DeleteFileA((path + ".saved").c_str());
+    Follow(path, steps);
     std::printf("%zu bytes, %zu lines, %zu players, %d rounds\n", bytes, lines, players, kRounds);
     steps.Print();
     const size_t most = MostMemory() - memoryBefore;

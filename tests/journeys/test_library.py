@@ -42,6 +42,19 @@ def test_profiles_are_found_opened_renamed_linked_and_deleted(desk):
     assert not (profiles / "DUEL.QRN").exists() and player.title().endswith("best.QRN")
 
     wait_for(lambda: rows(library) == 4, what="four profiles")
+    assert "PlayerPassword=\n" not in (profiles / "best.QRN").read_text("cp1252")
+    library.click(library.find("More", "Button"))
+    library.xdo("key", "w")
+    player.dialog("Copy Without Password").keys("Return")
+    player.in_file_dialog("Copy Without Password", r"C:\SubSpace\Profiles\for-a-friend")
+    copy = profiles / "for-a-friend.qrn"
+    wait_for(copy.exists, what="the copy")
+    assert "PlayerPassword=\n" in copy.read_text("cp1252") and "PlayerName=Vex" in copy.read_text("cp1252")
+    assert player.title().endswith("best.QRN")
+    copy.unlink()
+    library.keys("F5")
+
+    wait_for(lambda: rows(library) == 4, what="four profiles")
     library.keys("n", "Delete")
     box = player.quirn.box()
     assert box.text == "Move nova to the recycle bin?"

@@ -3,6 +3,7 @@ from machine import wait_for
 from player import Player, start
 
 (OPEN, MRU, CLOSE, LINE_NUMBERS) = (2, 5, 11, 18)
+FOLLOW = 50
 LOG_UTILITY, EXIT = 21, 18
 WM_COMMAND, LB_GETTOPINDEX = 273, 398
 WM_SYSCOMMAND, SC_MAXIMIZE = 274, 0xF030
@@ -33,6 +34,10 @@ class LogEditor(Player):
         self.command(OPEN)
         self.in_file_dialog("Open", path)
         self.expect_status("Log file has been loaded")
+
+    def type_filter(self, text):
+        self.keys("ctrl+shift+f")
+        self.type(text)
 
     def click_item(self, name, item, *held):
         """With real keys held."""
@@ -153,3 +158,46 @@ def test_the_window_has_a_smallest_size_and_an_end_with_the_program(desk):
     settings = desk.own_settings()
     assert settings[r"Settings\LogEditHeight"] == ("REG_SZ", str(540 * 15))
     assert settings[r"Settings\LogEditWidth"] == ("REG_SZ", str(730 * 15))
+
+
+def test_a_growing_log_is_followed_and_a_word_found_in_it(desk):
+    log = desk.file("today.log")
+    log.write_bytes(b"  Ann> one\r\n  bob> two\r\n")
+    editor = LogEditor(desk)
+    editor.open(r"C:\SubSpace\today.log")
+    editor.command(FOLLOW)
+    said = lambda text: any(c["caption"] == text for c in editor.of_class("Static"))  # noqa: E731
+    wait_for(lambda: said("Following"), what="the words in the strip")
+
+    # Another program writes: line by line, in bursts, and half a line; it is never locked out.
+    with log.open("ab") as file:
+        expected = ["  Ann> one", "  bob> two"]
+        for burst in (1, 2, 30, 1):
+            for _ in range(burst):
+                expected.append(f"  Cid> line {len(expected)}")
+                file.write(expected[-1].encode() + b"\r\n")
+            file.flush()
+            wait_for(lambda: editor.shown() == expected, what=f"{len(expected)} lines")
+        file.write(b"T Ann> half")
+        file.flush()
+        editor.type_filter("ann -two")
+        wait_for(lambda: editor.shown() == ["  Ann> one"], what="the filtered lines")
+        wait_for(lambda: said("1 of 36 lines"), what="the counts")
+        file.write(b" a line\r\n")
+    wait_for(lambda: editor.shown() == ["  Ann> one", "T Ann> half a line"], what="the whole line")
+    desk.screenshot("following")
+
+    # Deleted by the keyboard, and back; the file is what it was.
+    before = log.read_bytes()
+    editor.keys("Down", "ctrl+a", "Delete")
+    wait_for(lambda: editor.count() == "Log Lines = 0", what="the deletion")
+    editor.keys("ctrl+z")
+    wait_for(lambda: editor.count() == "Log Lines = 2", what="the undo")
+    assert log.read_bytes() == before
+
+    log.write_bytes(b"  Ann> anew\r\n")
+    wait_for(lambda: editor.shown() == ["  Ann> anew"], what="the shorter file")
+    log.unlink()
+    wait_for(lambda: said("Not followed any more: the file is gone"), what="the end")
+    editor.keys("alt+F4")
+    editor.gone()
