@@ -40,32 +40,41 @@ void ViewCommands::Restore(const LogView::Restored& restored) {
 }
 
 void ViewCommands::KeepPlace(const std::function<void()>& change) {
-    LogView& view = edit_.view;
     if (!HasLog()) return change();
-    const bool any = view.Count() > 0;
-    const size_t top = any ? view.LineIndex(std::min(list_.TopIndex(), view.Count() - 1)) : 0;
-    const std::optional<size_t> current =
-        list_.Current() ? std::optional(view.LineIndex(*list_.Current())) : std::nullopt;
-    const bool selects = any && list_.Selection().SelectedCount() > 0;
-    ListSelection lines;
-    if (selects) {
-        lines.Reset(view.Log()->LineCount());
-        list_.Selection().ForEach([&](size_t item) { lines.Select(view.LineIndex(item), true); });
-    }
+    const LinesInPlace kept = Remember();
     change();
+    const LogView& view = edit_.view;
     list_.SetCount(view.Count(), view.LongestText());
-    if (selects) {
-        ListSelection items;
-        items.Reset(view.Count());
-        lines.ForEach([&](size_t line) {
-            const size_t item = view.ItemOfLine(line);
-            if (item < view.Count() && view.LineIndex(item) == line) items.Select(item, true);
-        });
-        list_.SetSelection(items);
-    }
-    if (current && view.Count() > 0) list_.SetCurrent(std::min(view.ItemOfLine(*current), view.Count() - 1));
-    list_.SetTopIndex(view.ItemOfLine(top));
+    if (kept.selects) list_.SetSelection(ItemsOf(kept.selected));
+    if (kept.current != kNoLine && view.Count() > 0)
+        list_.SetCurrent(std::min(view.ItemOfLine(kept.current), view.Count() - 1));
+    list_.SetTopIndex(view.ItemOfLine(kept.top));
     shown_();
+}
+
+ViewCommands::LinesInPlace ViewCommands::Remember() const {
+    const LogView& view = edit_.view;
+    LinesInPlace kept;
+    if (view.Count() == 0) return kept;
+    kept.top = view.LineIndex(std::min(list_.TopIndex(), view.Count() - 1));
+    if (list_.Current()) kept.current = view.LineIndex(*list_.Current());
+    kept.selects = list_.Selection().SelectedCount() > 0;
+    if (!kept.selects) return kept;
+    kept.selected.Reset(view.Log()->LineCount());
+    list_.Selection().ForEach([&](size_t item) { kept.selected.Select(view.LineIndex(item), true); });
+    return kept;
+}
+
+// Those that are still shown.
+ListSelection ViewCommands::ItemsOf(const ListSelection& lines) const {
+    const LogView& view = edit_.view;
+    ListSelection items;
+    items.Reset(view.Count());
+    lines.ForEach([&](size_t line) {
+        const size_t item = view.ItemOfLine(line);
+        if (item < view.Count() && view.LineIndex(item) == line) items.Select(item, true);
+    });
+    return items;
 }
 
 void ViewCommands::FilterByText(const std::string& text) {

@@ -42,6 +42,16 @@ public:
     void KeepPlace(const std::function<void()>& change);
 
 private:
+    static constexpr size_t kNoLine = SIZE_MAX;
+    struct LinesInPlace {
+        size_t top = 0;
+        size_t current = kNoLine;
+        bool selects = false;
+        ListSelection selected;
+    };
+
+    LinesInPlace Remember() const;
+    ListSelection ItemsOf(const ListSelection& lines) const;
     uint32_t Speaker() const;  // 0: nobody
     void Restore(const LogView::Restored& restored);
     void ApplyPlayers();
