@@ -230,10 +230,10 @@ TEST_F(LogEditTest, ThePopupTakesTheLineUnderThePointer) {
     ChooseFromPopup(Log(), 0);  // nothing is selected: the first line is at the pointer
     EXPECT_EQ(Log().Count(), 4u);
     ClickItem(Log(), 0);
-    ChooseFromPopup(Log(), 4);  // "Only This Player"
+    ChooseFromPopup(Log(), 3);  // "Only This Player"
     EXPECT_EQ(Shown(Log()), (Lines{"P Cy> two", "  Welcome", "  Cy> four BO"})) << "deleted lines stay deleted";
     EXPECT_EQ(Shown(List("Exclude")), (Lines{"Ann", "Bo", "Dee"}));
-    ChooseFromPopup(Log(), 6);  // "Everyone Again"
+    ChooseFromPopup(Log(), 5);  // "Everyone Again"
     EXPECT_EQ(Log().Count(), 4u);
     edit_.lastSearch = "cy";
     Log().SetCurrent(3);

@@ -24,7 +24,7 @@ void Choose(ListBox& list, const std::vector<int>& indexes);
 void DoubleClickItem(ListBox& list, int index);
 void ClickItem(VirtualList& list, size_t item, bool shift = false, bool control = false);
 void DoubleClickItem(VirtualList& list, size_t item);
-void ChooseFromPopup(VirtualList& list, int position);  // the right button, then an item counted from 0
+void ChooseFromPopup(VirtualList& list, int position);  // the right button, then an item from 0, bars not counted
 void ClickRow(Table& table, size_t row, bool shift = false, bool control = false);
 void DoubleClickRow(Table& table, size_t row);
 void RightClickRow(Table& table, size_t row);

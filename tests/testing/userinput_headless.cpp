@@ -74,7 +74,8 @@ void DoubleClickItem(VirtualList& list, size_t item) {
 void ChooseFromPopup(VirtualList& list, int position) {
     list.UserPressesRightButton(list.Count() > 0 ? std::optional(list.TopIndex()) : std::nullopt);
     Menu* menu = headless::TheWorld().poppedUpMenus.back().menu;
-    menu->UserChooses(menu->Items()[static_cast<size_t>(position) + 1].row.command);
+    for (const Menu::Item& item : menu->Items())
+        if (item.row.level > 0 && !item.IsSeparator() && position-- == 0) return menu->UserChooses(item.row.command);
 }
 
 void ClickRow(Table& table, size_t row, bool shift, bool control) {
