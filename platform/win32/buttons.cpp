@@ -1,5 +1,6 @@
 #include <windows.h>
 
+#include "platform/win32/colors.h"
 #include "platform/win32/kind.h"
 #include "platform/win32/metrics.h"
 
@@ -32,8 +33,8 @@ void DrawLink(const LinkButton& link, const DRAWITEMSTRUCT& item) {
     RECT area = item.rcItem;
     FillRect(item.hDC, &area, GetSysColorBrush(COLOR_BTNFACE));
     const HGDIOBJ before = SelectObject(item.hDC, FontFor(font, DpiOf(link)));
-    SetTextColor(item.hDC,
-                 link.Enabled() ? link.ForeColor().value_or(GetSysColor(COLOR_HOTLIGHT)) : GetSysColor(COLOR_GRAYTEXT));
+    SetTextColor(item.hDC, link.Enabled() ? ForeColorOf(link).value_or(GetSysColor(COLOR_HOTLIGHT))
+                                          : GetSysColor(COLOR_GRAYTEXT));
     SetBkMode(item.hDC, TRANSPARENT);
     DrawTextA(item.hDC, link.Text().c_str(), -1, &area, DT_LEFT | DT_SINGLELINE | DT_END_ELLIPSIS);
     SelectObject(item.hDC, before);

@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include "platform/win32/accessible.h"
+#include "platform/win32/colors.h"
 #include "platform/win32/kind.h"
 
 // The messages of controls: those that their windows get, before their own procedures see them, and those that their
@@ -53,11 +54,12 @@ std::optional<LRESULT> ColorsOf(const Form& form, HDC device, HWND window) {
     if (control == nullptr) return std::nullopt;
     const bool onForm = &control->Holder() == &form;
     const bool holdsTexts = control->Kind().holdsTexts;
-    std::optional<Color> own = control->BackColor();
-    if (!own && onForm && !holdsTexts) own = form.BackColor();
-    if (!own && !control->ForeColor()) return std::nullopt;
+    std::optional<Color> own = BackColorOf(*control);
+    if (!own && onForm && !holdsTexts) own = BackColorOf(form);
+    const std::optional<Color> fore = ForeColorOf(*control);
+    if (!own && !fore) return std::nullopt;
     const Color back = own.value_or(GetSysColor(holdsTexts ? COLOR_WINDOW : COLOR_BTNFACE));
-    SetTextColor(device, control->ForeColor().value_or(GetSysColor(COLOR_WINDOWTEXT)));
+    SetTextColor(device, fore.value_or(GetSysColor(COLOR_WINDOWTEXT)));
     SetBkColor(device, back);
     SetDCBrushColor(device, back);
     return reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));

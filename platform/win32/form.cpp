@@ -7,6 +7,7 @@
 #include <map>
 
 #include "platform/version.h"
+#include "platform/win32/colors.h"
 #include "platform/win32/kind.h"
 #include "platform/win32/metrics.h"
 #include "resources/resource.h"
@@ -190,9 +191,12 @@ LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
         case WM_GETMINMAXINFO: LimitSize(*form, *reinterpret_cast<MINMAXINFO*>(lParam)); return 0;
         case WM_DPICHANGED: ChangeDpi(*form, *reinterpret_cast<const RECT*>(lParam)); return 0;
         case WM_ERASEBKGND:
-            if (!form->BackColor()) break;
-            PaintBackground(window, reinterpret_cast<HDC>(wParam), *form->BackColor());
-            return TRUE;
+            if (const std::optional<Color> color = BackColorOf(*form)) {
+                PaintBackground(window, reinterpret_cast<HDC>(wParam), *color);
+                return TRUE;
+            }
+            break;
+        case WM_SYSCOLORCHANGE: SystemColorsChanged(*form); break;
         default: break;
     }
     return DefWindowProcA(window, message, wParam, lParam);

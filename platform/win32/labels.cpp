@@ -1,5 +1,6 @@
 #include <windows.h>
 
+#include "platform/win32/colors.h"
 #include "platform/win32/kind.h"
 #include "platform/win32/metrics.h"
 
@@ -60,11 +61,11 @@ Look FrameLook(const Frame& frame) {
 
 void DrawPanel(const Frame& panel, const DRAWITEMSTRUCT& item) {
     RECT area = item.rcItem;
-    SetDCBrushColor(item.hDC, panel.BackColor().value_or(GetSysColor(COLOR_WINDOW)));
+    SetDCBrushColor(item.hDC, BackColorOf(panel).value_or(GetSysColor(COLOR_WINDOW)));
     FillRect(item.hDC, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
     DrawEdge(item.hDC, &area, EDGE_RAISED, BF_RECT | BF_ADJUST);
     const HGDIOBJ before = SelectObject(item.hDC, FontFor(panel.FontUsed(), DpiOf(panel)));
-    SetTextColor(item.hDC, panel.ForeColor().value_or(GetSysColor(COLOR_WINDOWTEXT)));
+    SetTextColor(item.hDC, ForeColorOf(panel).value_or(GetSysColor(COLOR_WINDOWTEXT)));
     SetBkMode(item.hDC, TRANSPARENT);
     constexpr int kTextTop = 120;  // twips
     area.top += ToPixels(kTextTop, DpiOf(panel));

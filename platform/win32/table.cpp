@@ -8,6 +8,7 @@
 #include <array>
 
 #include "platform/win32/accessible.h"
+#include "platform/win32/colors.h"
 #include "platform/win32/kind.h"
 #include "platform/win32/metrics.h"
 
@@ -83,10 +84,10 @@ void ApplySortArrow(const Table& table) {
 }
 
 void ApplyColors(const Table& table) {
-    const Color back = table.BackColor().value_or(GetSysColor(COLOR_WINDOW));
+    const Color back = BackColorOf(table).value_or(GetSysColor(COLOR_WINDOW));
     Send(table, LVM_SETBKCOLOR, 0, static_cast<LPARAM>(back));
     Send(table, LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(back));
-    Send(table, LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(table.ForeColor().value_or(GetSysColor(COLOR_WINDOWTEXT))));
+    Send(table, LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(ForeColorOf(table).value_or(GetSysColor(COLOR_WINDOWTEXT))));
 }
 
 void ApplySelection(const Table& table) {
@@ -157,7 +158,7 @@ LRESULT StyleCell(const Table& table, NMLVCUSTOMDRAW& drawn) {
     const CellStyle style = table.cellStyle(row, drawn.iSubItem);
     // One cell's style would be the next one's as well.
     drawn.clrText =
-        style.grey ? GetSysColor(COLOR_GRAYTEXT) : table.ForeColor().value_or(GetSysColor(COLOR_WINDOWTEXT));
+        style.grey ? GetSysColor(COLOR_GRAYTEXT) : ForeColorOf(table).value_or(GetSysColor(COLOR_WINDOWTEXT));
     Font font = table.FontUsed();
     font.bold |= style.bold;
     SelectObject(drawn.nmcd.hdc, FontFor(font, DpiOf(table)));

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/win32/accessible.h"
+#include "platform/win32/colors.h"
 #include "platform/win32/kind.h"
 #include "platform/win32/metrics.h"
 
@@ -187,8 +188,8 @@ void DrawMarks(const VirtualList& list, const DRAWITEMSTRUCT& item, std::string_
 
 void DrawListItem(const VirtualList& list, const DRAWITEMSTRUCT& item) {
     const bool selected = (item.itemState & ODS_SELECTED) != 0;
-    const Color fore = list.ForeColor().value_or(GetSysColor(COLOR_WINDOWTEXT));
-    const Color back = list.BackColor().value_or(GetSysColor(COLOR_WINDOW));
+    const Color fore = ForeColorOf(list).value_or(GetSysColor(COLOR_WINDOWTEXT));
+    const Color back = BackColorOf(list).value_or(GetSysColor(COLOR_WINDOW));
     SetTextColor(item.hDC, selected ? GetSysColor(COLOR_HIGHLIGHTTEXT) : fore);
     SetBkColor(item.hDC, selected ? GetSysColor(COLOR_HIGHLIGHT) : back);
     ExtTextOutA(item.hDC, 0, 0, ETO_OPAQUE, &item.rcItem, nullptr, 0, nullptr);
