@@ -42,19 +42,6 @@ def test_profiles_are_found_opened_renamed_linked_and_deleted(desk):
     assert not (profiles / "DUEL.QRN").exists() and player.title().endswith("best.QRN")
 
     wait_for(lambda: rows(library) == 4, what="four profiles")
-    assert "PlayerPassword=\n" not in (profiles / "best.QRN").read_text("cp1252")
-    library.click(library.find("More", "Button"))
-    library.xdo("key", "w")
-    player.dialog("Copy Without Password").keys("Return")
-    player.in_file_dialog("Copy Without Password", r"C:\SubSpace\Profiles\for-a-friend")
-    copy = profiles / "for-a-friend.qrn"
-    wait_for(copy.exists, what="the copy")
-    assert "PlayerPassword=\n" in copy.read_text("cp1252") and "PlayerName=Vex" in copy.read_text("cp1252")
-    assert player.title().endswith("best.QRN")
-    copy.unlink()
-    library.keys("F5")
-
-    wait_for(lambda: rows(library) == 4, what="four profiles")
     library.keys("n", "Delete")
     box = player.quirn.box()
     assert box.text == "Move nova to the recycle bin?"
@@ -67,6 +54,18 @@ def test_profiles_are_found_opened_renamed_linked_and_deleted(desk):
     player.expect_status("A shortcut has been put on the desktop")
     link = (desktop / "LEAGUE.lnk").read_bytes()
     assert "/LR:LEAGUE.QRN".encode("utf-16-le") in link or b"/LR:LEAGUE.QRN" in link
+
+    assert "PlayerPassword=\n" not in (profiles / "LEAGUE.QRN").read_text("cp1252")
+    library.click(library.find("More", "Button"))
+    library.xdo("key", "w")
+    player.dialog("Copy Without Password").keys("Return")
+    player.in_file_dialog("Copy Without Password", r"C:\SubSpace\Profiles\for-a-friend")
+    copy = profiles / "for-a-friend.qrn"
+    wait_for(copy.exists, what="the copy")
+    text = copy.read_text("cp1252")
+    assert "PlayerPassword=\n" in text and "PlayerName=Ødegård" in text and "Ignore1=\n" in text
+    assert player.title().endswith("best.QRN")
+
     library.keys("ctrl+Return")
     assert desk.game_report()["Dialog.PlayerName (1)"] == "Ødegård"
     library.gone()
