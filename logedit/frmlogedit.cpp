@@ -146,6 +146,7 @@ void frmLogEdit::Form_Resize() {
 bool frmLogEdit::Form_Unload() {
     WriteLogSettings({NormalPlace(), lstLog.FontUsed(), lstLog.ForeColor(), lstLog.BackColor()});
     WriteLogMRU(edit_.LogMRU);
+    row_.Reset();
     find_.Unload();
     statistics_.Unload();
     follow_.Opened("");
