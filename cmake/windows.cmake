@@ -45,9 +45,9 @@ function(render_icon name bits)
                        WORKING_DIRECTORY ${CMAKE_BINARY_DIR} VERBATIM)
     set(icons ${icons} ${CMAKE_BINARY_DIR}/${name}.ico PARENT_SCOPE)
 endfunction()
-render_icon(quirn 32 16 20 24 32 40 48 64 128 256)
-render_icon(cookie 32 64 96 128)
-render_icon(splash 24 120 180 240)  # its place at 100, 150 and 200 %
+render_icon(quirn 32 16 20 24 32 40 48 64 80 96 112 128 256)
+render_icon(cookie 32 64 80 96 112 128)
+render_icon(splash 24 120 150 180 210 240)  # its place from 100 to 200 %
 set(resource_script ${CMAKE_SOURCE_DIR}/resources/quirn.rc)
 set_source_files_properties(${resource_script} PROPERTIES OBJECT_DEPENDS
     "${icons};${CMAKE_SOURCE_DIR}/resources/quirn.manifest;${CMAKE_SOURCE_DIR}/platform/version.h")
