@@ -169,7 +169,8 @@ std::optional<size_t> ItemAt(const VirtualList& list, LONG y) {
     return y >= 0 && item < list.Count() ? std::optional(item) : std::nullopt;
 }
 
-// Draws marked pieces of a text again, in colours that stand out in every scheme. Only the start of a very long line is looked at.
+// Draws marked pieces of a text again, in colours that stand out in every scheme. Only the start of a very long line is
+// looked at.
 void DrawMarks(const VirtualList& list, const DRAWITEMSTRUCT& item, std::string_view text) {
     constexpr size_t kLookedAt = 4096;
     SetTextColor(item.hDC, GetSysColor(COLOR_HIGHLIGHTTEXT));
