@@ -46,8 +46,13 @@ bool CutsSiblings(Control& control) {
     });
 }
 
-RECT PixelPlace(const Control& control) {
+RECT PixelPlace(Control& control) {
     RECT place = ToPixels(control.Place(), DpiOf(control));
+    if (control.Kind().look(control).holdsLine) {
+        const int height = LineBoxHeight(control);
+        place.top += (place.bottom - place.top - height) / 2;
+        place.bottom = place.top + height;
+    }
     place.bottom += control.Kind().linesDropped * (place.bottom - place.top);
     return place;
 }
@@ -86,6 +91,13 @@ RECT ToPixels(const Bounds& place, int dpi) {
 
 int DpiOf(const Control& control) {
     return DpiOf(WindowOf(control.Holder().Owner()));
+}
+
+int LineBoxHeight(const Control& control) {
+    const int dpi = DpiOf(control);
+    const int border = GetSystemMetrics(SM_CYEDGE) + 1;
+    const int needed = MetricsOf(FontFor(control.FontUsed(), dpi)).tmHeight + 2 * border;
+    return std::min(needed, ToPixels(control.Place().height, dpi));
 }
 
 std::string TextOf(HWND window) {

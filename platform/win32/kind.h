@@ -21,6 +21,7 @@ struct Look {
     bool seesMouse = false;     // its messages come through here though it takes no focus
     bool liesOver = false;      // when it appears it lies over whatever is there
     bool framesOthers = false;  // it lies above what is in it
+    bool holdsLine = false;     // one line of text, at the top of its window
 };
 
 struct Message {

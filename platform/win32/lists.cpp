@@ -101,7 +101,7 @@ std::optional<LRESULT> ListBoxMessage(ListBox& list, const Message& m) {
 }
 
 Look ComboBoxLook(const ComboBox&) {
-    return {.className = "COMBOBOX", .style = kListStyle | CBS_DROPDOWNLIST};
+    return {.className = "COMBOBOX", .style = kListStyle | CBS_DROPDOWNLIST, .holdsLine = true};
 }
 
 void ApplyComboBox(const ComboBox& box, Aspect aspect) {
@@ -123,7 +123,7 @@ void NewComboBox(const ComboBox& box) {
 void SetComboBoxFont(const ComboBox& box, HFONT font) {
     constexpr int kBorders = 6;
     Send(box, WM_SETFONT, reinterpret_cast<WPARAM>(font));
-    Send(box, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), ToPixels(box.Place().height, DpiOf(box)) - kBorders);
+    Send(box, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), LineBoxHeight(box) - kBorders);
 }
 
 // While the list is open, moving in it only highlights; a choice is what the list is closed with. This is what the

@@ -71,4 +71,14 @@ HFONT FontFor(const Font& font, int dpi) {
     return made.back().handle;
 }
 
+TEXTMETRICA MetricsOf(HFONT font) {
+    const HDC screen = GetDC(nullptr);
+    const HGDIOBJ before = SelectObject(screen, font);
+    TEXTMETRICA metrics{};
+    GetTextMetricsA(screen, &metrics);
+    SelectObject(screen, before);
+    ReleaseDC(nullptr, screen);
+    return metrics;
+}
+
 }  // namespace quirn::win32

@@ -19,5 +19,6 @@ inline int ToTwips(int pixels, int dpi) {
 
 // The system's font for a control's, shared by all that use it and kept for good.
 HFONT FontFor(const Font& font, int dpi);
+TEXTMETRICA MetricsOf(HFONT font);
 
 }  // namespace quirn::win32

@@ -133,13 +133,16 @@ std::optional<LRESULT> MaskedBoxMessage(MaskedBox& box, const Message& m) {
 }
 
 Look BoxLook(const Control&) {
-    return {.className = "EDIT", .style = WS_TABSTOP | ES_AUTOHSCROLL, .extendedStyle = WS_EX_CLIENTEDGE};
+    return {.className = "EDIT",
+            .style = WS_TABSTOP | ES_AUTOHSCROLL,
+            .extendedStyle = WS_EX_CLIENTEDGE,
+            .holdsLine = true};
 }
 
 Look TextBoxLook(const TextBox& box) {
     Look look = BoxLook(box);
-    if (box.Style() == TextStyle::ReadPage)
-        look.style |= WS_VSCROLL | WS_HSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL;
+    look.holdsLine = box.Style() == TextStyle::Line;
+    if (!look.holdsLine) look.style |= WS_VSCROLL | WS_HSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL;
     return look;
 }
 
@@ -164,7 +167,7 @@ void BoxCommand(AnyBox& box, WORD code) {
 }
 
 Look UpDownLook(const UpDown&) {
-    return {.className = UPDOWN_CLASSA, .style = UDS_ARROWKEYS, .commonClass = ICC_UPDOWN_CLASS};
+    return {.className = UPDOWN_CLASSA, .style = UDS_ARROWKEYS, .commonClass = ICC_UPDOWN_CLASS, .holdsLine = true};
 }
 
 void FillUpDown(const UpDown& arrows) {

@@ -41,19 +41,9 @@ private:
 
 constexpr int kTextMargin = 2;  // pixels
 
-TEXTMETRICA MetricsOf(const VirtualList& list, HFONT font) {
-    const HDC device = GetDC(WindowOf(list));
-    const HGDIOBJ before = SelectObject(device, font);
-    TEXTMETRICA metrics{};
-    GetTextMetricsA(device, &metrics);
-    SelectObject(device, before);
-    ReleaseDC(WindowOf(list), device);
-    return metrics;
-}
-
 // About as much as the longest text needs; when a line that is drawn turns out to be wider, the list learns it then.
 int TextExtent(const VirtualList& list) {
-    const TEXTMETRICA metrics = MetricsOf(list, FontFor(list.FontUsed(), DpiOf(list)));
+    const TEXTMETRICA metrics = MetricsOf(FontFor(list.FontUsed(), DpiOf(list)));
     const int width = std::max<int>(metrics.tmAveCharWidth, 1);
     constexpr int kWidest = 1 << 26;  // pixels; coordinates end at twice that
     const auto characters = static_cast<int>(std::min<size_t>(list.LongestText(), kWidest / width));
@@ -158,7 +148,7 @@ void SetListFont(const VirtualList& list, HFONT font) {
     if (reinterpret_cast<HFONT>(Send(list, WM_GETFONT)) == font) return;
     const Unpainted unpainted(list);
     Send(list, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
-    Send(list, LB_SETITEMHEIGHT, 0, MetricsOf(list, font).tmHeight);
+    Send(list, LB_SETITEMHEIGHT, 0, MetricsOf(font).tmHeight);
     Send(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(TextExtent(list)));
 }
 

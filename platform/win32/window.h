@@ -49,6 +49,10 @@ inline bool Pressed(int key) {
 RECT ToPixels(const Bounds& place, int dpi);
 int DpiOf(const Control& control);
 
+// The height, in pixels, of a box that holds one line of text: borders do not grow with the DPI, and in a box that is
+// higher than its line the text would stand higher than the label beside it.
+int LineBoxHeight(const Control& control);
+
 // controls.cpp: windows from the state of controls.
 void CreateControls(Container& container);  // those that are visible
 void CreateControl(Control& control);
