@@ -1,5 +1,6 @@
 #include "logedit/frmlogedit.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -59,6 +60,10 @@ protected:
         Button& button = Find<Button>(*form_, caption);
         Click(button);
         return button;
+    }
+    // A timer of the window is to do it.
+    static void WaitFor(const std::function<bool()>& done) {
+        for (int i = 0; i < 500 && !done(); ++i) WaitForEvents(60);
     }
     void Tick(const char* caption) { Click(Find<CheckBox>(*form_, caption)); }
     StatusBar& Status() { return Find<StatusBar>(*form_, ""); }
@@ -157,12 +162,9 @@ TEST_F(LogEditTest, TheKeyboardSelectsCopiesAndDeletes) {
 TEST_F(LogEditTest, FiltersByWordsDeletesAndGoesBack) {
     Open(path_);
     auto& words = Find<TextBox>(*form_, "");
-    const auto wait = [] {
-        for (int i = 0; i < 6; ++i) WaitForEvents(60);
-    };
     ClickItem(Log(), 4);
     Type(words, "\"C\" -two");
-    wait();
+    WaitFor([this] { return Log().Count() == 2; });
     EXPECT_EQ(Shown(Log()), (Lines{"  Welcome", "  Cy> four BO"}));
     EXPECT_TRUE(Log().Selection().IsSelected(1)) << "the line stays selected";
     EXPECT_EQ(ShownSecondText(Status()), "Log Lines = 2");
@@ -181,7 +183,7 @@ TEST_F(LogEditTest, FiltersByWordsDeletesAndGoesBack) {
     EXPECT_EQ(Log().Count(), 1u);
     words.SetFocus();
     quirn::test::Press(*form_, kKeyEscape);
-    wait();
+    WaitFor([this] { return Log().Count() == 4; });
     EXPECT_EQ(words.Text(), "");
     EXPECT_EQ(Log().Count(), 4u);
     Press("Apply Filter");
@@ -192,9 +194,6 @@ TEST_F(LogEditTest, FiltersByWordsDeletesAndGoesBack) {
 }
 
 TEST_F(LogEditTest, FollowsALogAndKeepsWhatThePlayerChose) {
-    const auto wait = [] {
-        for (int i = 0; i < 12; ++i) WaitForEvents(60);
-    };
     const auto news = [this] { return Find<Label>(*form_, "Following").Text(); };
     Open(path_);
     ClickItem(List("Include"), 2);
@@ -205,22 +204,22 @@ TEST_F(LogEditTest, FollowsALogAndKeepsWhatThePlayerChose) {
     Choose(*form_, mnuView_Follow);
     EXPECT_EQ(news(), "Following");
     PutFile(path_, std::string(kLog) + "  Bo> six\r\n  Cy> hidden too\r\n  New> hal");
-    wait();
+    WaitFor([this] { return Log().Count() == 4; });
     EXPECT_EQ(Shown(Log()), (Lines{"  Bo> one", "T Ann> three", "  Welcome", "  Bo> six"}));
     EXPECT_TRUE(Log().Selection().IsSelected(1));
     EXPECT_EQ(Shown(List("Exclude")), Lines{"Cy"});
     PutFile(path_, std::string(kLog) + "  Bo> six\r\n  Cy> hidden too\r\n  New> half\r\n");
-    wait();
+    WaitFor([this] { return Log().Count() == 5; });
     EXPECT_EQ(Shown(Log()).back(), "  New> half");
     EXPECT_EQ(Shown(List("Include")), (Lines{"Ann", "Bo", "Dee", "New"}));
     PutFile(path_, "  Bo> anew\r\n  Cy> hidden\r\n");
-    wait();
+    WaitFor([this] { return Log().Count() == 1; });
     EXPECT_EQ(Shown(Log()), Lines{"  Bo> anew"}) << "a shorter file is read from its start";
     edit_.Forget();
     Choose(*form_, mnuView_Reload);
     EXPECT_EQ(Shown(Log()), Lines{"  Bo> anew"});
     RemoveFile(path_);
-    wait();
+    WaitFor([this] { return !form_->MenuBar()->Find(mnuView_Follow)->checked; });
     EXPECT_EQ(Find<Label>(*form_, "Not followed").Text(), "Not followed any more: the file is gone");
     EXPECT_FALSE(form_->MenuBar()->Find(mnuView_Follow)->checked);
 }
