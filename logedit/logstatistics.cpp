@@ -35,7 +35,8 @@ public:
             ++found_[player - 1].lines;
             Saw(found_[player - 1], line);
         }
-        if (TypeOf(info) != kKill) return;
+        // A player who quotes a kill has killed nobody.
+        if (TypeOf(info) != kKill || PlayerOf(info) != 0) return;
         const Kill kill = ReadKill(log_.Line(line));
         if (kill.victim.empty() || kill.killer.empty()) return;
         PlayerStatistics& victim = Player(kill.victim);

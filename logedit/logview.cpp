@@ -77,6 +77,8 @@ Result<size_t> LogView::Extend(size_t lines, size_t players) {
 
 void LogView::Recompute() {
     if (!log_) return;
+    // A log that grew may have more lines than there was memory for: it stays as it is shown.
+    if (log_->LineCount() > room_ && !MakeRoom(log_->LineCount(), count_)) return;
     passed_ = FilterLines(*log_, all_ ? LineFilter{*all_, {}} : filter_, shown_.get());
     undeleted_ = passed_;
     if (!deletions_.IsEmpty()) {

@@ -149,7 +149,8 @@ TEST_F(LogViewTest, AGrowingLogIsWhatOneReadGives) {
 // Against a plain reading of the lines; names may hold brackets, and some players only kill or die.
 TEST_F(LogViewTest, CountsLinesKillsAndDeaths) {
     Open(GenerateLog({200000, 60, 11}) +
-         "  Bob [x](3)(10)(230) killed by: CID\r\n    Mole(25) killed by: Orla (2)\r\n  Cid> hello\r\n");
+         "  Bob [x](3)(10)(230) killed by: CID\r\n    Mole(25) killed by: Orla (2)\r\n  Cid> hello\r\n"
+         "  Cid> look: Quoted(25) killed by: Nobody\r\n");
     struct Counts {
         size_t lines = 0, kills = 0, deaths = 0;
         bool operator==(const Counts&) const = default;
@@ -161,7 +162,7 @@ TEST_F(LogViewTest, CountsLinesKillsAndDeaths) {
         std::smatch match;
         static const std::regex kKillLine(R"(..\s*(.+?)(?:\(\d+\)){1,2} killed by: (.*\S)\s*)");
         const std::string line(log->Line(i));
-        if (TypeOf(info) != kKill || !std::regex_match(line, match, kKillLine)) continue;
+        if (TypeOf(info) != kKill || PlayerOf(info) != 0 || !std::regex_match(line, match, kKillLine)) continue;
         ++expected[FoldCase(match[1].str())].deaths;
         ++expected[FoldCase(match[2].str())].kills;
     }
@@ -173,6 +174,7 @@ TEST_F(LogViewTest, CountsLinesKillsAndDeaths) {
     }
     ASSERT_EQ(counted.size(), expected.size());
     for (const auto& [name, counts] : expected) EXPECT_EQ(counted[name], counts) << name;
+    EXPECT_FALSE(counted.contains("NOBODY"));
     EXPECT_EQ(ReadKill("  Bob [x](3)(10)(230) killed by: CID").victim, "Bob [x](3)");
 }
 
