@@ -335,9 +335,9 @@ void frmLogEdit::SelectAll() {
 }
 
 void frmLogEdit::CopySelected() {
+    if (!players_.HasFocus()) return CopyLines();
     const std::string text = players_.SelectedText();
-    if (text.empty()) CopyLines();
-    else ShowError(SetClipboardText(text));
+    if (!text.empty()) ShowError(SetClipboardText(text));
 }
 
 void frmLogEdit::CopyLines() {

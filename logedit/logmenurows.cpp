@@ -114,7 +114,7 @@ std::vector<MenuRow> frmLogEdit::PlayersPopupRows() {
         {mnuInExPopup_Invert, 1, "Invert Selection", "", "Invert all selected (highlighted) items in this list",
             [this] { players_.mnuInExPopup_Invert_Click(); }},
         {mnuInExPopup_Only, 1, "Only These", "", "Include the selected players only",
-            [this] { mnuInExPopup_Only_Click(); }, [this] { return players_.HasSelected(); }},
+            [this] { mnuInExPopup_Only_Click(); }, [this] { return players_.CanShowOnly(); }},
     };
 }
 // clang-format on

@@ -47,7 +47,7 @@ PlayerPanel::PlayerPanel(Form& form, LogEdit& edit, Anchors& anchors)
         list->itemData = [&players](size_t item) { return static_cast<int32_t>(players.Number(item)); };
         list->onRightMouseDown = [this, list] {
             popupList_ = list;
-            if (list->Selection().SelectedCount() == 0 && list->Pointed()) list->Select(*list->Pointed());
+            pointed_ = list->Pointed() ? PlayersOf(*list).Number(*list->Pointed()) : 0;
             if (onPopUp) onPopUp();
         };
     }
@@ -89,7 +89,9 @@ void PlayerPanel::UpdateListCounts() {
 
 void PlayerPanel::KeyPress(char character) {
     for (VirtualList* list : {&lstInclude, &lstExclude}) {
-        if (!list->HasFocus() || static_cast<unsigned char>(character) <= ' ' || list->Count() == 0) continue;
+        // A blank is part of a name, but does not begin one.
+        const char lowest = typed_.empty() ? ' ' + 1 : ' ';
+        if (!list->HasFocus() || static_cast<unsigned char>(character) < lowest || list->Count() == 0) continue;
         const size_t current = list->Current().value_or(list->Count() - 1);
         typed_ += character;
         // The name that one is at may be the one that is meant; a single character goes on to the next.
@@ -121,9 +123,8 @@ bool PlayerPanel::GoTo(VirtualList& list, size_t from, const std::string& start)
 }
 
 void PlayerPanel::ShowOnly(const std::vector<uint32_t>& numbers) {
-    const auto isWanted = [&](uint32_t number) {
-        return std::find(numbers.begin(), numbers.end(), number) != numbers.end();
-    };
+    const std::set<uint32_t> wanted(numbers.begin(), numbers.end());
+    const auto isWanted = [&](uint32_t number) { return wanted.contains(number); };
     MoveNumbers(edit_.include, edit_.exclude, [&](uint32_t number) { return !isWanted(number); });
     MoveNumbers(edit_.exclude, edit_.include, isWanted);
     Show();
@@ -167,6 +168,7 @@ void PlayerPanel::mnuInExPopup_Only_Click() {
     const PlayerList& players = PlayersOf(*popupList_);
     std::vector<uint32_t> numbers;
     popupList_->Selection().ForEach([&](size_t item) { numbers.push_back(players.Number(item)); });
+    if (numbers.empty()) numbers.push_back(pointed_);
     ShowOnly(numbers);
 }
 
@@ -178,6 +180,12 @@ void PlayerPanel::mnuInExPopup_Invert_Click() {
     ListSelection other = popupList_->Selection();
     other.Invert();
     popupList_->SetSelection(other);
+}
+
+bool PlayerPanel::Includes(uint32_t number) const {
+    for (size_t i = 0; i < edit_.include.Count(); ++i)
+        if (edit_.include.Number(i) == number) return true;
+    return false;
 }
 
 std::string PlayerPanel::SelectedText() {

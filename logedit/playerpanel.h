@@ -32,11 +32,13 @@ public:
     void Everyone();
     void FillAgain();                // with the players of a log that was read again; who was excluded by name stays so
     void AddNew(size_t known);       // of a log that has grown, those behind the first so many
-    void mnuInExPopup_Only_Click();  // the selected ones of the list that was clicked
-    bool HasSelected() const { return popupList_->Selection().SelectedCount() > 0; }
+    void mnuInExPopup_Only_Click();  // the selected ones of the list that was clicked, or the one under the pointer
+    bool CanShowOnly() const { return pointed_ != 0 || popupList_->Selection().SelectedCount() > 0; }
     void mnuInExPopup_All_Click();  // the commands of the menu
     void mnuInExPopup_Invert_Click();
+    bool HasFocus() const { return lstInclude.HasFocus() || lstExclude.HasFocus(); }
     std::string SelectedText();  // of the list that has the keyboard, CR LF between names; else empty
+    bool Includes(uint32_t number) const;
 
 private:
     void cmdIn_Click();
@@ -49,6 +51,7 @@ private:
 
     LogEdit& edit_;
     VirtualList* popupList_;  // that mnuInExPopup was opened on
+    uint32_t pointed_ = 0;    // the player that it was opened at; 0: none
     std::string typed_;       // the characters of the last second
     Timer typing_;
 

@@ -131,6 +131,11 @@ TEST_F(LogEditTest, ThePopupsSelectAndDelete) {
     Press(">>");
     Press("Apply Filter");
     EXPECT_EQ(Shown(Log()), Lines{"  Welcome"});
+    ChooseFromPopup(List("Exclude"), 1);
+    EXPECT_EQ(List("Exclude").Selection().SelectedCount(), 4u) << "the menu alone selects nothing";
+    Press("<<");
+    ChooseFromPopup(include, 2);  // "Only These"
+    EXPECT_EQ(Shown(include), Lines{"Ann"}) << "the name at the pointer";
 
     Open(path_);
     ClickItem(Log(), 1);
@@ -157,6 +162,10 @@ TEST_F(LogEditTest, TheKeyboardSelectsCopiesAndDeletes) {
     quirn::test::Press(*form_, 'A', true);
     quirn::test::Press(*form_, 'C', true);
     EXPECT_EQ(Clipboard(), "Ann\r\nBo\r\nCy\r\nDee");
+    ClickItem(Log(), 0);
+    List("Exclude").SetFocus();
+    quirn::test::Press(*form_, 'C', true);
+    EXPECT_EQ(Clipboard(), "Ann\r\nBo\r\nCy\r\nDee") << "no lines while a list of players has the keyboard";
 }
 
 TEST_F(LogEditTest, FiltersByWordsDeletesAndGoesBack) {
