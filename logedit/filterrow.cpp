@@ -18,6 +18,10 @@ constexpr Bounds kNews{  9240, 7590,  2510, kLabelHeight};
 constexpr int kPause = 200;  // milliseconds
 constexpr int kKeyDown = 40;
 
+std::string Shown(size_t count, size_t all) {
+    return std::to_string(count) + " of " + std::to_string(all) + (all == 1 ? " line" : " lines");
+}
+
 std::string WhyHidden(const LogView::Hidden& hidden) {
     std::string text;
     const auto add = [&](size_t count, const char* why) {
@@ -56,14 +60,15 @@ FilterRow::FilterRow(Form& form, Anchors& anchors)
     Reset();
 }
 
+void FilterRow::FocusText() {
+    txtFilter.SetFocus();
+    txtFilter.SelectAll();
+}
+
 void FilterRow::Reset() {
     pause_.SetEnabled(false);
     txtFilter.SetText("");
-    lblCounts.SetText("");
-    lblCounts.SetToolTip("");
     lblNews.SetText("");
-    cmdShowAll.SetText("Show &All");
-    cmdShowAll.SetEnabled(false);
 }
 
 bool FilterRow::KeyDown(int key) {
@@ -76,11 +81,9 @@ bool FilterRow::KeyDown(int key) {
 
 void FilterRow::ShowCounts(const LogView& view) {
     cmdShowAll.SetEnabled(view.Log() != nullptr);
-    cmdShowAll.SetText(view.ShowsAll() ? "Show &Filtered" : "Show &All");
-    if (view.Log() == nullptr) return;
-    const size_t all = view.Log()->LineCount();
-    lblCounts.SetText(std::to_string(view.Count()) + " of " + std::to_string(all) + (all == 1 ? " line" : " lines"));
-    lblCounts.SetToolTip(WhyHidden(view.CountHidden()));
+    cmdShowAll.SetText(view.ShowsAll() ? "Show Fil&tered" : "Show &All");
+    lblCounts.SetText(view.Log() == nullptr ? "" : Shown(view.Count(), view.Log()->LineCount()));
+    lblCounts.SetToolTip(view.Log() == nullptr ? "" : WhyHidden(view.CountHidden()));
 }
 
 void FilterRow::ShowNews(const std::string& text) {

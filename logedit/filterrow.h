@@ -20,8 +20,8 @@ public:
     std::function<void()> onShowAll;
     std::function<void()> onDown;  // the keyboard goes on to the lines
 
-    void Reset();  // as without a log; the box is empty
-    void FocusText() { txtFilter.SetFocus(); }
+    void Reset();           // the box is empty, no news
+    void FocusText();       // what stands there is selected
     bool KeyDown(int key);  // of the form; true swallows it
     void ShowCounts(const LogView& view);
     void ShowNews(const std::string& text);  // of a log that is followed

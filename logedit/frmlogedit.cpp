@@ -47,6 +47,8 @@ constexpr int kLogFiles = 2;  // in the filter
 constexpr char kLoaded[] = "Log file has been loaded";
 constexpr char kLoadFailed[] = "ERROR loading log file";
 constexpr char kSaved[] = "File has been saved";
+constexpr char kHowToBegin[] = "Open a log with Ctrl+O, or drop one here.";
+constexpr char kAllHidden[] = "All lines are hidden or deleted.";
 
 }  // namespace
 
@@ -82,7 +84,6 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
     lstLog.itemText = [this](size_t item) { return edit_.view.Text(item); };
     lstLog.itemData = [this](size_t item) { return edit_.view.Info(item); };
     lstLog.itemMarks = [this](size_t item) { return edit_.view.TextFiltered().Marks(edit_.view.Text(item)); };
-    lstLog.SetEmptyText("Open a log with Ctrl+O, or drop one here.");
     lstLog.onRightMouseDown = [this] { lstLog_MouseDown(); };
     row_.onText = [this](const std::string& text) { commands_.FilterByText(text); };
     row_.onShowAll = [this] { commands_.ShowAll(); };
@@ -113,6 +114,7 @@ void frmLogEdit::Form_Load() {
     edit_.view.SetText({});
     players_.Reset();
     lstLog.SetCount(0, 0);
+    ShowCounts();
     edit_.applyAtOnce = edit_.lineNumbers = edit_.keepDeletedOut = edit_.showUnknown = false;
     for (const int command : {mnuOptions_Apply, mnuOptions_LineNums, mnuEdit_Keep, mnuView_Unknown, mnuView_All})
         menuBar_.SetChecked(command, false);
@@ -353,6 +355,7 @@ void frmLogEdit::ShowLog() {
 void frmLogEdit::ShowCounts() {
     StatusBar1.SetSecondText(edit_.view.CountText());
     menuBar_.SetChecked(mnuView_All, edit_.view.ShowsAll());
+    lstLog.SetEmptyText(commands_.HasLog() ? kAllHidden : kHowToBegin);
     row_.ShowCounts(edit_.view);
 }
 

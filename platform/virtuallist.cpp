@@ -76,6 +76,7 @@ void VirtualList::SelectionRemoved(size_t longestText) {
 }
 
 void VirtualList::SetEmptyText(const std::string& text) {
+    if (text == emptyText_) return;
     emptyText_ = text;
     Changed(Aspect::Colors);  // painted anew
 }

@@ -184,7 +184,7 @@ TEST_F(LogEditTest, FiltersByWordsDeletesAndGoesBack) {
     EXPECT_EQ(Shown(Log()), Lines{"  Welcome"});
     Press("Show &All");
     EXPECT_EQ(Log().Count(), 4u) << "what is deleted stays so";
-    Press("Show &Filtered");
+    Press("Show Fil&tered");
     Choose(*form_, mnuEdit_Undo);
     EXPECT_EQ(Shown(Log()), (Lines{"  Welcome", "  Cy> four BO"}));
     EXPECT_TRUE(Log().Selection().IsSelected(1));
