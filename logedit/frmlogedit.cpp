@@ -1,16 +1,12 @@
 #include "logedit/frmlogedit.h"
 
-#include <algorithm>
-
 #include "auxiliary/menuhelp.h"
-#include "logedit/logfind.h"
 #include "logedit/logmenurows.h"
 #include "logedit/logsave.h"
 #include "logedit/logsettings.h"
 #include "platform/clipboard.h"
 #include "platform/dialogs.h"
 #include "platform/measures.h"
-#include "platform/text.h"
 #include "platform/version.h"
 #include "profile/splitpath.h"
 
@@ -69,7 +65,7 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
       StatusBar1(*this, kCountPanelWidth),
       commands_(edit, lstLog, players_, [this] { ShowCounts(); }),
       follow_(*this, edit, lstLog, players_, commands_, row_),
-      find_([this](const std::string& text) { FindInLog(text); }, edit.lastSearch),
+      find_([this](const std::string& text) { commands_.FindNext(text); }, edit.lastSearch),
       statistics_([this](bool shownOnly) { return commands_.CountPlayers(shownOnly); },
                   [this](const std::string& player) { commands_.OnlyPlayer(player); }) {
     for (size_t i = 0; i < kFilterBoxCount; ++i) {
@@ -83,7 +79,7 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
     lstLog.SetFont({.face = "Courier New", .points = 9});
     lstLog.itemText = [this](size_t item) { return edit_.view.Text(item); };
     lstLog.itemData = [this](size_t item) { return edit_.view.Info(item); };
-    lstLog.itemMarks = [this](size_t item) { return edit_.view.TextFiltered().Marks(edit_.view.Text(item)); };
+    lstLog.itemMarks = [this](size_t item) { return edit_.view.Marks(item); };
     lstLog.onRightMouseDown = [this] { lstLog_MouseDown(); };
     row_.onText = [this](const std::string& text) { commands_.FilterByText(text); };
     row_.onShowAll = [this] { commands_.ShowAll(); };
@@ -113,8 +109,7 @@ void frmLogEdit::Form_Load() {
     edit_.view.Clear();
     edit_.view.SetText({});
     players_.Reset();
-    lstLog.SetCount(0, 0);
-    ShowCounts();
+    commands_.ShowAnew();
     edit_.applyAtOnce = edit_.lineNumbers = edit_.keepDeletedOut = edit_.showUnknown = false;
     for (const int command : {mnuOptions_Apply, mnuOptions_LineNums, mnuEdit_Keep, mnuView_Unknown, mnuView_All})
         menuBar_.SetChecked(command, false);
@@ -226,7 +221,7 @@ void frmLogEdit::mnuSearch_Find_Click() {
 void frmLogEdit::FindAgain(bool upwards) {
     if (edit_.lastSearch.empty()) mnuSearch_Find_Click();
     else if (upwards) commands_.FindPrevious(edit_.lastSearch);
-    else FindInLog(edit_.lastSearch);
+    else commands_.FindNext(edit_.lastSearch);
 }
 
 void frmLogEdit::mnuView_Statistics_Click() {
@@ -235,7 +230,7 @@ void frmLogEdit::mnuView_Statistics_Click() {
 
 void frmLogEdit::mnuView_Unknown_Click() {
     Toggle(mnuView_Unknown, edit_.showUnknown);
-    if (commands_.HasLog()) ApplyLogFilter();
+    if (commands_.HasLog()) commands_.ApplyPlayers();
 }
 
 void frmLogEdit::mnuInExPopup_Only_Click() {
@@ -290,7 +285,7 @@ void frmLogEdit::OpenLog(const std::string& path) {
     // Without a file, or with one that cannot be opened, the lists stay as they are.
     if (begun) {
         players_.Show();
-        ShowLog();
+        commands_.ShowAnew();
     }
     if (!result.Loaded()) {
         StatusBar1.SetText(kLoadFailed);
@@ -311,23 +306,7 @@ void frmLogEdit::ApplyLogFilter() {
     progress_.SetValue(highest);
     progress_.Hide();
     if (failure) ShowError(failure);
-    else ShowLog();
-}
-
-void frmLogEdit::FindInLog(const std::string& text) {
-    const FindList list{
-        .topIndex = [this] { return lstLog.TopIndex(); },
-        .current = [this] { return lstLog.Current(); },
-        .showHit =
-            [this](size_t item) {
-                lstLog.SetTopIndex(item);
-                lstLog.SetCurrent(item);
-                lstLog.Select(item);
-            },
-    };
-    const bool moved = quirn::FindInLog(edit_.view, text, list);
-    edit_.lastSearch = text;
-    if (!moved) ShowMessage(CannotFindText(text), kInformation);
+    else commands_.ShowAnew();
 }
 
 // In the list that has the keyboard; from the menu, the lines when none has it.
@@ -345,11 +324,6 @@ void frmLogEdit::CopySelected() {
 void frmLogEdit::CopyLines() {
     const std::string text = edit_.view.SelectedText(lstLog.Selection());
     if (!text.empty()) ShowError(SetClipboardText(text));
-}
-
-void frmLogEdit::ShowLog() {
-    lstLog.SetCount(edit_.view.Count(), edit_.view.LongestText());
-    ShowCounts();
 }
 
 void frmLogEdit::ShowCounts() {

@@ -51,12 +51,10 @@ private:
 
     void OpenLog(const std::string& path);
     void ApplyLogFilter();
-    void FindInLog(const std::string& text);
     void SelectAll();
     void CopySelected();
     void CopyLines();
     void lstLog_MouseDown();
-    void ShowLog();
     void ShowCounts();
 
     const std::string& gameFolder_;

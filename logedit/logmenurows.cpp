@@ -99,7 +99,7 @@ std::vector<MenuRow> frmLogEdit::LogPopupRows() {
         {mnuLogEditPopup_Only, 1, "Only This Player", "", "Show only this player's lines and those of nobody",
             [this] { commands_.OnlySpeaker(); }, [this] { return commands_.HasSpeaker(); }},
         {mnuLogEditPopup_Hide, 1, "Hide This Player", "", "Hide this player's lines",
-            [this] { commands_.HideSpeaker(); }, [this] { return commands_.HasSpeaker(); }},
+            [this] { commands_.HideSpeaker(); }, [this] { return commands_.CanHideSpeaker(); }},
         {mnuLogEditPopup_Everyone, 1, "Everyone Again", "", "Show the lines of all players",
             [this] { commands_.Everyone(); }, [this] { return edit_.exclude.Count() > 0; }},
     };

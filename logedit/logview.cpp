@@ -37,11 +37,12 @@ size_t LogView::LongestText() const {
 
 Failure LogView::ApplyLogFilter(std::shared_ptr<const ParsedLog> log, uint32_t mask, const PlayerList& include,
                                 const PlayerList& exclude, bool lineNumbers, bool keepDeletedOut) {
-    if (log != log_ || !keepDeletedOut) deletions_.Clear();
-    if (log != log_ || log->LineCount() > room_) {
+    const bool another = log != log_;
+    if (another || log->LineCount() > room_) {
         if (!MakeRoom(log->LineCount(), 0)) return MakeError(ErrorNumber::OutOfMemory);
         log_ = std::move(log);
     }
+    if (another || !keepDeletedOut) deletions_.Clear();
     filter_ = MakeLineFilter(mask, include, exclude);
     all_.reset();
     Recompute();
@@ -107,8 +108,21 @@ void LogView::ShowAll(std::optional<uint32_t> mask) {
     Recompute();
 }
 
-size_t LogView::ItemOfLine(size_t line) const {
-    return static_cast<size_t>(std::lower_bound(shown_.get(), shown_.get() + count_, line) - shown_.get());
+size_t LogView::ItemOfLine(size_t line, size_t from) const {
+    const uint32_t* const lines = shown_.get();
+    size_t end = from;
+    for (size_t step = 1; end < count_ && lines[end] < line; step *= 2) {
+        from = end + 1;
+        end += step;
+    }
+    return static_cast<size_t>(std::lower_bound(lines + from, lines + std::min(end, count_), line) - lines);
+}
+
+// Line numbers are no part of the line.
+std::vector<std::pair<size_t, size_t>> LogView::Marks(size_t item) const {
+    std::vector<std::pair<size_t, size_t>> marks = text_.Marks(Line(item));
+    for (auto& mark : marks) mark.first += tags_ ? tags_->Length() : 0;
+    return marks;
 }
 
 LogView::Restored LogView::Undo() {
@@ -116,9 +130,10 @@ LogView::Restored LogView::Undo() {
     Recompute();
     Restored restored{{}, ItemOfLine(step.top)};
     restored.selection.Reset(count_);
+    size_t end = 0;
     for (const Deletions::Range& range : step.lines) {
-        const size_t first = ItemOfLine(range.first);
-        const size_t end = ItemOfLine(range.end);
+        const size_t first = ItemOfLine(range.first, end);
+        end = ItemOfLine(range.end, first);
         if (first < end) restored.selection.SelectRange(first, end - 1, true);
     }
     return restored;

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "logedit/deletions.h"
 #include "logedit/linesearch.h"
@@ -44,7 +46,11 @@ public:
     const ParsedLog* Log() const { return log_.get(); }  // null when nothing is shown
 
     LinesOfLog Lines() const { return {*log_, shown_.get(), count_}; }  // not when nothing is shown
-    size_t ItemOfLine(size_t line) const;  // the first item of this line or a later one; Count() when there is none
+    // The first item, from one on, of this line or a later one; Count() when there is none. Near ones are tried first.
+    size_t ItemOfLine(size_t line, size_t from = 0) const;
+
+    // Where the wanted words of the text filter stand in an item's text: first byte and length.
+    std::vector<std::pair<size_t, size_t>> Marks(size_t item) const;
 
     // The longest text that an item of this log can have, in bytes: for the list's horizontal extent.
     size_t LongestText() const;
@@ -65,7 +71,6 @@ public:
 
     // On top of types and players, as they were applied last.
     void SetText(TextFilter text);
-    const TextFilter& TextFiltered() const { return text_; }
 
     // Shows the lines of all these types, whoever speaks and whatever they say, until the filter is applied anew or
     // nothing is given.

@@ -18,6 +18,12 @@ constexpr Color kWhite = Rgb(255, 255, 255);
 ViewCommands::ViewCommands(LogEdit& edit, VirtualList& list, PlayerPanel& players, std::function<void()> shown)
     : edit_(edit), list_(list), players_(players), shown_(std::move(shown)) {}
 
+void ViewCommands::ShowAnew() {
+    emptied_ = {};
+    list_.SetCount(edit_.view.Count(), edit_.view.LongestText());
+    shown_();
+}
+
 void ViewCommands::Delete() {
     edit_.view.Delete(list_.Selection(), list_.TopIndex());
     list_.SelectionRemoved(edit_.view.LongestText());
@@ -33,10 +39,9 @@ void ViewCommands::Redo() {
 }
 
 void ViewCommands::Restore(const LogView::Restored& restored) {
-    list_.SetCount(edit_.view.Count(), edit_.view.LongestText());
+    ShowAnew();
     list_.SetSelection(restored.selection);
     list_.SetTopIndex(restored.top);
-    shown_();
 }
 
 void ViewCommands::KeepPlace(const std::function<void()>& change) {
@@ -48,15 +53,20 @@ void ViewCommands::KeepPlace(const std::function<void()>& change) {
     if (kept.selects) list_.SetSelection(ItemsOf(kept.selected));
     if (kept.current != kNoLine && view.Count() > 0)
         list_.SetCurrent(std::min(view.ItemOfLine(kept.current), view.Count() - 1));
-    list_.SetTopIndex(view.ItemOfLine(kept.top));
+    const size_t anchor = view.ItemOfLine(kept.anchor);
+    list_.SetTopIndex(anchor - std::min(anchor, kept.above));
+    emptied_ = view.Count() == 0 ? kept : LinesInPlace();
     shown_();
 }
 
 ViewCommands::LinesInPlace ViewCommands::Remember() const {
     const LogView& view = edit_.view;
+    if (view.Count() == 0) return emptied_;
     LinesInPlace kept;
-    if (view.Count() == 0) return kept;
-    kept.top = view.LineIndex(std::min(list_.TopIndex(), view.Count() - 1));
+    const size_t top = std::min(list_.TopIndex(), view.Count() - 1);
+    const size_t anchor = CurrentInSight().value_or(top);
+    kept.anchor = view.LineIndex(anchor);
+    kept.above = anchor - top;
     if (list_.Current()) kept.current = view.LineIndex(*list_.Current());
     kept.selects = list_.Selection().SelectedCount() > 0;
     if (!kept.selects) return kept;
@@ -65,13 +75,19 @@ ViewCommands::LinesInPlace ViewCommands::Remember() const {
     return kept;
 }
 
+std::optional<size_t> ViewCommands::CurrentInSight() const {
+    const std::optional<size_t> current = list_.Current();
+    return current && list_.Shows(*current) ? current : std::nullopt;
+}
+
 // Those that are still shown.
 ListSelection ViewCommands::ItemsOf(const ListSelection& lines) const {
     const LogView& view = edit_.view;
     ListSelection items;
     items.Reset(view.Count());
+    size_t item = 0;
     lines.ForEach([&](size_t line) {
-        const size_t item = view.ItemOfLine(line);
+        item = view.ItemOfLine(line, item);
         if (item < view.Count() && view.LineIndex(item) == line) items.Select(item, true);
     });
     return items;
@@ -89,9 +105,25 @@ void ViewCommands::ShowAll() {
     KeepPlace([this] { edit_.view.ShowAll(edit_.view.ShowsAll() ? std::nullopt : std::optional(edit_.KnownTypes())); });
 }
 
+void ViewCommands::FindNext(const std::string& text) {
+    const FindList list{
+        .topIndex = [this] { return list_.TopIndex(); },
+        .current = [this] { return list_.Current(); },
+        .showHit =
+            [this](size_t item) {
+                list_.SetTopIndex(item);
+                list_.SetCurrent(item);
+                list_.Select(item);
+            },
+    };
+    const bool moved = FindInLog(edit_.view, text, list);
+    edit_.lastSearch = text;
+    if (!moved) ShowMessage(CannotFindText(text), kInformation);
+}
+
 // With a rule of its own: also a hit in the last screenful, or one that is in sight already, is selected.
 void ViewCommands::FindPrevious(const std::string& text) {
-    const std::optional<size_t> hit = FindItemBefore(edit_.view, text, list_.Current().value_or(list_.TopIndex()));
+    const std::optional<size_t> hit = FindItemBefore(edit_.view, text, CurrentInSight().value_or(list_.TopIndex()));
     if (!hit) {
         ShowMessage(CannotFindText(text), kInformation);
         return;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "logedit/filterrow.h"
@@ -22,44 +23,51 @@ public:
     bool CanUndo() const { return edit_.view.CanUndo(); }
     bool CanRedo() const { return edit_.view.CanRedo(); }
     bool HasSpeaker() const { return Speaker() != 0; }
+    bool CanHideSpeaker() const { return players_.Includes(Speaker()); }
+
+    void ShowAnew();  // other lines: the list begins at its start, nothing is selected
 
     void Delete();
     void Undo();
     void Redo();
     void FilterByText(const std::string& text);
     void ShowAll();  // and, when all is shown, what the filters leave
+    void FindNext(const std::string& text);
     void FindPrevious(const std::string& text);
     std::vector<PlayerStatistics> CountPlayers(bool shownOnly) const;
     void OnlyPlayer(const std::string& name);
     void OnlySpeaker();  // of the line at the keyboard
     void HideSpeaker();
     void Everyone();
+    void ApplyPlayers();  // leaves deleted lines deleted
     void ChooseLogFont();
     void ChooseLogColor(bool foreground);
 
-    // Does something to the view; the first line in sight, the line at the keyboard and the selected lines stay what
-    // they are as far as they are still shown.
+    // Does something to the view; the selected lines and the one at the keyboard stay what they are as far as they are
+    // still shown. That one, or the first one when it is not in sight, stays where it is too.
     void KeepPlace(const std::function<void()>& change);
 
 private:
     static constexpr size_t kNoLine = SIZE_MAX;
     struct LinesInPlace {
-        size_t top = 0;
+        size_t anchor = 0;  // the line that stays where it is
+        size_t above = 0;   // so many rows are over it
         size_t current = kNoLine;
         bool selects = false;
         ListSelection selected;
     };
 
     LinesInPlace Remember() const;
+    std::optional<size_t> CurrentInSight() const;
     ListSelection ItemsOf(const ListSelection& lines) const;
     uint32_t Speaker() const;  // 0: nobody
     void Restore(const LogView::Restored& restored);
-    void ApplyPlayers();
 
     LogEdit& edit_;
     VirtualList& list_;
     PlayerPanel& players_;
     std::function<void()> shown_;
+    LinesInPlace emptied_;  // while nothing is shown: what there was before
 };
 
 }  // namespace quirn

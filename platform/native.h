@@ -62,7 +62,7 @@ bool IsOpen(const ComboBox& box);  // its list has dropped down
 void ReadSelection(const VirtualList& list, ListSelection& selection);
 size_t TopIndex(const VirtualList& list);
 void SetTopIndex(VirtualList& list, size_t item);
-bool ShowsEnd(const VirtualList& list);
+size_t RowsInSight(const VirtualList& list);  // whole ones
 void ReadSelection(const Table& table, ListSelection& selection, std::optional<size_t>& current);
 void ScrollTo(Table& table, size_t row);
 

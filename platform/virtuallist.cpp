@@ -59,8 +59,8 @@ void VirtualList::SetTopIndex(size_t item) {
     if (window != nullptr) native::SetTopIndex(*this, item);
 }
 
-bool VirtualList::ShowsEnd() const {
-    return count_ == 0 || window == nullptr || native::ShowsEnd(*this);
+bool VirtualList::Shows(size_t item) const {
+    return window == nullptr || (item >= TopIndex() && item - TopIndex() < native::RowsInSight(*this));
 }
 
 void VirtualList::SelectionRemoved(size_t longestText) {

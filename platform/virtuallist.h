@@ -32,7 +32,8 @@ public:
     std::optional<size_t> Pointed() const { return pointed_; }
     size_t TopIndex() const;  // the first visible item
 
-    bool ShowsEnd() const;  // the last item is in sight, or there is none
+    bool Shows(size_t item) const;  // it is in sight, the whole of it
+    bool ShowsEnd() const { return count_ == 0 || Shows(count_ - 1); }
 
     // Other items: nothing is selected, none is current, and the list is scrolled to its start. longestText: the most
     // bytes that an item has, for scrolling sideways.

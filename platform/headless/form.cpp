@@ -75,15 +75,6 @@ constexpr int kMenu = 285;
 
 std::map<const Control*, size_t> topIndexes;  // of lists that have been scrolled
 
-// The last items fill the list: it scrolls no further.
-size_t HighestTop(const VirtualList& list) {
-    constexpr int kTwipsPerPoint = 20;
-    const int points = list.FontUsed().points > 0 ? list.FontUsed().points : 8;
-    const int line = points * kTwipsPerPoint * 5 / 4;
-    const auto visible = static_cast<size_t>(std::max(list.Place().height / line, 1));
-    return list.Count() > visible ? list.Count() - visible : 0;
-}
-
 // A window of the same life as on Windows: there from the first moment that the control is seen.
 void MakeWindow(Control& control) {
     TabPage* const page = PageOf(control.Holder());
@@ -260,6 +251,19 @@ void ReadSelection(const VirtualList&, ListSelection&) {}
 void ReadSelection(const Table&, ListSelection&, std::optional<size_t>&) {}
 void ScrollTo(Table&, size_t) {}
 
+size_t RowsInSight(const VirtualList& list) {
+    constexpr int kTwipsPerPoint = 20;
+    const int points = list.FontUsed().points > 0 ? list.FontUsed().points : 8;
+    const int line = points * kTwipsPerPoint * 5 / 4;
+    return static_cast<size_t>(std::max(list.Place().height / line, 1));
+}
+
+// The last items fill the list: it scrolls no further.
+static size_t HighestTop(const VirtualList& list) {
+    const size_t visible = RowsInSight(list);
+    return list.Count() > visible ? list.Count() - visible : 0;
+}
+
 size_t TopIndex(const VirtualList& list) {
     const auto found = topIndexes.find(&list);
     return found == topIndexes.end() ? 0 : std::min(found->second, HighestTop(list));
@@ -267,10 +271,6 @@ size_t TopIndex(const VirtualList& list) {
 
 void SetTopIndex(VirtualList& list, size_t item) {
     topIndexes[&list] = std::min(item, HighestTop(list));
-}
-
-bool ShowsEnd(const VirtualList& list) {
-    return TopIndex(list) >= HighestTop(list);
 }
 
 void AddTrayIcon(TrayIcon& icon) {

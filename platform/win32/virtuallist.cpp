@@ -313,11 +313,10 @@ size_t TopIndex(const VirtualList& list) {
     return static_cast<size_t>(Send(list, LB_GETTOPINDEX));
 }
 
-bool ShowsEnd(const VirtualList& list) {
+size_t RowsInSight(const VirtualList& list) {
     RECT area{};
     GetClientRect(WindowOf(list), &area);
-    const LRESULT rows = area.bottom / std::max<LRESULT>(Send(list, LB_GETITEMHEIGHT), 1);
-    return TopIndex(list) + static_cast<size_t>(rows) >= list.Count();
+    return static_cast<size_t>(area.bottom / std::max<LRESULT>(Send(list, LB_GETITEMHEIGHT), 1));
 }
 
 void SetTopIndex(VirtualList& list, size_t item) {

@@ -161,11 +161,37 @@ TEST_F(LogEditTest, TheKeyboardSelectsCopiesAndDeletes) {
     EXPECT_EQ(Log().Count(), 4u) << "deletes lines only";
     quirn::test::Press(*form_, 'A', true);
     quirn::test::Press(*form_, 'C', true);
-    EXPECT_EQ(Clipboard(), "Ann\r\nBo\r\nCy\r\nDee");
     ClickItem(Log(), 0);
     List("Exclude").SetFocus();
     quirn::test::Press(*form_, 'C', true);
     EXPECT_EQ(Clipboard(), "Ann\r\nBo\r\nCy\r\nDee") << "no lines while a list of players has the keyboard";
+}
+
+TEST_F(LogEditTest, TheLineAtTheKeyboardStaysWhereItIsWhileFiltersChange) {
+    std::string log;
+    for (int i = 0; i < 300; ++i) log += i % 3 == 0 ? "  Ann Max> stop\r\n" : "  Ann Lee> go on\r\n";
+    PutFile(path_, log);
+    Open(path_);
+    auto& words = Find<TextBox>(*form_, "");
+    Type(words, "stop");
+    WaitFor([this] { return Log().Count() == 100; });
+    Log().SetTopIndex(40);
+    ClickItem(Log(), 45);
+    Press("Show &All");
+    EXPECT_EQ(ShownTop(Log()), 130u);
+    Press("Show Fil&tered");
+    EXPECT_EQ(ShownTop(Log()), 40u);
+    Type(words, " and no such word");
+    WaitFor([this] { return Log().Count() == 0; });
+    EXPECT_EQ(Log().EmptyText(), "All lines are hidden or deleted.");
+    words.SetFocus();
+    quirn::test::Press(*form_, kKeyEscape);
+    WaitFor([this] { return Log().Count() == 300; });
+    EXPECT_EQ(ShownTop(Log()), 130u);
+    EXPECT_EQ(Log().Selection().SelectedBefore(136), 1u);
+    List("Include").SetFocus();
+    quirn::test::Type(*form_, "ann m");
+    EXPECT_EQ(List("Include").Current(), 1u);
 }
 
 TEST_F(LogEditTest, FiltersByWordsDeletesAndGoesBack) {
@@ -198,8 +224,10 @@ TEST_F(LogEditTest, FiltersByWordsDeletesAndGoesBack) {
     Press("Apply Filter");
     EXPECT_EQ(Log().Count(), 5u) << "brings deleted lines back";
     EXPECT_FALSE(form_->MenuBar()->Find(mnuEdit_Undo)->IsEnabled());
+    ClickItem(Log(), 3);
+    quirn::test::Press(*form_, kKeyDelete);
     Choose(*form_, mnuView_Unknown);
-    EXPECT_EQ(Shown(Log())[4], "Xx Dee> hidden");
+    EXPECT_EQ(Shown(Log())[3], "Xx Dee> hidden") << "deleted lines stay deleted";
 }
 
 TEST_F(LogEditTest, FollowsALogAndKeepsWhatThePlayerChose) {
