@@ -1,5 +1,7 @@
 #include "logedit/followcommands.h"
 
+#include <algorithm>
+
 #include "platform/dialogs.h"
 
 namespace quirn {
@@ -31,10 +33,8 @@ void FollowCommands::Reload() {
 
 void FollowCommands::Follow() {
     if (follower_.IsFollowing()) {
-        Stop("");
+        End("");
     } else if (HasFile() && Read(true)) {
-        unseen_ = 0;
-        row_.ShowNews(kFollowing);
         timer_.SetEnabled(true);
         onFollow(true);
     }
@@ -45,6 +45,16 @@ void FollowCommands::Stop(const std::string& words) {
     follower_.Stop();
     row_.ShowNews(words);
     onFollow(false);
+}
+
+// The line that the game has not ended is shown, lest it be missing from what is saved.
+void FollowCommands::End(const std::string& words) {
+    if (edit_.LogLines.get() == follower_.Log()) {
+        const size_t lines = edit_.LogLines->LineCount();
+        const size_t players = edit_.LogLines->Players().size();
+        if (follower_.TakeHalfLine()) ShowNew(lines, players);
+    }
+    Stop(words);
 }
 
 // A log that cannot be read leaves what is shown.
@@ -58,6 +68,8 @@ bool FollowCommands::Read(bool follow) {
     edit_.LogLines = log.Take();
     players_.FillAgain();
     commands_.KeepPlace([this] { ShowError(ApplyLogFilter(edit_)); });
+    unseen_ = 0;
+    if (follow) row_.ShowNews(kFollowing);
     return true;
 }
 
@@ -70,7 +82,7 @@ void FollowCommands::Look() {
         case LogFollower::News::None: break;
         case LogFollower::News::Grew: ShowNew(lines, players); break;
         case LogFollower::News::Other: Read(true); break;
-        case LogFollower::News::Gone: Stop("Not followed any more: the file is gone"); break;
+        case LogFollower::News::Gone: End("Not followed any more: the file is gone"); break;
     }
     if (unseen_ > 0 && list_.ShowsEnd()) {
         unseen_ = 0;
@@ -81,18 +93,20 @@ void FollowCommands::Look() {
 // The list goes on with the log only while its end is in sight: who reads something else is not disturbed.
 void FollowCommands::ShowNew(size_t lines, size_t players) {
     const bool goesOn = list_.ShowsEnd();
-    if (edit_.LogLines->Players().size() > players) players_.AddNew(players);
-    size_t added = 0;
-    commands_.KeepPlace([&] {
-        const Result<size_t> count = edit_.view.Extend(lines, players);
-        if (count.Failed()) ShowError(count.Error());
-        else added = count.Value();
-    });
+    const size_t before = edit_.view.Count();
+    if (edit_.LogLines->Players().size() > players && players_.AddNew(players)) {
+        commands_.ApplyPlayers();
+    } else {
+        commands_.KeepPlace([&] {
+            if (const Result<size_t> count = edit_.view.Extend(lines, players); count.Failed())
+                ShowError(count.Error());
+        });
+    }
     if (goesOn) {
         if (edit_.view.Count() > 0) list_.SetTopIndex(edit_.view.Count() - 1);
         return;
     }
-    unseen_ += added;
+    unseen_ += std::max(edit_.view.Count(), before) - before;
     if (unseen_ > 0) row_.ShowNews(std::to_string(unseen_) + (unseen_ == 1 ? " new line" : " new lines"));
 }
 

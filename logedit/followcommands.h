@@ -32,6 +32,7 @@ private:
     bool Read(bool follow);
     void Stop(const std::string& words);
     void Look();
+    void End(const std::string& words);
     void ShowNew(size_t lines, size_t players);
 
     Form& form_;

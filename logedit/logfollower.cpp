@@ -61,7 +61,7 @@ LogFollower::News LogFollower::Look() {
     if (!IsFollowing() || file.Open(path_)) return News::Gone;
     if (file.Size() < available_ || !IsSameFile(file)) return News::Other;
     if (file.Size() == available_) return News::None;
-    const auto size = static_cast<size_t>(std::min(file.Size(), kLogSizeLimit));
+    const auto size = static_cast<size_t>(std::min(file.Size(), kLogSizeLimit - 1));
     if (size > capacity_) {
         if (!parser_->Grow(RoomFor(size))) return News::Gone;
         capacity_ = RoomFor(size);
@@ -71,6 +71,11 @@ LogFollower::News LogFollower::Look() {
     if (file.GoTo(available_) || ReadUpTo(file, size, {})) return News::Gone;
     if (wasEmpty && log_->Info(0) != 0) return News::Other;
     return log_->LineCount() > lines ? News::Grew : News::None;
+}
+
+bool LogFollower::TakeHalfLine() {
+    const size_t lines = log_->LineCount();
+    return parser_->Finish(available_) && log_->LineCount() > lines;
 }
 
 Failure LogFollower::ReadUpTo(FileReader& file, size_t end, const LogProgress& progress) {

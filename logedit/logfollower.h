@@ -32,6 +32,9 @@ public:
 
     News Look();
 
+    // Nothing more is awaited: a last line without an end counts as well. True when the log has got it.
+    bool TakeHalfLine();
+
 private:
     Failure ReadUpTo(FileReader& file, size_t end, const LogProgress& progress);
     bool IsSameFile(FileReader& file) const;

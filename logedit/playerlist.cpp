@@ -80,10 +80,14 @@ void PlayerList::Fill(std::shared_ptr<const ParsedLog> log) {
 
 void PlayerList::Add(size_t known) {
     const std::vector<std::string_view>& players = log_->Players();
+    PlayerList added;
+    added.log_ = log_;
     for (size_t i = known; i < players.size(); ++i)
-        items_.push_back({StartOf(players[i]), static_cast<uint32_t>(i + 1)});
-    std::sort(items_.begin(), items_.end(), Before{players});
-    selection_.Reset(items_.size());
+        added.items_.push_back({StartOf(players[i]), static_cast<uint32_t>(i + 1)});
+    std::sort(added.items_.begin(), added.items_.end(), Before{players});
+    added.selection_.Reset(added.items_.size());
+    added.selection_.SelectAll();
+    MovePlayers(added, *this);
 }
 
 std::string PlayerList::SelectedText() const {

@@ -18,7 +18,7 @@ public:
     // All players of a log, none selected. Empty for a log with one player only: kept on purpose.
     void Fill(std::shared_ptr<const ParsedLog> log);
     void Clear() { *this = PlayerList(); }
-    // The players behind the first so many, of a log that has grown, none selected.
+    // The players behind the first so many, of a log that has grown. Who was selected stays so.
     void Add(size_t known);
 
     size_t Count() const { return items_.size(); }

@@ -1,7 +1,6 @@
 #include "logedit/playerpanel.h"
 
 #include <algorithm>
-#include <set>
 
 #include "platform/measures.h"
 #include "platform/text.h"
@@ -72,6 +71,7 @@ void PlayerPanel::Reset() {
 }
 
 void PlayerPanel::Empty() {
+    awaited_.clear();
     lstExclude.SetCount(0, 0);
     lstInclude.SetCount(0, 0);
 }
@@ -89,7 +89,7 @@ void PlayerPanel::UpdateListCounts() {
 
 void PlayerPanel::KeyPress(char character) {
     for (VirtualList* list : {&lstInclude, &lstExclude}) {
-        // A blank is part of a name, but does not begin one.
+        // A space is part of a name, but does not begin one.
         const char lowest = typed_.empty() ? ' ' + 1 : ' ';
         if (!list->HasFocus() || static_cast<unsigned char>(character) < lowest || list->Count() == 0) continue;
         const size_t current = list->Current().value_or(list->Count() - 1);
@@ -136,25 +136,62 @@ void PlayerPanel::Hide(uint32_t number) {
 }
 
 void PlayerPanel::Everyone() {
+    awaited_.clear();
     MoveNumbers(edit_.exclude, edit_.include, [](uint32_t) { return true; });
     Show();
 }
 
 void PlayerPanel::FillAgain() {
-    std::set<std::string, LessNoCase> excluded;
-    for (size_t i = 0; i < edit_.exclude.Count(); ++i) excluded.emplace(edit_.exclude.Name(i));
+    for (size_t i = 0; i < edit_.exclude.Count(); ++i) awaited_.emplace(edit_.exclude.Name(i));
     edit_.include.Fill(edit_.LogLines);
     edit_.exclude.Clear();
-    MoveNumbers(edit_.include, edit_.exclude,
-                [&](uint32_t number) { return excluded.contains(edit_.LogLines->Players()[number - 1]); });
+    ExcludeReturned();
     Show();
 }
 
-void PlayerPanel::AddNew(size_t known) {
-    // One player alone is in no list.
-    if (known < 2) edit_.include.Fill(edit_.LogLines);
-    else edit_.include.Add(known);
+bool PlayerPanel::AddNew(size_t known) {
+    if (known < 2) {
+        // One player alone is in no list.
+        edit_.include.Fill(edit_.LogLines);
+        Show();
+    } else {
+        edit_.include.Selection() = lstInclude.Selection();
+        edit_.include.Add(known);
+        ShowAdded();
+    }
+    if (!ExcludeReturned()) return false;
     Show();
+    return true;
+}
+
+// A log that begins anew has nobody at first.
+bool PlayerPanel::ExcludeReturned() {
+    if (awaited_.empty()) return false;
+    const size_t before = edit_.exclude.Count();
+    MoveNumbers(edit_.include, edit_.exclude,
+                [&](uint32_t number) { return awaited_.contains(edit_.LogLines->Players()[number - 1]); });
+    for (size_t i = 0; i < edit_.exclude.Count(); ++i) awaited_.erase(std::string(edit_.exclude.Name(i)));
+    return edit_.exclude.Count() > before;
+}
+
+// The names that were selected, at the keyboard and at the top stay so.
+void PlayerPanel::ShowAdded() {
+    const PlayerList& players = edit_.include;
+    const size_t added = players.Count() - lstInclude.Count();
+    const size_t known = edit_.LogLines->Players().size() - added;
+    // Where the item that was the n-th of those known is now.
+    const auto now = [&](size_t item) {
+        for (size_t at = 0; at < players.Count(); ++at)
+            if (players.Number(at) <= known && item-- == 0) return at;
+        return size_t{0};
+    };
+    const size_t top = now(lstInclude.TopIndex());
+    const std::optional<size_t> current = lstInclude.Current();
+    lstInclude.SetCount(players.Count(), LongestName(players));
+    lstInclude.SetSelection(players.Selection());
+    if (current) lstInclude.SetCurrent(now(*current));
+    lstInclude.SetTopIndex(top);
+    UpdateListCounts();
 }
 
 void PlayerPanel::MoveNumbers(PlayerList& from, PlayerList& to, const std::function<bool(uint32_t number)>& moves) {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <set>
 #include <string>
 
 #include "logedit/logedit.h"
 #include "platform/anchors.h"
 #include "platform/form.h"
+#include "platform/text.h"
 #include "platform/timer.h"
 #include "platform/virtuallist.h"
 
@@ -30,8 +32,10 @@ public:
     void ShowOnly(const std::vector<uint32_t>& numbers);
     void Hide(uint32_t number);
     void Everyone();
-    void FillAgain();                // with the players of a log that was read again; who was excluded by name stays so
-    void AddNew(size_t known);       // of a log that has grown, those behind the first so many
+    void FillAgain();  // with the players of a log that was read again; who was excluded by name stays so
+    // Of a log that has grown, those behind the first so many. True when some of them are excluded, since they were so
+    // before the log was read again.
+    bool AddNew(size_t known);
     void mnuInExPopup_Only_Click();  // the selected ones of the list that was clicked, or the one under the pointer
     bool CanShowOnly() const { return pointed_ != 0 || popupList_->Selection().SelectedCount() > 0; }
     void mnuInExPopup_All_Click();  // the commands of the menu
@@ -45,6 +49,8 @@ private:
     void cmdOut_Click();
     void MovePlayers(VirtualList& from, VirtualList& to);
     void MoveNumbers(PlayerList& from, PlayerList& to, const std::function<bool(uint32_t number)>& moves);
+    bool ExcludeReturned();
+    void ShowAdded();
     bool GoTo(VirtualList& list, size_t from, const std::string& start);
     void UpdateListCounts();
     PlayerList& PlayersOf(const VirtualList& list);
@@ -54,6 +60,7 @@ private:
     uint32_t pointed_ = 0;    // the player that it was opened at; 0: none
     std::string typed_;       // the characters of the last second
     Timer typing_;
+    std::set<std::string, LessNoCase> awaited_;  // were excluded, and are not in the log that was read again
 
     Label lblInclude;
     VirtualList lstInclude;

@@ -161,6 +161,7 @@ TEST_F(LogEditTest, TheKeyboardSelectsCopiesAndDeletes) {
     EXPECT_EQ(Log().Count(), 4u) << "deletes lines only";
     quirn::test::Press(*form_, 'A', true);
     quirn::test::Press(*form_, 'C', true);
+    EXPECT_EQ(Clipboard(), "Ann\r\nBo\r\nCy\r\nDee");
     ClickItem(Log(), 0);
     List("Exclude").SetFocus();
     quirn::test::Press(*form_, 'C', true);
@@ -259,6 +260,36 @@ TEST_F(LogEditTest, FollowsALogAndKeepsWhatThePlayerChose) {
     WaitFor([this] { return !form_->MenuBar()->Find(mnuView_Follow)->checked; });
     EXPECT_EQ(Find<Label>(*form_, "Not followed").Text(), "Not followed any more: the file is gone");
     EXPECT_FALSE(form_->MenuBar()->Find(mnuView_Follow)->checked);
+}
+
+// The game begins its log anew with an empty file, in which nobody speaks yet.
+TEST_F(LogEditTest, WhoWasExcludedStaysSoWhenTheLogBeginsAnew) {
+    Open(path_);
+    ClickItem(List("Include"), 2);
+    Press(">>");
+    Choose(*form_, mnuView_Follow);
+    const char* const texts[] = {"", "  Bo> anew\r\n", "  Bo> anew\r\n  Cy> hidden\r\n  Ann> new\r\n"};
+    for (const char* text : texts) {
+        PutFile(path_, text);
+        const size_t players = text == texts[2] ? 3 : text == texts[1] ? 1 : 0;
+        WaitFor([&] { return edit_.LogLines->Players().size() == players; });
+    }
+    EXPECT_EQ(Shown(Log()), (Lines{"  Bo> anew", "  Ann> new"}));
+    EXPECT_EQ(Shown(List("Exclude")), Lines{"Cy"});
+    EXPECT_EQ(Shown(List("Include")), (Lines{"Ann", "Bo"}));
+}
+
+TEST_F(LogEditTest, FollowingLosesNoLastLineAndNoSelectedName) {
+    PutFile(path_, std::string(kLog) + "  Abe> no end");
+    Open(path_);
+    Choose(*form_, mnuView_Follow);
+    ClickItem(List("Include"), 1);
+    PutFile(path_, std::string(kLog) + "  Abe> no end\r\n  Bo> half");
+    WaitFor([this] { return List("Include").Count() == 5; });
+    EXPECT_EQ(List("Include").Count(), 5u);
+    EXPECT_TRUE(List("Include").Selection().IsSelected(2)) << "Bo, behind one more name";
+    Choose(*form_, mnuView_Follow);
+    EXPECT_EQ(Shown(Log()).back(), "  Bo> half");
 }
 
 TEST_F(LogEditTest, ThePopupTakesTheLineUnderThePointer) {
