@@ -16,7 +16,6 @@ constexpr Bounds kNews{  9240, 7590,  2510, kLabelHeight};
 // clang-format on
 
 constexpr int kPause = 200;  // milliseconds
-constexpr int kKeyDown = 40;
 
 std::string Shown(size_t count, size_t all) {
     return std::to_string(count) + " of " + std::to_string(all) + (all == 1 ? " line" : " lines");

@@ -35,7 +35,6 @@ constexpr Bounds kTypes{  4960, 5370,  5100, 1900};
 constexpr Grid kBoxes{{    150,  270,  2400, kCheckHeight}, 2450, 262, 6};  // in the frame
 // clang-format on
 
-constexpr int kKeyEnd = 35;
 constexpr int kCountPanelWidth = 2700;
 constexpr char kLogFilter[] = "All Files (*.*)|*.*|LOG Files (*.log)|*.log|Text Files (*.txt)|*.txt";
 constexpr int kLogFiles = 2;  // in the filter

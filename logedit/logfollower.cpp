@@ -11,7 +11,6 @@ namespace quirn {
 
 namespace {
 
-constexpr size_t kReadBytes = size_t{256} * 1024;
 constexpr size_t kLeastRoom = size_t{1024} * 1024;
 constexpr size_t kCompared = 64;  // bytes at the end of what was read, by which a file is known
 
@@ -79,16 +78,9 @@ bool LogFollower::TakeHalfLine() {
 }
 
 Failure LogFollower::ReadUpTo(FileReader& file, size_t end, const LogProgress& progress) {
-    while (available_ < end) {
-        const Result<size_t> got = file.Read(parser_->Buffer() + available_, std::min(kReadBytes, end - available_));
-        if (got.Failed()) return got.Error();
-        if (got.Value() == 0) break;
-        available_ += got.Value();
-        if (!parser_->Advance(available_)) return MakeError(ErrorNumber::Overflow);
-        if (progress) progress(parser_->Consumed());
-    }
-    parser_->Publish();
-    return {};
+    Failure failure = ReadPieces(file, *parser_, available_, end, progress);
+    if (!failure) parser_->Publish();
+    return failure;
 }
 
 // A file that was put in its place may well be longer.

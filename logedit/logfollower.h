@@ -6,7 +6,6 @@
 
 #include "logedit/logparser.h"
 #include "logedit/parsedlog.h"
-#include "platform/files.h"
 
 namespace quirn {
 

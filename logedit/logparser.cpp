@@ -8,7 +8,6 @@
 
 #include "logedit/logscan.h"
 #include "logedit/sse2.h"
-#include "platform/files.h"
 #include "platform/text.h"
 
 namespace quirn {
@@ -288,6 +287,18 @@ bool LogParser::NumberPlayers() {
     return table_.Number({window_->pending, std::exchange(window_->pendingCount, 0)});
 }
 
+Failure ReadPieces(FileReader& file, LogParser& parser, size_t& available, size_t end, const LogProgress& progress) {
+    while (available < end) {
+        const Result<size_t> got = file.Read(parser.Buffer() + available, std::min(kReadBytes, end - available));
+        if (got.Failed()) return got.Error();
+        if (got.Value() == 0) break;
+        available += got.Value();
+        if (!parser.Advance(available)) return MakeError(ErrorNumber::Overflow);
+        if (progress) progress(parser.Consumed());
+    }
+    return {};
+}
+
 Result<std::shared_ptr<const ParsedLog>> ReadLog(const std::string& path,
                                                  const std::function<void(uint64_t size)>& onOpen,
                                                  const LogProgress& progress) {
@@ -300,16 +311,9 @@ Result<std::shared_ptr<const ParsedLog>> ReadLog(const std::string& path,
         LogParser parser(*log, size);
         if (!parser.Ready()) return ErrorNumber::OutOfMemory;
         if (onOpen) onOpen(size);
-        // A file that grows meanwhile is read as far as it went; one that is cut is read as far as it goes.
+        // A file that grows meanwhile is read as far as it went.
         size_t available = 0;
-        while (available < size) {
-            const Result<size_t> got = file.Read(parser.Buffer() + available, std::min(kReadBytes, size - available));
-            if (got.Failed()) return got.Error();
-            if (got.Value() == 0) break;
-            available += got.Value();
-            if (!parser.Advance(available)) return ErrorNumber::Overflow;
-            if (progress) progress(parser.Consumed());
-        }
+        if (Failure failure = ReadPieces(file, parser, available, size, progress)) return *failure;
         if (!parser.Finish(available)) return ErrorNumber::Overflow;
         if (progress) progress(parser.Consumed());
         return std::shared_ptr<const ParsedLog>(log);

@@ -10,6 +10,7 @@
 #include "logedit/parsedlog.h"
 #include "logedit/playertable.h"
 #include "platform/error.h"
+#include "platform/files.h"
 
 // Reads chat logs. The scan goes over the text in windows that stay in the processor's cache, first for the places that
 // matter (line ends, "> ", kills), then line by line, then for the players.
@@ -72,10 +73,15 @@ private:
     uint64_t consumed_ = 0;
 };
 
+using LogProgress = std::function<void(uint64_t done)>;
+
+// Reads on in a file up to an end and parses what comes; available: how much of it has been read. A file that is cut is
+// read as far as it goes. Failures: those of FileReader; 6 for too many players.
+Failure ReadPieces(FileReader& file, LogParser& parser, size_t& available, size_t end, const LogProgress& progress);
+
 // What becomes of a file: a log, or why there is none. progress is told how far the parse is, in bytes of the file (as
 // Consumed), whenever another quarter of a megabyte is done. Errors: those of FileReader; 7 for a file that
 // memory cannot hold; 6 for one with too many players.
-using LogProgress = std::function<void(uint64_t done)>;
 Result<std::shared_ptr<const ParsedLog>> ReadLog(const std::string& path,
                                                  const std::function<void(uint64_t size)>& onOpen,
                                                  const LogProgress& progress);

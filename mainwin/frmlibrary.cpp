@@ -47,7 +47,6 @@ enum MoreCommand {
     kDelete
 };
 
-constexpr int kKeyF2 = 113;
 constexpr int kPause = 1;  // milliseconds between two looks
 constexpr std::chrono::milliseconds kLook{30};
 

@@ -23,8 +23,8 @@ enum class FormBorder {
 enum class UnloadMode { CloseBox = 0, FromCode = 1, SystemShutdown = 2 };
 
 // Keys by their virtual codes.
-inline constexpr int kKeyTab = 9, kKeyEnter = 13, kKeyEscape = 27, kKeySpace = 32, kKeyDelete = 46, kKeyF1 = 112,
-                     kKeyF3 = 114, kKeyF5 = 116;
+inline constexpr int kKeyTab = 9, kKeyEnter = 13, kKeyEscape = 27, kKeySpace = 32, kKeyEnd = 35, kKeyDown = 40,
+                     kKeyDelete = 46, kKeyF1 = 112, kKeyF2 = 113, kKeyF3 = 114, kKeyF5 = 116;
 
 // A window of the program. The object may live longer than its window: Load makes the window (hidden), Unload destroys
 // it, and either may happen again. A form is destroyed with its window when its object goes. A routine of the form may
