@@ -16,8 +16,8 @@ namespace quirn {
 
 namespace {
 
-constexpr int kWidth = 6600;
-constexpr int kHeight = 5100;
+constexpr int kWidth = 6480;
+constexpr int kHeight = 4665;
 
 // clang-format off
 //                              left   top  width  height

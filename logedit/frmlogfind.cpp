@@ -8,15 +8,15 @@ namespace quirn {
 
 namespace {
 
-constexpr int kWidth = 5040;
-constexpr int kHeight = 1410;
+constexpr int kWidth = 4950;
+constexpr int kHeight = 1020;
 
 // clang-format off
 //                       left  top  width height
-constexpr Bounds kLabel{  120, 165,  870, kLabelHeight};
-constexpr Bounds kText{  1020, 120, 2520, kRowHeight};
-constexpr Bounds kFind{  3660,  90, 1170, kButtonHeight};
-constexpr Bounds kCancel{3660, 510, 1170, kButtonHeight};
+constexpr Bounds kLabel{  120, 195,  870, kLabelHeight};
+constexpr Bounds kText{  1020, 150, 2520, kRowHeight};
+constexpr Bounds kFind{  3660, 120, 1170, kButtonHeight};
+constexpr Bounds kCancel{3660, 555, 1170, kButtonHeight};
 // clang-format on
 
 }  // namespace

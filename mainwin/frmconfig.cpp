@@ -6,8 +6,8 @@ namespace quirn {
 
 namespace {
 
-constexpr int kWidth = 4800;
-constexpr int kHeight = 2190;
+constexpr int kWidth = 4680;
+constexpr int kHeight = 1755;
 
 // clang-format off
 //                      left   top  width  height

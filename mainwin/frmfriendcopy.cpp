@@ -6,14 +6,14 @@ namespace quirn {
 
 namespace {
 
-constexpr int kWidth = 4800;
-constexpr int kHeight = 3450;
+constexpr int kWidth = 4680;
+constexpr int kHeight = 2985;
 
 // clang-format off
 //                       left   top  width  height
 constexpr Bounds kText{   180,  180,  4320, kLabelHeight};
 constexpr Grid kBoxes{{   300,  465,  4200, kCheckHeight}, 0, 300, 6};
-constexpr Bounds kSave{  1590, 2460,  1380, kButtonHeight};
+constexpr Bounds kSave{  1620, 2460,  1380, kButtonHeight};
 constexpr Bounds kCancel{3120, 2460,  1380, kButtonHeight};
 // clang-format on
 

@@ -15,14 +15,14 @@ namespace quirn {
 
 namespace {
 
-constexpr int kWidth = 6300;
-constexpr int kHeight = 4080;
+constexpr int kWidth = 6150;
+constexpr int kHeight = 3555;
 
 // clang-format off
 //                         left   top  width  height
 constexpr Bounds kTabs{     120,  120,  5910, 2850};
-constexpr Bounds kOk{      1590, 3090,  1380, kButtonHeight};
-constexpr Bounds kCancel{  3120, 3090,  1380, kButtonHeight};
+constexpr Bounds kOk{      1650, 3090,  1380, kButtonHeight};
+constexpr Bounds kCancel{  3150, 3090,  1380, kButtonHeight};
 constexpr Bounds kApply{   4650, 3090,  1380, kButtonHeight};
 // On the page "File Locations":
 constexpr Bounds kSubLabel{ 180,  240,  5400, kLabelHeight};

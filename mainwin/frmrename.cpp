@@ -8,15 +8,15 @@ namespace quirn {
 
 namespace {
 
-constexpr int kWidth = 4800;
-constexpr int kHeight = 2100;
+constexpr int kWidth = 4680;
+constexpr int kHeight = 1440;
 
 // clang-format off
 //                       left   top  width  height
 constexpr Bounds kName{   180,  180,  4320, kLabelHeight};
 constexpr Bounds kText{   180,  450,  4320, kRowHeight};
-constexpr Bounds kOk{    1590, 1110,  1380, kButtonHeight};
-constexpr Bounds kCancel{3120, 1110,  1380, kButtonHeight};
+constexpr Bounds kOk{    1620,  915,  1380, kButtonHeight};
+constexpr Bounds kCancel{3120,  915,  1380, kButtonHeight};
 // clang-format on
 
 }  // namespace

@@ -9,9 +9,9 @@ namespace quirn {
 
 namespace {
 
-constexpr int kWidth = 4500;
-constexpr int kHeight = 2700;
-constexpr int kInner = 4200;  // the width of the rows, less the frame
+constexpr int kWidth = 4440;
+constexpr int kHeight = 2340;
+constexpr int kInner = 4200;
 
 //                             left   top  width  height
 // clang-format off

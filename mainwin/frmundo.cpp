@@ -8,16 +8,16 @@ namespace quirn {
 
 namespace {
 
-constexpr int kWidth = 6300;
-constexpr int kHeight = 2850;
+constexpr int kWidth = 6180;
+constexpr int kHeight = 2445;
 
 // clang-format off
 //                         left   top  width  height
 constexpr Bounds kQuestion{ 180,  180,  5820, 3 * kLabelHeight};
 constexpr Bounds kBack{     180,  870,  5820, 2 * kLabelHeight};
 constexpr Bounds kStay{     180, 1350,  5820, 2 * kLabelHeight};
-constexpr Bounds kPutBack{ 1560, 1920,  1380, kButtonHeight};
-constexpr Bounds kShow{    3090, 1920,  1380, kButtonHeight};
+constexpr Bounds kPutBack{ 1620, 1920,  1380, kButtonHeight};
+constexpr Bounds kShow{    3120, 1920,  1380, kButtonHeight};
 constexpr Bounds kCancel{  4620, 1920,  1380, kButtonHeight};
 // clang-format on
 

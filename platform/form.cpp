@@ -26,8 +26,14 @@ bool HasAccessKey(const Control& control, char key) {
 
 }  // namespace
 
-Form::Form(FormBorder border, int width, int height)
-    : Container(*this), border_(border), place_{0, 0, width, height}, normalPlace_(place_) {}
+Form::Form(FormBorder border, int width, int height) : Container(*this), border_(border), place_{0, 0, width, height} {
+    if (border == FormBorder::Dialog) {
+        const native::Size frame = native::DialogFrame();
+        place_.width += frame.width;
+        place_.height += frame.height;
+    }
+    normalPlace_ = place_;
+}
 
 Form::~Form() {
     if (loaded_) native::DestroyForm(*this);

@@ -36,7 +36,9 @@ inline constexpr int kKeyTab = 9, kKeyEnter = 13, kKeyEscape = 27, kKeySpace = 3
 // A form without such buttons ignores the two.
 class Form : public Container {
 public:
-    // size is the whole window's, frame included; the place is the centre of the screen until Move says otherwise.
+    // The size is the whole window's, frame included, but that of a dialog (FormBorder::Dialog) is its inner area's, so
+    // that its margins are the same whatever frame the system draws. The place is the centre of the screen until Move
+    // says otherwise.
     Form(FormBorder border, int width, int height);
     ~Form();
 

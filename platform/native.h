@@ -44,6 +44,7 @@ struct Size {
     int height;
 };
 Size InnerSize(const Form& form);
+Size DialogFrame();  // what it adds to the inner area; also without a form
 
 void MenuChanged(Form& form);  // the rows of its menu bar
 void PopUpMenu(Form& form, Menu& menu, int defaultCommand);

@@ -218,6 +218,10 @@ Size InnerSize(const Form& form) {
     return {form.Place().width - frame, form.Place().height - frame - above};
 }
 
+Size DialogFrame() {
+    return {kBorders, kBorders + kCaption};
+}
+
 void MenuChanged(Form&) {}
 
 void PopUpMenu(Form&, Menu& menu, int defaultCommand) {

@@ -22,8 +22,8 @@ constexpr char kFormClass[] = QUIRN_TITLE "Form";
 
 std::map<const Form*, FormWindow> loadedForms;
 
-DWORD StyleOf(const Form& form) {
-    switch (form.Border()) {
+DWORD StyleOf(FormBorder border) {
+    switch (border) {
         case FormBorder::Sizable: return WS_OVERLAPPEDWINDOW;
         case FormBorder::SizableDialog: return WS_OVERLAPPEDWINDOW & ~static_cast<DWORD>(WS_MINIMIZEBOX);
         case FormBorder::Fixed: return WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
@@ -268,9 +268,9 @@ void CreateForm(Form& form) {
     if (form.Border() == FormBorder::None) extendedStyle |= WS_EX_TOOLWINDOW;
     if (form.onDropFile) extendedStyle |= WS_EX_ACCEPTFILES;
     const HMENU menu = form.MenuBar() == nullptr ? nullptr : MakeMenuBar(*form.MenuBar());
-    const HWND window = CreateWindowExA(extendedStyle, kFormClass, form.Caption().c_str(), StyleOf(form) | WS_DISABLED,
-                                        place.left, place.top, place.right - place.left, place.bottom - place.top,
-                                        nullptr, menu, Instance(), nullptr);
+    const HWND window = CreateWindowExA(
+        extendedStyle, kFormClass, form.Caption().c_str(), StyleOf(form.Border()) | WS_DISABLED, place.left, place.top,
+        place.right - place.left, place.bottom - place.top, nullptr, menu, Instance(), nullptr);
     form.window = window;
     // The monitor, and with it the DPI, is known only now.
     if (DpiOf(window) != DpiOf(nullptr)) FormChanged(form, Aspect::Place);
@@ -339,6 +339,13 @@ Size InnerSize(const Form& form) {
     GetClientRect(WindowOf(form), &area);
     const int dpi = DpiOf(WindowOf(form));
     return {ToTwips(area.right, dpi), ToTwips(area.bottom, dpi)};
+}
+
+Size DialogFrame() {
+    RECT frame{};
+    AdjustWindowRectEx(&frame, StyleOf(FormBorder::Dialog), FALSE, WS_EX_CONTROLPARENT);
+    const int dpi = DpiOf(nullptr);
+    return {ToTwips(frame.right - frame.left, dpi), ToTwips(frame.bottom - frame.top, dpi)};
 }
 
 }  // namespace native

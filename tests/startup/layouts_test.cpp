@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <typeinfo>
 
 #include "auxiliary/frmabout.h"
@@ -84,12 +85,28 @@ void CheckNames(const Container& container, const std::string& where) {
     }
 }
 
+// A dialog ends as far to the right of what is in it, and below it, as that begins from its left edge.
+void CheckMargins(const Form& form, const std::string& where) {
+    int left = form.InnerWidth(), right = 0, bottom = 0;
+    for (const Control* control : form.Controls()) {
+        if (!control->Visible()) continue;
+        const Bounds& place = control->Place();
+        left = std::min(left, place.left);
+        right = std::max(right, place.Right());
+        bottom = std::max(bottom, place.Bottom());
+    }
+    constexpr int kPixel = 15;
+    EXPECT_NEAR(form.InnerWidth() - right, left, kPixel) << where;
+    EXPECT_NEAR(form.InnerHeight() - bottom, left, kPixel) << where;
+}
+
 void Check(const Form& form, const std::string& where) {
     CheckNames(form, where);
     Bounds area{0, 0, form.InnerWidth(), form.InnerHeight()};
     for (const Control* control : form.Controls())
         if (dynamic_cast<const StatusBar*>(control) != nullptr) area.height -= StatusBar::kHeight;
     CheckControls(form, area, where);
+    if (form.Border() == FormBorder::Dialog) CheckMargins(form, where);
 }
 
 class LayoutsTest : public WorldTest {
