@@ -1,6 +1,7 @@
 #include "logedit/frmlogedit.h"
 
 #include "auxiliary/menuhelp.h"
+#include "logedit/linecolors.h"
 #include "logedit/logmenurows.h"
 #include "logedit/logsave.h"
 #include "logedit/logsettings.h"
@@ -79,6 +80,10 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
     lstLog.itemText = [this](size_t item) { return edit_.view.Text(item); };
     lstLog.itemData = [this](size_t item) { return edit_.view.Info(item); };
     lstLog.itemMarks = [this](size_t item) { return edit_.view.Marks(item); };
+    lstLog.itemColor = [this](size_t item, Color background) -> std::optional<Color> {
+        if (!edit_.colorsByType) return std::nullopt;
+        return ColorOfType(TypeOf(edit_.view.Info(item)), background);
+    };
     lstLog.onRightMouseDown = [this] { lstLog_MouseDown(); };
     row_.onText = [this](const std::string& text) { commands_.FilterByText(text); };
     row_.onShowAll = [this] { commands_.ShowAll(); };
@@ -122,13 +127,15 @@ void frmLogEdit::Form_Load() {
     StatusBar1.SetSecondText("");
 
     const Bounds screen = ScreenArea();
-    LogSettings settings{Place(), lstLog.FontUsed(), lstLog.ForeColor(), lstLog.BackColor()};
+    LogSettings settings{Place(), lstLog.FontUsed(), lstLog.ForeColor(), lstLog.BackColor(), false};
     settings.place.left = (screen.width - settings.place.width) / 2;
     settings.place.top = (screen.height - settings.place.height) / 2;
     settings = ReadLogSettings(settings);
     lstLog.SetFont(settings.font);
     lstLog.SetForeColor(settings.foreColor);
     lstLog.SetBackColor(settings.backColor);
+    edit_.colorsByType = settings.colorsByType;
+    menuBar_.SetChecked(mnuView_Colors, edit_.colorsByType);
     Move(settings.place);
     ReadLogMRU(edit_.LogMRU);
     RefreshLogMRUMenu();
@@ -140,7 +147,7 @@ void frmLogEdit::Form_Resize() {
 }
 
 bool frmLogEdit::Form_Unload() {
-    WriteLogSettings({NormalPlace(), lstLog.FontUsed(), lstLog.ForeColor(), lstLog.BackColor()});
+    WriteLogSettings({NormalPlace(), lstLog.FontUsed(), lstLog.ForeColor(), lstLog.BackColor(), edit_.colorsByType});
     WriteLogMRU(edit_.LogMRU);
     row_.Reset();
     find_.Unload();
@@ -230,6 +237,11 @@ void frmLogEdit::mnuView_Statistics_Click() {
 void frmLogEdit::mnuView_Unknown_Click() {
     Toggle(mnuView_Unknown, edit_.showUnknown);
     if (commands_.HasLog()) commands_.ApplyPlayers();
+}
+
+void frmLogEdit::mnuView_Colors_Click() {
+    Toggle(mnuView_Colors, edit_.colorsByType);
+    lstLog.ColorsChanged();
 }
 
 void frmLogEdit::mnuInExPopup_Only_Click() {

@@ -43,6 +43,7 @@ private:
     void FindAgain(bool upwards);
     void mnuView_Statistics_Click();
     void mnuView_Unknown_Click();
+    void mnuView_Colors_Click();
     void mnuInExPopup_Only_Click();
     void mnuLogEditPopup_Delete_Click();
     void RefreshLogMRUMenu();

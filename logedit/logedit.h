@@ -22,6 +22,7 @@ struct LogEdit {
     bool lineNumbers = false;      // mnuOptions_LineNums
     bool keepDeletedOut = false;   // mnuEdit_Keep
     bool showUnknown = false;      // mnuView_Unknown
+    bool colorsByType = false;     // mnuView_Colors
     PlayerList include, exclude;   // lstInclude, lstExclude
     LogView view;                  // lstLog
     RecentFiles LogMRU;

@@ -59,6 +59,8 @@ std::vector<MenuRow> frmLogEdit::MenuRows() {
             [this] { follow_.Follow(); }, [this] { return follow_.HasFile(); }},
         {mnuView_Unknown, 1, "Show Lines of &Unknown Kind", "", "Show lines that no check box stands for",
             [this] { mnuView_Unknown_Click(); }},
+        {mnuView_Colors, 1, "&Colors By Message Type", "", "Show each kind of message in a color of its own",
+            [this] { mnuView_Colors_Click(); }},
 
         {mnuOptions, 0, "&Options"},
         {mnuOptions_Font, 1, "Change Font...", "", kFontHelp,

@@ -53,6 +53,7 @@ enum Command : int {
     mnuView_Statistics,
     mnuView_Reload,
     mnuView_Follow,
+    mnuView_Colors,
 };
 
 }  // namespace logmenu

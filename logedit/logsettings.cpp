@@ -53,6 +53,7 @@ LogSettings ReadLogSettings(LogSettings settings) {
     settings.font.italic = ReadFlag("LogEditFontItalic", settings.font.italic);
     settings.foreColor = ReadColor("LogEditForeColor", settings.foreColor);
     settings.backColor = ReadColor("LogEditBackColor", settings.backColor);
+    settings.colorsByType = ReadFlag("LogEditColorsByType", settings.colorsByType);
     return settings;
 }
 
@@ -67,6 +68,7 @@ void WriteLogSettings(const LogSettings& settings) {
     Write("LogEditFontItalic", settings.font.italic ? -1 : 0);
     Write("LogEditForeColor", Number(settings.foreColor, kSystemForeColor));
     Write("LogEditBackColor", Number(settings.backColor, kSystemBackColor));
+    Write("LogEditColorsByType", settings.colorsByType ? -1 : 0);
 }
 
 void ReadLogMRU(RecentFiles& list) {

@@ -13,6 +13,7 @@ struct LogSettings {
     Bounds place;                               // of the window, twips
     Font font;                                  // of lstLog; whether it is underlined or struck out is not kept
     std::optional<Color> foreColor, backColor;  // of lstLog; nothing is the system's
+    bool colorsByType;                          // lines have the colours of their types
 };
 
 // What is not stored, or makes no sense, stays as it is.

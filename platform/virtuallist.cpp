@@ -78,6 +78,10 @@ void VirtualList::SelectionRemoved(size_t longestText) {
 void VirtualList::SetEmptyText(const std::string& text) {
     if (text == emptyText_) return;
     emptyText_ = text;
+    ColorsChanged();
+}
+
+void VirtualList::ColorsChanged() {
     Changed(Aspect::Colors);  // painted anew
 }
 

@@ -22,6 +22,9 @@ public:
     std::function<std::string(size_t)> itemText;
     std::function<int32_t(size_t)> itemData;
     std::function<std::vector<std::pair<size_t, size_t>>(size_t)> itemMarks;  // what is marked: first byte and length
+    // Another colour than the list's, on the background that is really drawn. Not asked for selected items, nor where
+    // the player has chosen high contrast.
+    std::function<std::optional<Color>(size_t item, Color background)> itemColor;
 
     size_t Count() const { return count_; }
     size_t LongestText() const { return longestText_; }  // bytes
@@ -39,6 +42,7 @@ public:
     // bytes that an item has, for scrolling sideways.
     void SetCount(size_t count, size_t longestText);
     void SetEmptyText(const std::string& text);         // shown, grey, while there are no items
+    void ColorsChanged();                               // itemColor says something else than before
     void SetSelection(const ListSelection& selection);  // of Count() items
     void Select(size_t item);                           // beside what is selected
     void SelectAll();

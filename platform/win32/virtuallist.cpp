@@ -177,10 +177,16 @@ void DrawMarks(const VirtualList& list, const DRAWITEMSTRUCT& item, std::string_
     }
 }
 
+std::optional<Color> ItemColor(const VirtualList& list, size_t item, Color background) {
+    std::optional<Color> own;
+    if (list.itemColor && item < list.Count() && !IsHighContrast()) own = list.itemColor(item, background);
+    return own ? own : ForeColorOf(list);
+}
+
 void DrawListItem(const VirtualList& list, const DRAWITEMSTRUCT& item) {
     const bool selected = (item.itemState & ODS_SELECTED) != 0;
-    const Color fore = ForeColorOf(list).value_or(GetSysColor(COLOR_WINDOWTEXT));
     const Color back = BackColorOf(list).value_or(GetSysColor(COLOR_WINDOW));
+    const Color fore = ItemColor(list, item.itemID, back).value_or(GetSysColor(COLOR_WINDOWTEXT));
     SetTextColor(item.hDC, selected ? GetSysColor(COLOR_HIGHLIGHTTEXT) : fore);
     SetBkColor(item.hDC, selected ? GetSysColor(COLOR_HIGHLIGHT) : back);
     ExtTextOutA(item.hDC, 0, 0, ETO_OPAQUE, &item.rcItem, nullptr, 0, nullptr);

@@ -1,9 +1,14 @@
 #include "logedit/frmlogedit.h"
 
+#include <algorithm>
+#include <cmath>
 #include <functional>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "logedit/linecolors.h"
 #include "logedit/logmenurows.h"
 #include "platform/files.h"
 #include "platform/headless/dialogs.h"
@@ -410,6 +415,38 @@ TEST_F(LogEditTest, TheLookIsKeptAndBroughtBack) {
     EXPECT_TRUE(form_->MenuBar()->Find(mnuFileBarMRU)->visible);
     EXPECT_FALSE(form_->MenuBar()->Find(mnuFileMRU + 1)->visible);
     EXPECT_EQ(Log().Count(), 0u);
+}
+
+TEST_F(LogEditTest, LinesCanHaveTheColorsOfTheirKinds) {
+    const auto luminance = [](Color color) {
+        double sum = 0;
+        for (const auto& [shift, weight] : {std::pair{0, 0.2126}, {8, 0.7152}, {16, 0.0722}}) {
+            const double part = (color >> shift & 255) / 255.0;
+            sum += weight * (part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4));
+        }
+        return sum + 0.05;
+    };
+    Open(path_);
+    EXPECT_EQ(Log().itemColor(0, 0), std::nullopt);
+    Choose(*form_, mnuView_Colors);
+    std::set<Color> onBlack;
+    for (size_t item = 0; item < 4; ++item) onBlack.insert(Log().itemColor(item, 0).value_or(0));
+    EXPECT_EQ(onBlack.size(), 4u) << "four kinds";
+    EXPECT_EQ(Log().itemColor(2, 0), Rgb(230, 222, 0)) << "can be read as it is";
+    for (unsigned part = 0; part < 16 * 16 * 16; ++part) {
+        const Color back = Rgb((part >> 8) * 17, (part >> 4 & 15) * 17, (part & 15) * 17);
+        for (uint32_t type = kPublic; type <= kChannel4; type *= 2) {
+            const double line = luminance(ColorOfType(type, back).value_or(back));
+            ASSERT_GE(std::max(line, luminance(back)) / std::min(line, luminance(back)), 4.5) << back << ' ' << type;
+        }
+    }
+    EXPECT_EQ(ColorOfType(kUnknown, 0), std::nullopt);
+
+    const std::optional<Color> stored = Log().ForeColor();
+    form_->Unload();
+    Start();
+    EXPECT_TRUE(form_->MenuBar()->Find(mnuView_Colors)->checked) << "it is kept";
+    EXPECT_EQ(Log().ForeColor(), stored);
 }
 
 // The object stays when its window goes: a routine of it may still be waiting.
