@@ -103,7 +103,7 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
     onUnload = [this] { return Form_Unload(); };
     onKeyDown = [this](int key, bool control) { return Form_KeyDown(key, control); };
     onKeyPress = [this](char character) { players_.KeyPress(character); };
-    onDropFile = [this](const std::string& path) { OpenLog(path); };
+    onDropFiles = [this](const std::vector<std::string>& paths) { OpenLog(paths.front()); };
 }
 
 // Each time the window opens it starts anew.

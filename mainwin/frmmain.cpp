@@ -139,7 +139,8 @@ frmMain::frmMain(Program& program)
     onActivate = [this] { profilesCommands_.LookSoon(); };
     onQueryUnload = [this](UnloadMode mode) { return Form_QueryUnload(mode); };
     onUnload = [this] { return Form_Unload(); };
-    onDropFile = [this](const std::string& path) { fileCommands_.OpenDropped(path); };
+    // One profile is open at a time: of several files the first.
+    onDropFiles = [this](const std::vector<std::string>& paths) { fileCommands_.OpenDropped(paths.front()); };
 }
 
 void frmMain::Form_Load() {

@@ -31,6 +31,7 @@ Answer ShowMessage(const std::string& text, unsigned style, const std::string& c
 enum FileDialogFlags : unsigned {
     kOverwritePrompt = 2,
     kHideReadOnly = 4,
+    kManyFiles = 0x200,  // for AskOpenFiles, which adds it
     kPathMustExist = 0x800,
     kFileMustExist = 0x1000,
 };
@@ -49,6 +50,9 @@ struct FileDialog {
 // The chosen full path; nothing when the player cancels. Neither changes the process's current folder.
 std::optional<std::string> AskOpenFile(const FileDialog& dialog);
 std::optional<std::string> AskSaveFile(const FileDialog& dialog);
+
+// The same for any number of files of a folder, in the system's order; none when the player cancels.
+std::vector<std::string> AskOpenFiles(const FileDialog& dialog);
 
 // The common choosers of fonts and colours, preset with the current one; nothing when the player cancels.
 std::optional<Font> AskFont(const Font& current);

@@ -178,7 +178,8 @@ bool Form::UserPressesShortcut(KeyStroke key) {
     if (onKeyDown && !key.shift) CallHandler([&] { swallowed = onKeyDown(key.key, key.control); });
     if (swallowed) return true;
     const Menu::Item* const item = menu_ == nullptr ? nullptr : menu_->FindByKey(key);
-    if (item == nullptr) return false;
+    // The key of a row that is grey is the control's.
+    if (item == nullptr || !item->IsEnabled()) return false;
     menu_->UserChooses(item->row.command);
     return true;
 }

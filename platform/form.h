@@ -23,8 +23,9 @@ enum class FormBorder {
 enum class UnloadMode { CloseBox = 0, FromCode = 1, SystemShutdown = 2 };
 
 // Keys by their virtual codes.
-inline constexpr int kKeyTab = 9, kKeyEnter = 13, kKeyEscape = 27, kKeySpace = 32, kKeyEnd = 35, kKeyDown = 40,
-                     kKeyDelete = 46, kKeyF1 = 112, kKeyF2 = 113, kKeyF3 = 114, kKeyF5 = 116;
+inline constexpr int kKeyTab = 9, kKeyEnter = 13, kKeyEscape = 27, kKeySpace = 32, kKeyPageUp = 33, kKeyPageDown = 34,
+                     kKeyEnd = 35, kKeyDown = 40, kKeyDelete = 46, kKeyF1 = 112, kKeyF2 = 113, kKeyF3 = 114,
+                     kKeyF5 = 116;
 
 // A window of the program. The object may live longer than its window: Load makes the window (hidden), Unload destroys
 // it, and either may happen again. A form is destroyed with its window when its object goes. A routine of the form may
@@ -102,7 +103,8 @@ public:
     std::function<bool(int key, bool control)> onKeyDown;  // without Shift, before shortcuts; true swallows it
     std::function<void(char)> onKeyPress;            // a character typed, before the control that has the focus gets it
     std::function<void(int)> onSystemMenuHighlight;  // the player moves over a command of the system menu (0xF000 ...)
-    std::function<void(const std::string&)> onDropFile;  // a file dropped on the window; set before Load
+    // Files dropped on the window, at least one; set before Load.
+    std::function<void(const std::vector<std::string>& paths)> onDropFiles;
 
     // For the back end: what happened to the window.
     void UserCloses(UnloadMode mode);

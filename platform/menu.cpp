@@ -17,6 +17,8 @@ KeyStroke KeyOf(std::string_view shortcut) {
     stroke.control = taken("Ctrl+");
     stroke.shift = taken("Shift+");
     if (shortcut == "Del") stroke.key = kKeyDelete;
+    else if (shortcut == "PgUp") stroke.key = kKeyPageUp;
+    else if (shortcut == "PgDn") stroke.key = kKeyPageDown;
     else if (shortcut.size() == 1) stroke.key = static_cast<unsigned char>(shortcut[0]);
     else if (taken("F")) stroke.key = kKeyF1 - 1 + static_cast<int>(Val(shortcut));
     return stroke;

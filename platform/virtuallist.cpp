@@ -90,6 +90,12 @@ void VirtualList::UserClicksItem(size_t item, bool shift, bool control) {
     selection_.Click(item, shift, control);
     current_ = item;
     Changed(Aspect::Selection);
+    CallHandler(onMove);
+}
+
+void VirtualList::UserScrolls(size_t top) {
+    SetTopIndex(top);
+    CallHandler(onMove);
 }
 
 void VirtualList::UserDoubleClicks() {
@@ -104,6 +110,11 @@ void VirtualList::UserPressesRightButton(std::optional<size_t> item) {
 void VirtualList::WindowChangedSelection(std::optional<size_t> current) {
     selectionIsOld_ = true;
     current_ = current;
+    CallHandler(onMove);
+}
+
+void VirtualList::WindowScrolled() {
+    CallHandler(onMove);
 }
 
 }  // namespace quirn

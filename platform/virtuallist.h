@@ -52,13 +52,16 @@ public:
     // The selected items have gone, and the items behind them have moved up. The place of the list stays.
     void SelectionRemoved(size_t longestText);
 
+    std::function<void()> onMove;  // the player has scrolled, or gone to another item
     std::function<void()> onDoubleClick;
     std::function<void()> onRightMouseDown;  // or the keyboard's key for the same
 
     void UserClicksItem(size_t item, bool shift, bool control);
+    void UserScrolls(size_t top);
     void UserDoubleClicks();
     void UserPressesRightButton(std::optional<size_t> item = {});
     void WindowChangedSelection(std::optional<size_t> current);  // the window has done what UserClicksItem would
+    void WindowScrolled();                                       // or what UserScrolls would
 
 private:
     size_t count_ = 0;

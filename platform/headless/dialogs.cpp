@@ -29,7 +29,7 @@ std::function<void(Dialog&)>& DialogPlayer() {
 struct ExpectedFile {
     bool save;
     std::string title;
-    std::optional<std::string> answer;
+    std::vector<std::string> answer;
 };
 
 std::deque<ExpectedFile>& ExpectedFiles() {
@@ -42,21 +42,29 @@ FileDialog& Last() {
     return last;
 }
 
-std::optional<std::string> AnswerFile(bool save, const FileDialog& dialog) {
+std::vector<std::string> OneOrNone(std::optional<std::string> path) {
+    return path ? std::vector{std::move(*path)} : std::vector<std::string>();
+}
+
+std::optional<std::string> FirstOf(const std::vector<std::string>& paths) {
+    return paths.empty() ? std::nullopt : std::optional(paths.front());
+}
+
+std::vector<std::string> AnswerFile(bool save, const FileDialog& dialog) {
     Last() = dialog;
     if (DialogPlayer()) {
         Dialog shown{save ? Dialog::Kind::SaveFile : Dialog::Kind::OpenFile, dialog.title, dialog.flags};
         DialogPlayer()(shown);
-        return shown.path;
+        return shown.paths;
     }
     auto& expected = ExpectedFiles();
     if (expected.empty() || expected.front().save != save ||
         (!expected.front().title.empty() && expected.front().title != dialog.title)) {
         ReportFailure(std::string("unexpected dialog to ") + (save ? "save" : "open") + " a file, titled \"" +
                       dialog.title + "\"");
-        return std::nullopt;
+        return {};
     }
-    const std::optional<std::string> answer = expected.front().answer;
+    const std::vector<std::string> answer = expected.front().answer;
     expected.pop_front();
     return answer;
 }
@@ -106,11 +114,15 @@ std::vector<MessageBox> TakeMissingBoxes() {
 }
 
 void ExpectOpenFile(const std::string& title, std::optional<std::string> answer) {
-    ExpectedFiles().push_back({false, title, std::move(answer)});
+    ExpectedFiles().push_back({false, title, OneOrNone(std::move(answer))});
 }
 
 void ExpectSaveFile(const std::string& title, std::optional<std::string> answer) {
-    ExpectedFiles().push_back({true, title, std::move(answer)});
+    ExpectedFiles().push_back({true, title, OneOrNone(std::move(answer))});
+}
+
+void ExpectOpenFiles(const std::string& title, std::vector<std::string> answer) {
+    ExpectedFiles().push_back({false, title, std::move(answer)});
 }
 
 size_t TakeMissingFileDialogs() {
@@ -180,11 +192,17 @@ Answer ShowMessage(const std::string& text, unsigned style, const std::string& c
 }
 
 std::optional<std::string> AskOpenFile(const FileDialog& dialog) {
-    return headless::AnswerFile(false, dialog);
+    return headless::FirstOf(headless::AnswerFile(false, dialog));
+}
+
+std::vector<std::string> AskOpenFiles(const FileDialog& dialog) {
+    FileDialog many = dialog;
+    many.flags |= kManyFiles;
+    return headless::AnswerFile(false, many);
 }
 
 std::optional<std::string> AskSaveFile(const FileDialog& dialog) {
-    return headless::AnswerFile(true, dialog);
+    return headless::FirstOf(headless::AnswerFile(true, dialog));
 }
 
 std::optional<Font> AskFont(const Font& current) {

@@ -27,6 +27,7 @@ std::vector<MessageBox> TakeMissingBoxes();
 // any title.
 void ExpectOpenFile(const std::string& title, std::optional<std::string> answer);
 void ExpectSaveFile(const std::string& title, std::optional<std::string> answer);
+void ExpectOpenFiles(const std::string& title, std::vector<std::string> answer);
 
 // How many expected file dialogs have not come; forgets them.
 size_t TakeMissingFileDialogs();
@@ -47,7 +48,7 @@ struct Dialog {
     std::string text;    // or the title
     unsigned style = 0;  // of the box, or the flags of the file dialog
     Answer answer = Answer::Cancel;
-    std::optional<std::string> path{};
+    std::vector<std::string> paths{};  // the first one counts where one is asked for
     std::optional<Font> font{};
     std::optional<Color> color{};
 };

@@ -37,18 +37,21 @@ HWND DialogOwner() {
 
 using FileFunction = BOOL(WINAPI*)(OPENFILENAMEA*);
 
-std::optional<std::string> AskFile(const FileDialog& dialog, FileFunction ask) {
+constexpr size_t kManyPaths = 32000;  // bytes; this is the end for the system's dialog
+
+// What the system wrote into a buffer of so many bytes; nothing when there is no answer.
+std::optional<std::string> AskFile(const FileDialog& dialog, FileFunction ask, size_t room = kLongestPath) {
     std::string filter = dialog.filter + '|';
     std::replace(filter.begin(), filter.end(), '|', '\0');
     std::string path = dialog.fileName;
-    path.resize(kLongestPath);
+    path.resize(room);
     OPENFILENAMEA record{};
     record.lStructSize = sizeof(record);
     record.hwndOwner = DialogOwner();
     record.lpstrFilter = filter.c_str();
     record.nFilterIndex = static_cast<DWORD>(dialog.filterIndex);
     record.lpstrFile = path.data();
-    record.nMaxFile = kLongestPath;
+    record.nMaxFile = static_cast<DWORD>(room);
     record.lpstrInitialDir = dialog.folder.empty() ? nullptr : dialog.folder.c_str();
     record.lpstrDefExt = dialog.ending;
     record.lpstrTitle = dialog.title.empty() ? nullptr : dialog.title.c_str();
@@ -62,8 +65,27 @@ std::optional<std::string> AskFile(const FileDialog& dialog, FileFunction ask) {
         chosen = ask(&record);
     }
     SetCurrentDirectoryA(folder.c_str());
+    if (!chosen && CommDlgExtendedError() == FNERR_BUFFERTOOSMALL)
+        ShowMessage("So many files cannot be opened at once.", kExclamation);
     if (!chosen) return std::nullopt;
-    return path.c_str();
+    return path;
+}
+
+// One path, or the folder's and the names of the files in it, each ended by a NUL; another NUL ends the list.
+std::vector<std::string> PathsOf(const std::string& answer) {
+    std::vector<std::string> paths;
+    for (const char* name = answer.c_str(); *name != '\0'; name += paths.back().size() + 1) paths.emplace_back(name);
+    if (paths.size() < 2) return paths;
+    std::string folder = paths.front();
+    if (!folder.ends_with('\\')) folder += '\\';
+    paths.erase(paths.begin());
+    for (std::string& path : paths)
+        if (path.find_first_of(":\\") == std::string::npos) path.insert(0, folder);
+    return paths;
+}
+
+std::optional<std::string> FirstPath(const std::optional<std::string>& answer) {
+    return answer ? std::optional<std::string>(answer->c_str()) : std::nullopt;
 }
 
 // A font has no colour here: the list of colours that comes with underline and strikeout would promise one.
@@ -89,11 +111,18 @@ Answer ShowMessage(const std::string& text, unsigned style, const std::string& c
 }
 
 std::optional<std::string> AskOpenFile(const FileDialog& dialog) {
-    return AskFile(dialog, GetOpenFileNameA);
+    return FirstPath(AskFile(dialog, GetOpenFileNameA));
 }
 
 std::optional<std::string> AskSaveFile(const FileDialog& dialog) {
-    return AskFile(dialog, GetSaveFileNameA);
+    return FirstPath(AskFile(dialog, GetSaveFileNameA));
+}
+
+std::vector<std::string> AskOpenFiles(const FileDialog& dialog) {
+    FileDialog many = dialog;
+    many.flags |= kManyFiles;
+    const std::optional<std::string> answer = AskFile(many, GetOpenFileNameA, kManyPaths);
+    return answer ? PathsOf(*answer) : std::vector<std::string>();
 }
 
 std::optional<Font> AskFont(const Font& current) {

@@ -94,16 +94,21 @@ void ChangeDpi(Form& form, const RECT& place) {
     Resize(form);
 }
 
-void DropFile(Form& form, HDROP drop) {
-    std::string path(DragQueryFileA(drop, 0, nullptr, 0), '\0');
-    DragQueryFileA(drop, 0, path.data(), static_cast<UINT>(path.size() + 1));
+void DropFiles(Form& form, HDROP drop) {
+    std::vector<std::string> paths;
+    const UINT count = DragQueryFileA(drop, 0xFFFFFFFF, nullptr, 0);
+    for (UINT i = 0; i < count; ++i) {
+        std::string path(DragQueryFileA(drop, i, nullptr, 0), '\0');
+        DragQueryFileA(drop, i, path.data(), static_cast<UINT>(path.size() + 1));
+        if (!path.empty()) paths.push_back(std::move(path));
+    }
     DragFinish(drop);
-    if (!form.onDropFile || path.empty() || form.IsBlocked()) return;
+    if (!form.onDropFiles || paths.empty() || form.IsBlocked()) return;
     // The program that the file came from is in front. What the form may ask must find it active, or it would stay
     // usable behind its own question.
     SetForegroundWindow(WindowOf(form));
     SetActiveWindow(WindowOf(form));
-    CallHandler([&] { form.onDropFile(path); });
+    CallHandler([&] { form.onDropFiles(paths); });
 }
 
 // The window itself has the keyboard only when it has just been activated; the control that had it gets it back.
@@ -166,7 +171,7 @@ LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
             if (HIWORD(lParam) == FALSE) MenuOpens(*form, reinterpret_cast<HMENU>(wParam));  // not the system menu
             break;
         case WM_EXITMENULOOP: MenuClosed(*form); break;
-        case WM_DROPFILES: DropFile(*form, reinterpret_cast<HDROP>(wParam)); return 0;
+        case WM_DROPFILES: DropFiles(*form, reinterpret_cast<HDROP>(wParam)); return 0;
         case WM_SETFOCUS: RestoreFocus(*form); return 0;
         case WM_ACTIVATE:
             if (LOWORD(wParam) == WA_INACTIVE) break;
@@ -266,7 +271,7 @@ void CreateForm(Form& form) {
     const RECT place = PixelPlace(form);
     DWORD extendedStyle = WS_EX_CONTROLPARENT;
     if (form.Border() == FormBorder::None) extendedStyle |= WS_EX_TOOLWINDOW;
-    if (form.onDropFile) extendedStyle |= WS_EX_ACCEPTFILES;
+    if (form.onDropFiles) extendedStyle |= WS_EX_ACCEPTFILES;
     const HMENU menu = form.MenuBar() == nullptr ? nullptr : MakeMenuBar(*form.MenuBar());
     const HWND window = CreateWindowExA(
         extendedStyle, kFormClass, form.Caption().c_str(), StyleOf(form.Border()) | WS_DISABLED, place.left, place.top,

@@ -268,9 +268,15 @@ std::optional<LRESULT> ListMessage(VirtualList& list, const Message& m) {
             if (wParam >= list.Count()) return LB_ERR;
             return list.itemData ? list.itemData(wParam) : 0;
         case WM_VSCROLL:
-            if (LOWORD(wParam) != SB_THUMBTRACK && LOWORD(wParam) != SB_THUMBPOSITION) return std::nullopt;
-            ScrollToThumb(list);
-            return 0;
+        case WM_MOUSEWHEEL:
+        case WM_KEYDOWN: {
+            const bool thumb =
+                m.message == WM_VSCROLL && (LOWORD(wParam) == SB_THUMBTRACK || LOWORD(wParam) == SB_THUMBPOSITION);
+            if (thumb) ScrollToThumb(list);
+            const LRESULT result = thumb ? 0 : Pass(m);
+            list.WindowScrolled();
+            return result;
+        }
         case WM_RBUTTONDOWN: list.UserPressesRightButton(ItemAt(list, static_cast<short>(HIWORD(m.lParam)))); return 0;
         case WM_CONTEXTMENU:
             if (m.lParam == -1) list.UserPressesRightButton(list.Current());  // by the keyboard

@@ -39,7 +39,7 @@ TEST_F(LogEditInMemoryTest, TellsOfAClipboardThatAnotherProgramHolds) {
     LogEdit edit;
     frmLogEdit form(folder, edit);
     form.Show();
-    form.onDropFile(Scratch() + "\\two.log");
+    form.onDropFiles({Scratch() + "\\two.log"});
     for (Control* control : form.Controls())
         if (control->Text() == "Log") control->SetFocus();
     Press(form, 'A', true);

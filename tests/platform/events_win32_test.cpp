@@ -18,11 +18,13 @@
 namespace quirn::test {
 namespace {
 
+using Paths = std::vector<std::string>;
+
 class EventsTest : public WorldTest {
 protected:
     EventsTest() {
         form_.SetMenu(menu_);
-        form_.onDropFile = [this](const std::string& path) { dropped_ = path; };
+        form_.onDropFiles = [this](const Paths& paths) { dropped_ = paths; };
         form_.Show();
         DoEvents();
     }
@@ -49,7 +51,7 @@ protected:
     Menu menu_{{{1, 0, "&File"}, {2, 1, "&New", "", "", [this] { ++news_; }}}};
     TextBox box_{form_, {0, 0, 1500, 315}};
     int news_ = 0;
-    std::string dropped_;
+    Paths dropped_;
 };
 
 // The DPI itself cannot be changed from in here: what is seen is that the window follows, and every control with it.
@@ -134,20 +136,20 @@ TEST_F(EventsTest, ADropActivatesItsFormForWhatThatMayAsk) {
     Form other(FormBorder::Fixed, 3000, 2000);
     other.Show();
     DoEvents();
-    const char path[] = "C:\\x.qrn\0";
-    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(DROPFILES) + sizeof(path));
+    const char paths[] = "C:\\x.qrn\0C:\\y.qrn\0";
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(DROPFILES) + sizeof(paths));
     auto* files = static_cast<DROPFILES*>(GlobalLock(memory));
     files->pFiles = sizeof(DROPFILES);
-    std::memcpy(files + 1, path, sizeof(path));
+    std::memcpy(files + 1, paths, sizeof(paths));
     GlobalUnlock(memory);
     HWND active = nullptr;
-    form_.onDropFile = [&](const std::string& dropped) {
+    form_.onDropFiles = [&](const Paths& dropped) {
         dropped_ = dropped;
         active = GetActiveWindow();
     };
     PostMessageA(Window(), WM_DROPFILES, reinterpret_cast<WPARAM>(memory), 0);
     DoEvents();
-    EXPECT_EQ(dropped_, "C:\\x.qrn");
+    EXPECT_EQ(dropped_, (Paths{"C:\\x.qrn", "C:\\y.qrn"}));
     EXPECT_EQ(active, Window());
 }
 

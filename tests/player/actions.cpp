@@ -53,6 +53,12 @@ constexpr int kPauses[] = {1, 50, 200, 1000, 4000};
 constexpr Answer kOkOrNot[] = {Answer::Ok, Answer::Ok, Answer::Cancel};
 constexpr Answer kYesOrNot[] = {Answer::Yes, Answer::No, Answer::Cancel};
 
+std::string InARow(const std::vector<std::string>& paths) {
+    std::string row;
+    for (const std::string& path : paths) row += " " + path;
+    return row;
+}
+
 }  // namespace
 
 void Player::MakeWorld() {
@@ -99,10 +105,12 @@ void Player::AnswerDialog() {
     if (!random_.OneIn(5)) {
         dialog.font = Font{.face = "Arial", .points = 12};
         dialog.color = Rgb(1, 2, 3);
-        dialog.path = kFiles[random_.Below(random_.OneIn(3) ? std::size(kFiles) : 4)].path;  // or a profile
-        if ((dialog.style & kFileMustExist) != 0 && headless::FindFile(*dialog.path) == nullptr) dialog.path.reset();
+        dialog.paths = {kFiles[random_.Below(random_.OneIn(3) ? std::size(kFiles) : 4)].path};  // or a profile
+        if ((dialog.style & kFileMustExist) != 0 && headless::FindFile(dialog.paths[0]) == nullptr)
+            dialog.paths.clear();
+        if ((dialog.style & kManyFiles) != 0) dialog.paths = SomeFiles();
     }
-    Tell("answer " + std::to_string(static_cast<int>(dialog.answer)) + " " + dialog.path.value_or(""));
+    Tell("answer " + std::to_string(static_cast<int>(dialog.answer)) + InARow(dialog.paths));
 }
 
 void Player::UseForm(Form& form) {
@@ -112,7 +120,7 @@ void Player::UseForm(Form& form) {
         for (const auto what : {Allowed::Load, Allowed::Transfer, Allowed::Library}) Allow(what);
     if (kind < 2) PressKey(form);
     else if (kind < 3 || form.IsMinimized()) UseWindow(form);
-    else if (kind < 4 && form.onDropFile) Drop(form);
+    else if (kind < 4 && form.onDropFiles) Drop(form);
     else if (kind < 8 && form.MenuBar() != nullptr) ChooseFromMenu(form, *form.MenuBar());
     else {
         std::vector<Control*> controls;
@@ -125,14 +133,22 @@ void Player::UseForm(Form& form) {
     }
 }
 
+std::vector<std::string> Player::SomeFiles() {
+    std::vector<std::string> paths;
+    do paths.emplace_back(random_.From(kFiles).path);
+    while (random_.OneIn(2));
+    return paths;
+}
+
 void Player::Drop(Form& form) {
-    const std::string path = random_.From(kFiles).path;
-    Tell("drop " + path);
+    const std::vector<std::string> paths = SomeFiles();
+    const std::string& path = paths.front();
+    Tell("drop" + InARow(paths));
     Allow(Allowed::Load);
     const std::string before = program_.CurrentFile;
     const auto isProfile = [&] { return FileBytes(path).value_or("").find("[Dialog]") != std::string::npos; };
     const bool wasProfile = isProfile();  // others may write or remove it while a box waits
-    form.onDropFile(path);
+    form.onDropFiles(paths);
     if (program_.CurrentFile == path && before != path && !wasProfile && !isProfile() && !MayChange(path))
         Fail("a Save would now destroy " + path);
 }

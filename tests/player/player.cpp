@@ -118,7 +118,7 @@ void Player::WaitForAnswer(headless::Dialog& dialog) {
     dialogs_.push_back({&dialog, false});
     while (!dialogs_.back().answered) WaitForEvents(1);
     dialogs_.pop_back();
-    if (dialog.kind == headless::Dialog::Kind::SaveFile && dialog.path) Allow(Allowed::Save, *dialog.path);
+    if (dialog.kind == headless::Dialog::Kind::SaveFile && !dialog.paths.empty()) Allow(Allowed::Save, dialog.paths[0]);
 }
 
 void Player::Check() {

@@ -65,6 +65,7 @@ private:
     void UseTable(Table& table);
     void UseWindow(Form& form);
     void Drop(Form& form);
+    std::vector<std::string> SomeFiles();
     void PressKey(Form& form);
     void PressAccessKey(Form& form);
     void ChooseFromMenu(Form& form, Menu& menu);
