@@ -14,7 +14,7 @@
 #include "benchmarks/ticks.h"
 #include "logedit/logfind.h"
 #include "logedit/logfollower.h"
-#include "logedit/logparser.h"
+#include "logedit/logreader.h"
 #include "logedit/logsave.h"
 #include "logedit/logstatistics.h"
 #include "platform/files.h"
@@ -117,7 +117,7 @@ int main(int count, char** arguments) {
         LogView view;
         ListSelection selection;
         const double start = Milliseconds();
-        Result<std::shared_ptr<const ParsedLog>> log = ReadLog(path, {}, {});
+        Result<std::shared_ptr<const ParsedLog>> log = ReadLog({path}, {}, {});
         if (log.Failed()) {
             std::printf("%s\n", log.Error().description.c_str());
             return 1;

@@ -11,7 +11,7 @@
 
 #include "benchmarks/loggenerator.h"
 #include "logedit/logfind.h"
-#include "logedit/logparser.h"
+#include "logedit/logreader.h"
 #include "logedit/logsave.h"
 #include "platform/files.h"
 
@@ -50,7 +50,7 @@ int main(int count, char** arguments) {
     if (command != "show" && count != 4) return 2;
 
     double start = Milliseconds();
-    Result<std::shared_ptr<const ParsedLog>> log = ReadLog(arguments[2], {}, {});
+    Result<std::shared_ptr<const ParsedLog>> log = ReadLog({arguments[2]}, {}, {});
     if (log.Failed()) End(log.Error());
     PlayerList include, exclude;
     include.Fill(log.Value());

@@ -12,7 +12,7 @@ constexpr Bounds kOnly{   150, 7590,  1290, kLabelHeight};
 constexpr Bounds kText{  1500, 7545,  3340, kRowHeight};
 constexpr Bounds kAll{   4960, 7515,  1380, kButtonHeight};
 constexpr Bounds kCounts{6480, 7590,  2700, kLabelHeight};
-constexpr Bounds kNews{  9240, 7590,  2510, kLabelHeight};
+constexpr Bounds kStrip{  9240, 7590,  2510, kLabelHeight};
 // clang-format on
 
 constexpr int kPause = 200;  // milliseconds
@@ -41,10 +41,10 @@ FilterRow::FilterRow(Form& form, Anchors& anchors)
       txtFilter(form, kText),
       cmdShowAll(form, kAll, "Show &All"),
       lblCounts(form, kCounts, "", Alignment::Left, Label::kShowsData),
-      lblNews(form, kNews, "", Alignment::Right, Label::kShowsData) {
+      lblStrip(form, kStrip, "", Alignment::Right, Label::kShowsData) {
     for (Control* control : std::initializer_list<Control*>{&lblOnly, &txtFilter, &cmdShowAll, &lblCounts})
         anchors.Add(*control, Anchor::Stay, Anchor::Follow);
-    anchors.Add(lblNews, Anchor::Grow, Anchor::Follow);
+    anchors.Add(lblStrip, Anchor::Grow, Anchor::Follow);
     txtFilter.SetToolTip("All words must stand in a line; -word must not; \"two words\" count as one");
     pause_.SetInterval(kPause);
     pause_.onTimer = [this] {
@@ -67,7 +67,9 @@ void FilterRow::FocusText() {
 void FilterRow::Reset() {
     pause_.SetEnabled(false);
     txtFilter.SetText("");
-    lblNews.SetText("");
+    news_.clear();
+    file_.clear();
+    ShowStrip();
 }
 
 bool FilterRow::KeyDown(int key) {
@@ -86,8 +88,20 @@ void FilterRow::ShowCounts(const LogView& view) {
 }
 
 void FilterRow::ShowNews(const std::string& text) {
-    lblNews.SetText(text);
-    lblNews.SetToolTip(text);
+    news_ = text;
+    ShowStrip();
+}
+
+void FilterRow::ShowFile(const std::string& name) {
+    file_ = name;
+    ShowStrip();
+}
+
+void FilterRow::ShowStrip() {
+    const std::string text = file_ + (file_.empty() || news_.empty() ? "" : " - ") + news_;
+    if (text == lblStrip.Text()) return;
+    lblStrip.SetText(text);
+    lblStrip.SetToolTip(text);
 }
 
 }  // namespace quirn

@@ -25,14 +25,18 @@ public:
     bool KeyDown(int key);  // of the form; true swallows it
     void ShowCounts(const LogView& view);
     void ShowNews(const std::string& text);  // of a log that is followed
+    void ShowFile(const std::string& name);  // that the line in sight comes from
 
 private:
+    void ShowStrip();
+
     Timer pause_;
+    std::string news_, file_;
 
     Label lblOnly;
     TextBox txtFilter;
     Button cmdShowAll;
-    Label lblCounts, lblNews;
+    Label lblCounts, lblStrip;
 };
 
 }  // namespace quirn

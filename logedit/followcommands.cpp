@@ -22,9 +22,9 @@ FollowCommands::FollowCommands(Form& form, LogEdit& edit, VirtualList& list, Pla
     };
 }
 
-void FollowCommands::Opened(const std::string& path) {
+void FollowCommands::Opened(const LogPaths& paths) {
     Stop("");
-    path_ = path;
+    paths_ = paths;
 }
 
 void FollowCommands::Reload() {
@@ -59,7 +59,7 @@ void FollowCommands::End(const std::string& words) {
 
 // A log that cannot be read leaves what is shown.
 bool FollowCommands::Read(bool follow) {
-    Result<std::shared_ptr<const ParsedLog>> log = follow ? follower_.Start(path_, {}, {}) : ReadLog(path_, {}, {});
+    Result<std::shared_ptr<const ParsedLog>> log = follow ? follower_.Start(paths_, {}, {}) : ReadLog(paths_, {}, {});
     if (log.Failed()) {
         if (follow) Stop("Not followed: the file cannot be read");
         else ShowError(log.Error());

@@ -20,10 +20,10 @@ public:
 
     std::function<void(bool follows)> onFollow;  // it has begun or stopped
 
-    const std::string& Path() const { return path_; }
-    bool HasFile() const { return !path_.empty(); }
+    const LogPaths& Paths() const { return paths_; }
+    bool HasFile() const { return !paths_.empty(); }
 
-    void Opened(const std::string& path);  // another log, which nobody follows yet; an empty text: none
+    void Opened(const LogPaths& paths);  // another log, which nobody follows yet; without paths: none
     void Reload();
     void Follow();  // or stops it
     void GoToEnd();
@@ -41,7 +41,7 @@ private:
     PlayerPanel& players_;
     ViewCommands& commands_;
     FilterRow& row_;
-    std::string path_;
+    LogPaths paths_;
     LogFollower follower_;
     size_t unseen_ = 0;  // new lines since the end was in sight
     Timer timer_;

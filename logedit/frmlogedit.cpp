@@ -1,5 +1,7 @@
 #include "logedit/frmlogedit.h"
 
+#include <algorithm>
+
 #include "auxiliary/menuhelp.h"
 #include "logedit/linecolors.h"
 #include "logedit/logmenurows.h"
@@ -9,6 +11,7 @@
 #include "platform/dialogs.h"
 #include "platform/measures.h"
 #include "platform/version.h"
+#include "profile/documentnames.h"
 #include "profile/splitpath.h"
 
 namespace quirn {
@@ -46,6 +49,12 @@ constexpr char kSaved[] = "File has been saved";
 constexpr char kHowToBegin[] = "Open a log with Ctrl+O, or drop one here.";
 constexpr char kAllHidden[] = "All lines are hidden or deleted.";
 
+// "monday.log"; of several the first and the last one.
+std::string NameOf(const LogPaths& paths) {
+    const std::string last = SplitPath(paths.back()).File();
+    return paths.size() == 1 ? last : SplitPath(paths.front()).File() + " to " + last;
+}
+
 }  // namespace
 
 frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
@@ -65,7 +74,12 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
       StatusBar1(*this, kCountPanelWidth),
       commands_(edit, lstLog, players_, [this] { ShowCounts(); }),
       follow_(*this, edit, lstLog, players_, commands_, row_),
-      find_([this](const std::string& text) { commands_.FindNext(text); }, edit.lastSearch),
+      find_(
+          [this](const std::string& text) {
+              commands_.FindNext(text);
+              ShowFile();
+          },
+          edit.lastSearch),
       statistics_([this](bool shownOnly) { return commands_.CountPlayers(shownOnly); },
                   [this](const std::string& player) { commands_.OnlyPlayer(player); }) {
     for (size_t i = 0; i < kFilterBoxCount; ++i) {
@@ -84,6 +98,7 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
         if (!edit_.colorsByType) return std::nullopt;
         return ColorOfType(TypeOf(edit_.view.Info(item)), background);
     };
+    lstLog.onMove = [this] { ShowFile(); };
     lstLog.onRightMouseDown = [this] { lstLog_MouseDown(); };
     row_.onText = [this](const std::string& text) { commands_.FilterByText(text); };
     row_.onShowAll = [this] { commands_.ShowAll(); };
@@ -103,7 +118,7 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
     onUnload = [this] { return Form_Unload(); };
     onKeyDown = [this](int key, bool control) { return Form_KeyDown(key, control); };
     onKeyPress = [this](char character) { players_.KeyPress(character); };
-    onDropFiles = [this](const std::vector<std::string>& paths) { OpenLog(paths.front()); };
+    onDropFiles = [this](const std::vector<std::string>& paths) { OpenLog(InOrderOfWriting(paths)); };
 }
 
 // Each time the window opens it starts anew.
@@ -118,7 +133,7 @@ void frmLogEdit::Form_Load() {
     for (const int command : {mnuOptions_Apply, mnuOptions_LineNums, mnuEdit_Keep, mnuView_Unknown, mnuView_All})
         menuBar_.SetChecked(command, false);
     row_.Reset();
-    follow_.Opened("");
+    follow_.Opened({});
     edit_.chkFilters.fill(1);
     for (CheckBox& box : chkFilters) box.SetValue(1);
     edit_.LogFilterMask = BuildFilterMask(edit_.chkFilters);
@@ -152,13 +167,14 @@ bool frmLogEdit::Form_Unload() {
     row_.Reset();
     find_.Unload();
     statistics_.Unload();
-    follow_.Opened("");
+    follow_.Opened({});
     return true;
 }
 
 bool frmLogEdit::Form_KeyDown(int key, bool control) {
     if (control && key == kKeyEnd && lstLog.HasFocus()) {
         follow_.GoToEnd();
+        ShowFile();
         return true;
     }
     if (control) return false;
@@ -184,7 +200,17 @@ void frmLogEdit::mnuFile_Open_Click() {
                                    .folder = gameFolder_,
                                    .fileName = "",
                                    .flags = kHideReadOnly});
-    if (path) OpenLog(*path);
+    if (path) OpenLog({*path});
+}
+
+void frmLogEdit::mnuFile_Several_Click() {
+    const std::vector<std::string> paths = AskOpenFiles({.title = "Open Several",
+                                                         .filter = kLogFilter,
+                                                         .filterIndex = kLogFiles,
+                                                         .folder = gameFolder_,
+                                                         .fileName = "",
+                                                         .flags = kHideReadOnly | kFileMustExist});
+    if (!paths.empty()) OpenLog(InOrderOfWriting(paths));
 }
 
 void frmLogEdit::mnuFile_SaveAs_Click() {
@@ -194,7 +220,7 @@ void frmLogEdit::mnuFile_SaveAs_Click() {
                                    .folder = gameFolder_,
                                    .fileName = kLogSaveName,
                                    .flags = kHideReadOnly | kOverwritePrompt});
-    if (!path) return;
+    if (!path || !MayReplace(*path)) return;
     // A player who trusts in a file that is not there would lose his work.
     if (Failure failure = SaveFilteredLog(edit_.view, *path)) {
         ShowError(failure);
@@ -205,9 +231,20 @@ void frmLogEdit::mnuFile_SaveAs_Click() {
     StatusBar1.SetText(kSaved);
 }
 
+// One of several logs would then hold the lines of all.
+bool frmLogEdit::MayReplace(const std::string& path) const {
+    const LogPaths& paths = follow_.Paths();
+    if (paths.size() < 2 ||
+        std::none_of(paths.begin(), paths.end(), [&](const auto& log) { return IsSameFile(log, path); }))
+        return true;
+    return ShowMessage("'" + SplitPath(path).File() +
+                           "' is one of the logs that are shown.\r\rReplace it by all the lines shown?",
+                       kOkCancel | kExclamation) == Answer::Ok;
+}
+
 // By value: opening moves the list's entries.
 void frmLogEdit::mnuFileMRU_Click(size_t index) {
-    OpenLog(std::string(edit_.LogMRU[index]));
+    OpenLog({std::string(edit_.LogMRU[index])});
 }
 
 void frmLogEdit::Toggle(int command, bool& option) {
@@ -228,10 +265,11 @@ void frmLogEdit::FindAgain(bool upwards) {
     if (edit_.lastSearch.empty()) mnuSearch_Find_Click();
     else if (upwards) commands_.FindPrevious(edit_.lastSearch);
     else commands_.FindNext(edit_.lastSearch);
+    ShowFile();
 }
 
 void frmLogEdit::mnuView_Statistics_Click() {
-    statistics_.Open(*this, SplitPath(follow_.Path()).File());
+    statistics_.Open(*this, NameOf(follow_.Paths()));
 }
 
 void frmLogEdit::mnuView_Unknown_Click() {
@@ -271,7 +309,7 @@ void frmLogEdit::chkFilters_Click() {
     if (edit_.applyAtOnce) ApplyLogFilter();
 }
 
-void frmLogEdit::OpenLog(const std::string& path) {
+void frmLogEdit::OpenLog(const LogPaths& paths) {
     bool begun = false;
     const ParseSteps steps{
         .onReading =
@@ -290,8 +328,9 @@ void frmLogEdit::OpenLog(const std::string& path) {
             },
         .onEnd = [&] { progress_.Hide(); },
     };
-    const ParseResult result = ParseLogFile(edit_, path, steps);
-    if (!result.found) ShowMessage("ERROR - Could not find log file named '" + path + "'", kCritical);
+    const ParseResult result = ParseLogFile(edit_, paths, steps);
+    if (!result.missing.empty())
+        ShowMessage("ERROR - Could not find log file named '" + result.missing + "'", kCritical);
     ShowError(result.failure);
     // Without a file, or with one that cannot be opened, the lists stay as they are.
     if (begun) {
@@ -302,10 +341,10 @@ void frmLogEdit::OpenLog(const std::string& path) {
         StatusBar1.SetText(kLoadFailed);
         return;
     }
-    follow_.Opened(path);
-    AddToLogMRU(edit_.LogMRU, path);
+    follow_.Opened(paths);
+    for (const std::string& path : paths) AddToLogMRU(edit_.LogMRU, path);
     RefreshLogMRUMenu();
-    SetCaption(std::string(kFullTitle) + " - " + SplitPath(path).File());
+    SetCaption(std::string(kFullTitle) + " - " + NameOf(paths));
     StatusBar1.SetText(kLoaded);
     ApplyLogFilter();
 }
@@ -342,6 +381,11 @@ void frmLogEdit::ShowCounts() {
     menuBar_.SetChecked(mnuView_All, edit_.view.ShowsAll());
     lstLog.SetEmptyText(commands_.HasLog() ? kAllHidden : kHowToBegin);
     row_.ShowCounts(edit_.view);
+    ShowFile();
+}
+
+void frmLogEdit::ShowFile() {
+    row_.ShowFile(commands_.FileInSight());
 }
 
 }  // namespace quirn

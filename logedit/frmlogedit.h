@@ -34,7 +34,9 @@ private:
     std::vector<MenuRow> LogPopupRows();
     std::vector<MenuRow> PlayersPopupRows();
     void mnuFile_Open_Click();
+    void mnuFile_Several_Click();
     void mnuFile_SaveAs_Click();
+    bool MayReplace(const std::string& path) const;
     void mnuFileMRU_Click(size_t index);
     void mnuFile_Close_Click() { Unload(); }
     void Toggle(int command, bool& option);
@@ -50,13 +52,14 @@ private:
 
     void chkFilters_Click();
 
-    void OpenLog(const std::string& path);
+    void OpenLog(const LogPaths& paths);
     void ApplyLogFilter();
     void SelectAll();
     void CopySelected();
     void CopyLines();
     void lstLog_MouseDown();
     void ShowCounts();
+    void ShowFile();
 
     const std::string& gameFolder_;
     LogEdit& edit_;

@@ -1,9 +1,11 @@
 #include "logedit/logedit.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "logedit/logparser.h"
 #include "platform/files.h"
+#include "platform/folders.h"
+#include "platform/text.h"
 
 namespace quirn {
 
@@ -20,11 +22,12 @@ uint32_t LogEdit::KnownTypes() const {
 
 namespace {
 
-// What a file that could not be read leaves.
-void Clear(LogEdit& edit, const RuntimeError& error) {
-    if (error.number == static_cast<int>(ErrorNumber::OutOfMemory)) return;
+// What files that could not be read leave.
+void Clear(LogEdit& edit, const RuntimeError& error, bool several) {
+    const bool tooManyPlayers = error.number == static_cast<int>(ErrorNumber::Overflow);
+    if (error.number == static_cast<int>(ErrorNumber::OutOfMemory) || (several && !tooManyPlayers)) return;
     edit.LogLines = std::make_shared<ParsedLog>();
-    if (error.number != static_cast<int>(ErrorNumber::Overflow)) return;
+    if (!tooManyPlayers) return;
     edit.include.Clear();
     edit.exclude.Clear();
     edit.view.Clear();
@@ -32,15 +35,29 @@ void Clear(LogEdit& edit, const RuntimeError& error) {
 
 }  // namespace
 
-ParseResult ParseLogFile(LogEdit& edit, const std::string& path, const ParseSteps& steps) {
-    edit.LogFilterMask = BuildFilterMask(edit.chkFilters);
-    if (!FileExists(path)) {
-        edit.LogLines = std::make_shared<ParsedLog>();
-        return {.found = false, .failure = {}};
+LogPaths InOrderOfWriting(const LogPaths& paths) {
+    std::vector<std::pair<uint64_t, std::string>> files;
+    for (const std::string& path : paths) {
+        const std::optional<FolderEntry> entry = FindEntry(path);
+        files.emplace_back(entry ? entry->writtenLast : 0, AbsolutePath(path));
     }
-    Result<std::shared_ptr<const ParsedLog>> log = ReadLog(path, steps.onReading, steps.onProgress);
+    std::sort(files.begin(), files.end());
+    LogPaths ordered;
+    for (auto& file : files)
+        if (ordered.empty() || !EqualNoCase(ordered.back(), file.second)) ordered.push_back(std::move(file.second));
+    return ordered;
+}
+
+ParseResult ParseLogFile(LogEdit& edit, const LogPaths& paths, const ParseSteps& steps) {
+    const bool several = paths.size() > 1;
+    edit.LogFilterMask = BuildFilterMask(edit.chkFilters);
+    if (const auto missing = std::find_if_not(paths.begin(), paths.end(), FileExists); missing != paths.end()) {
+        if (!several) edit.LogLines = std::make_shared<ParsedLog>();
+        return {.missing = *missing, .failure = {}};
+    }
+    Result<std::shared_ptr<const ParsedLog>> log = ReadLog(paths, steps.onReading, steps.onProgress);
     if (log.Failed()) {
-        Clear(edit, log.Error());
+        Clear(edit, log.Error(), several);
     } else {
         edit.LogLines = log.Take();
         edit.include.Clear();  // its old players are not to be painted over the new log
@@ -50,7 +67,7 @@ ParseResult ParseLogFile(LogEdit& edit, const std::string& path, const ParseStep
         edit.include.Fill(edit.LogLines);
     }
     if (steps.onEnd) steps.onEnd();
-    return {.found = true, .failure = log.Failed() ? Failure(log.Error()) : Failure()};
+    return {.missing = {}, .failure = log.Failed() ? Failure(log.Error()) : Failure()};
 }
 
 Failure ApplyLogFilter(LogEdit& edit) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "logedit/logfilter.h"
+#include "logedit/logreader.h"
 #include "logedit/logview.h"
 #include "logedit/parsedlog.h"
 #include "logedit/playerlist.h"
@@ -36,6 +37,9 @@ struct LogEdit {
     void Forget();
 };
 
+// In the order in which the files were written last, since their lines bear no times; each file once.
+LogPaths InOrderOfWriting(const LogPaths& paths);
+
 // What the window shows while a log is parsed; each may be empty.
 struct ParseSteps {
     // Reading begins: "Reading && Parsing Log File...", the bar from 0 to the file's size in bytes.
@@ -50,17 +54,18 @@ struct ParseSteps {
 };
 
 struct ParseResult {
-    bool found = true;  // there is such a file
-    Failure failure;    // why it could not be read
+    std::string missing;  // a path where no file is
+    Failure failure;      // why the log could not be read
 
-    bool Loaded() const { return found && !failure; }
+    bool Loaded() const { return missing.empty() && !failure; }
 };
 
-// Reads and parses a log. When it is loaded LogLines holds it, the include list its players, the exclude list and the
-// view are empty; the caller applies the filter next. A file that is not found or does not open leaves LogLines with
-// its one empty element but the lists as they were, on purpose; one that memory cannot hold leaves everything as it
-// was; one with too many players empties all of it.
-ParseResult ParseLogFile(LogEdit& edit, const std::string& path, const ParseSteps& steps);
+// Reads and parses a log, of one file or of several in this order. When it is loaded LogLines holds it, the include
+// list its players, the exclude list and the view are empty; the caller applies the filter next. A file that is not
+// found or does not open leaves LogLines with its one empty element but the lists as they were, on purpose; one that
+// memory cannot hold leaves everything as it was; one with too many players empties all of it. Of several, one that is
+// missing or does not open leaves everything as it was.
+ParseResult ParseLogFile(LogEdit& edit, const LogPaths& paths, const ParseSteps& steps);
 
 // Rebuilds the view from LogLines, the mask and the lists. When memory runs out the view stays as it was.
 Failure ApplyLogFilter(LogEdit& edit);

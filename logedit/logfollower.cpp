@@ -21,31 +21,27 @@ size_t RoomFor(size_t size) {
 
 }  // namespace
 
-Result<std::shared_ptr<const ParsedLog>> LogFollower::Start(const std::string& path,
+Result<std::shared_ptr<const ParsedLog>> LogFollower::Start(const LogPaths& paths,
                                                             const std::function<void(uint64_t size)>& onOpen,
                                                             const LogProgress& progress) {
     Stop();
-    FileReader file;
-    if (Failure failure = file.Open(path)) return *failure;
-    if (file.Size() >= kLogSizeLimit) return ErrorNumber::OutOfMemory;
+    LogReader reader;
+    if (Failure failure = reader.Open(paths)) return *failure;
     try {
-        const auto size = static_cast<size_t>(file.Size());
+        const size_t room = RoomFor(static_cast<size_t>(reader.Size()));
         const auto log = std::make_shared<ParsedLog>();
-        auto parser = std::make_unique<LogParser>(*log, RoomFor(size));
+        auto parser = std::make_unique<LogParser>(*log, room);
         if (!parser->Ready()) return ErrorNumber::OutOfMemory;
-        if (onOpen) onOpen(size);
+        if (onOpen) onOpen(reader.Size());
+        const Result<size_t> available = reader.Read(*parser, progress);
+        if (available.Failed()) return available.Error();
+        parser->Publish();
         log_ = log;
         parser_ = std::move(parser);
-        path_ = path;
-        capacity_ = RoomFor(size);
-        available_ = 0;
-        if (Failure failure = ReadUpTo(file, size, progress)) {
-            Stop();
-            return *failure;
-        }
+        capacity_ = room;
+        available_ = available.Value();
         return std::shared_ptr<const ParsedLog>(log_);
     } catch (const std::bad_alloc&) {
-        Stop();
         return ErrorNumber::OutOfMemory;
     }
 }
@@ -57,17 +53,19 @@ void LogFollower::Stop() {
 
 LogFollower::News LogFollower::Look() {
     FileReader file;
-    if (!IsFollowing() || file.Open(path_)) return News::Gone;
-    if (file.Size() < available_ || !IsSameFile(file)) return News::Other;
-    if (file.Size() == available_) return News::None;
-    const auto size = static_cast<size_t>(std::min(file.Size(), kLogSizeLimit - 1));
+    if (!IsFollowing() || file.Open(log_->Files().back().path)) return News::Gone;
+    const uint64_t end = Begin() + file.Size();  // in the text
+    if (end < available_ || !IsSameFile(file)) return News::Other;
+    if (end == available_) return News::None;
+    const auto size = static_cast<size_t>(std::min(end, kLogSizeLimit - 1));
     if (size > capacity_) {
         if (!parser_->Grow(RoomFor(size))) return News::Gone;
         capacity_ = RoomFor(size);
     }
     const size_t lines = log_->LineCount();
     const bool wasEmpty = log_->Info(0) == 0;  // its one element stands for no line, and is shown as one
-    if (file.GoTo(available_) || ReadUpTo(file, size, {})) return News::Gone;
+    if (file.GoTo(available_ - Begin()) || ReadPieces(file, *parser_, available_, size, {})) return News::Gone;
+    parser_->Publish();
     if (wasEmpty && log_->Info(0) != 0) return News::Other;
     return log_->LineCount() > lines ? News::Grew : News::None;
 }
@@ -77,18 +75,13 @@ bool LogFollower::TakeHalfLine() {
     return parser_->Finish(available_) && log_->LineCount() > lines;
 }
 
-Failure LogFollower::ReadUpTo(FileReader& file, size_t end, const LogProgress& progress) {
-    Failure failure = ReadPieces(file, *parser_, available_, end, progress);
-    if (!failure) parser_->Publish();
-    return failure;
-}
-
 // A file that was put in its place may well be longer.
 bool LogFollower::IsSameFile(FileReader& file) const {
     std::array<char, kCompared> bytes{};
-    const size_t count = std::min(available_, kCompared);
+    const size_t read = available_ - Begin();
+    const size_t count = std::min(read, kCompared);
     if (count == 0) return true;
-    if (file.GoTo(available_ - count)) return false;
+    if (file.GoTo(read - count)) return false;
     const Result<size_t> got = file.Read(bytes.data(), count);
     return !got.Failed() && got.Value() == count &&
            std::memcmp(bytes.data(), log_->Text() + available_ - count, count) == 0;

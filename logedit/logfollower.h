@@ -5,12 +5,13 @@
 #include <string>
 
 #include "logedit/logparser.h"
+#include "logedit/logreader.h"
 #include "logedit/parsedlog.h"
 
 namespace quirn {
 
 // Reads a log that another program goes on writing: only what is new, with the parser where it stopped. A line without
-// an end waits. The file is open only while it is read, and never locked.
+// an end waits. Of several files it is the last that grows. It is open only while it is read, and never locked.
 class LogFollower {
 public:
     enum class News {
@@ -20,8 +21,8 @@ public:
         Gone,   // there is none, or it cannot be read
     };
 
-    // Reads the file as it is now. Failures as those of ReadLog.
-    Result<std::shared_ptr<const ParsedLog>> Start(const std::string& path,
+    // Reads the files as they are now. Failures as those of ReadLog.
+    Result<std::shared_ptr<const ParsedLog>> Start(const LogPaths& paths,
                                                    const std::function<void(uint64_t size)>& onOpen,
                                                    const LogProgress& progress);
     void Stop();
@@ -35,14 +36,13 @@ public:
     bool TakeHalfLine();
 
 private:
-    Failure ReadUpTo(FileReader& file, size_t end, const LogProgress& progress);
     bool IsSameFile(FileReader& file) const;
+    size_t Begin() const { return log_->Files().back().begin; }
 
-    std::string path_;
     std::shared_ptr<ParsedLog> log_;
     std::unique_ptr<LogParser> parser_;
     size_t capacity_ = 0;   // bytes that the log has room for
-    size_t available_ = 0;  // bytes that have been read
+    size_t available_ = 0;  // bytes of the text that have been read
 };
 
 }  // namespace quirn

@@ -54,6 +54,9 @@ enum Command : int {
     mnuView_Reload,
     mnuView_Follow,
     mnuView_Colors,
+    mnuFile_Several,
+    mnuView_Previous,
+    mnuView_Next,
 };
 
 }  // namespace logmenu

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <new>
 #include <utility>
 
 #include "logedit/logscan.h"
@@ -13,9 +12,6 @@
 namespace quirn {
 
 namespace {
-
-// Read and scanned at once: little enough to stay in the cache in between.
-constexpr size_t kReadBytes = size_t{256} * 1024;
 
 // What the first character of a prefix says when the second is a space; 0 for the first characters of lines that need a
 // closer look.
@@ -285,41 +281,6 @@ void LogParser::AddBlock() {
 
 bool LogParser::NumberPlayers() {
     return table_.Number({window_->pending, std::exchange(window_->pendingCount, 0)});
-}
-
-Failure ReadPieces(FileReader& file, LogParser& parser, size_t& available, size_t end, const LogProgress& progress) {
-    while (available < end) {
-        const Result<size_t> got = file.Read(parser.Buffer() + available, std::min(kReadBytes, end - available));
-        if (got.Failed()) return got.Error();
-        if (got.Value() == 0) break;
-        available += got.Value();
-        if (!parser.Advance(available)) return MakeError(ErrorNumber::Overflow);
-        if (progress) progress(parser.Consumed());
-    }
-    return {};
-}
-
-Result<std::shared_ptr<const ParsedLog>> ReadLog(const std::string& path,
-                                                 const std::function<void(uint64_t size)>& onOpen,
-                                                 const LogProgress& progress) {
-    FileReader file;
-    if (Failure failure = file.Open(path)) return *failure;
-    if (file.Size() >= kLogSizeLimit) return ErrorNumber::OutOfMemory;
-    try {
-        const auto log = std::make_shared<ParsedLog>();
-        const auto size = static_cast<size_t>(file.Size());
-        LogParser parser(*log, size);
-        if (!parser.Ready()) return ErrorNumber::OutOfMemory;
-        if (onOpen) onOpen(size);
-        // A file that grows meanwhile is read as far as it went.
-        size_t available = 0;
-        if (Failure failure = ReadPieces(file, parser, available, size, progress)) return *failure;
-        if (!parser.Finish(available)) return ErrorNumber::Overflow;
-        if (progress) progress(parser.Consumed());
-        return std::shared_ptr<const ParsedLog>(log);
-    } catch (const std::bad_alloc&) {
-        return ErrorNumber::OutOfMemory;
-    }
 }
 
 }  // namespace quirn

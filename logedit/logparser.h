@@ -2,18 +2,15 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 
 #include "logedit/parsedlog.h"
 #include "logedit/playertable.h"
-#include "platform/error.h"
-#include "platform/files.h"
 
-// Reads chat logs. The scan goes over the text in windows that stay in the processor's cache, first for the places that
-// matter (line ends, "> ", kills), then line by line, then for the players.
+// Parses chat logs. The scan goes over the text in windows that stay in the processor's cache, first for the places
+// that matter (line ends, "> ", kills), then line by line, then for the players.
 namespace quirn {
 
 struct ScanWindow;
@@ -28,6 +25,9 @@ public:
 
     bool Ready() const { return ready_; }
     char* Buffer() { return log_.text_.get() + ParsedLog::kMargin; }
+
+    // What comes from here on is this file's: where a line begins, or the next one, when the last has its end.
+    void BeginFile(const std::string& path, size_t available) { log_.files_.push_back({path, available}); }
 
     // So many bytes are there. Parses all whole lines in them. False when there are too many players; the log is then
     // of no use.
@@ -72,18 +72,5 @@ private:
     size_t longest_ = 0;
     uint64_t consumed_ = 0;
 };
-
-using LogProgress = std::function<void(uint64_t done)>;
-
-// Reads on in a file up to an end and parses what comes; available: how much of it has been read. A file that is cut is
-// read as far as it goes. Failures: those of FileReader; 6 for too many players.
-Failure ReadPieces(FileReader& file, LogParser& parser, size_t& available, size_t end, const LogProgress& progress);
-
-// What becomes of a file: a log, or why there is none. progress is told how far the parse is, in bytes of the file (as
-// Consumed), whenever another quarter of a megabyte is done. Errors: those of FileReader; 7 for a file that
-// memory cannot hold; 6 for one with too many players.
-Result<std::shared_ptr<const ParsedLog>> ReadLog(const std::string& path,
-                                                 const std::function<void(uint64_t size)>& onOpen,
-                                                 const LogProgress& progress);
 
 }  // namespace quirn

@@ -1,5 +1,6 @@
 #include "logedit/parsedlog.h"
 
+#include <algorithm>
 #include <cstring>
 #include <new>
 
@@ -21,6 +22,23 @@ std::string_view ParsedLog::Line(size_t line) const {
     // A CR belongs to the line's end only when an LF of the file follows.
     if (end > begin && end[-1] == '\r' && end < Text() + textSize_) --end;
     return {begin, end};
+}
+
+size_t ParsedLog::FileOf(size_t line) const {
+    const auto next = std::upper_bound(files_.begin(), files_.end(), Offset(line),
+                                       [](size_t offset, const LogFile& file) { return offset < file.begin; });
+    return static_cast<size_t>(std::max(next, files_.begin() + 1) - files_.begin()) - 1;
+}
+
+size_t ParsedLog::FirstLineOf(size_t file) const {
+    size_t first = 0;
+    for (size_t count = lineCount_; count > 0;) {
+        const size_t half = count / 2;
+        const bool before = Offset(first + half) < files_[file].begin;
+        if (before) first += half + 1;
+        count = before ? count - half - 1 : half;
+    }
+    return first;
 }
 
 bool ParsedLog::Allocate(size_t size) {

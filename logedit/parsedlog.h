@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -47,6 +48,12 @@ struct LineBlock {
 // can be written to a file as one piece.
 inline constexpr uint32_t kDirectlyFollowed = 1u << 31;
 
+// A file that a part of the text comes from.
+struct LogFile {
+    std::string path;
+    size_t begin;  // bytes from Text()
+};
+
 class ParsedLog {
 public:
     // LogLines and LogLineInfo before any file: one element, an empty line without a type.
@@ -66,6 +73,11 @@ public:
     bool DirectlyFollowed(size_t line) const { return (Begin(line) & kDirectlyFollowed) != 0; }
     const char* Text() const { return text_.get() + kMargin; }
     size_t TextSize() const { return textSize_; }  // bytes
+
+    // In the order of the text; none before any file.
+    const std::vector<LogFile>& Files() const { return files_; }
+    size_t FileOf(size_t line) const;       // as an index of Files()
+    size_t FirstLineOf(size_t file) const;  // or of a later one; LineCount() when there is none
 
     const std::vector<std::unique_ptr<LineBlock>>& Blocks() const { return blocks_; }
     size_t LongestLine() const { return longestLine_; }  // bytes
@@ -87,6 +99,7 @@ private:
 
     std::unique_ptr<char[]> text_;
     size_t textSize_ = 0;
+    std::vector<LogFile> files_;
     std::vector<std::unique_ptr<LineBlock>> blocks_;
     size_t lineCount_ = 1;
     size_t longestLine_ = 0;

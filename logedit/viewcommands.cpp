@@ -5,6 +5,7 @@
 #include "logedit/logfind.h"
 #include "platform/dialogs.h"
 #include "platform/text.h"
+#include "profile/splitpath.h"
 
 namespace quirn {
 
@@ -134,6 +135,41 @@ void ViewCommands::FindPrevious(const std::string& text) {
     list_.SetSelection(one);
     list_.SetTopIndex(*hit);
     list_.SetCurrent(*hit);
+}
+
+std::optional<size_t> ViewCommands::LogInSight() const {
+    const LogView& view = edit_.view;
+    if (!HasSeveral() || view.Count() == 0) return std::nullopt;
+    const size_t item = CurrentInSight().value_or(list_.TopIndex());
+    return view.Log()->FileOf(view.LineIndex(std::min(item, view.Count() - 1)));
+}
+
+std::string ViewCommands::FileInSight() const {
+    const std::optional<size_t> file = LogInSight();
+    return file ? SplitPath(edit_.view.Log()->Files()[*file].path).File() : std::string();
+}
+
+void ViewCommands::GoToNextLog() {
+    const std::optional<size_t> file = LogInSight();
+    if (!file || *file + 1 == edit_.view.Log()->Files().size()) return;
+    GoToLine(edit_.view.Log()->FirstLineOf(*file + 1));
+}
+
+// The first log before it of which a line is shown; from the first log to its start.
+void ViewCommands::GoToPreviousLog() {
+    const std::optional<size_t> file = LogInSight();
+    if (!file) return;
+    const LogView& view = edit_.view;
+    const ParsedLog& log = *view.Log();
+    const size_t first = view.ItemOfLine(log.FirstLineOf(*file));
+    GoToLine(first == 0 ? 0 : log.FirstLineOf(log.FileOf(view.LineIndex(first - 1))));
+}
+
+void ViewCommands::GoToLine(size_t line) {
+    const size_t item = edit_.view.ItemOfLine(line);
+    if (item == edit_.view.Count()) return;
+    list_.SetTopIndex(item);
+    list_.SetCurrent(item);
 }
 
 uint32_t ViewCommands::Speaker() const {

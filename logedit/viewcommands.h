@@ -19,6 +19,13 @@ public:
     // shown: the view has changed and is to be counted anew. All outlive it.
     ViewCommands(LogEdit& edit, VirtualList& list, PlayerPanel& players, std::function<void()> shown);
 
+    // Of several logs that are shown as one: the one that the line at the keyboard comes from, or the first one in
+    // sight.
+    bool HasSeveral() const { return HasLog() && edit_.view.Log()->Files().size() > 1; }
+    std::string FileInSight() const;  // without its folder; empty when there are not several
+    void GoToNextLog();               // its first line that is shown
+    void GoToPreviousLog();
+
     bool HasLog() const { return edit_.view.Log() != nullptr; }
     bool CanUndo() const { return edit_.view.CanUndo(); }
     bool CanRedo() const { return edit_.view.CanRedo(); }
@@ -59,6 +66,8 @@ private:
 
     LinesInPlace Remember() const;
     std::optional<size_t> CurrentInSight() const;
+    std::optional<size_t> LogInSight() const;  // index of the log's files
+    void GoToLine(size_t line);
     ListSelection ItemsOf(const ListSelection& lines) const;
     uint32_t Speaker() const;  // 0: nobody
     void Restore(const LogView::Restored& restored);

@@ -297,6 +297,63 @@ TEST_F(LogEditTest, FollowingLosesNoLastLineAndNoSelectedName) {
     EXPECT_EQ(Shown(Log()).back(), "  Bo> half");
 }
 
+TEST_F(LogEditTest, SeveralLogsAreShownAsOneInTheOrderOfTheirTimes) {
+    const std::string friday = Scratch() + "\\friday.log", tuesday = Scratch() + "\\tuesday.log";
+    const auto strip = [this](const char* start) { return Find<Label>(*form_, start).Text(); };
+    WaitForEvents(60);
+    PutFile(tuesday, "  Cy> no end");
+    WaitForEvents(60);
+    PutFile(friday, "  Cy> last\r\n  Zed> end\r\n");
+    headless::ExpectOpenFiles("Open Several", {friday, tuesday, path_});
+    Choose(*form_, mnuFile_Several);
+    EXPECT_EQ(form_->Caption(), kTitleText + " - monday.log to friday.log");
+    const Lines all{"  Bo> one",     "P Cy> two",    "T Ann> three", "  Welcome",
+                    "  Cy> four BO", "  Cy> no end", "  Cy> last",   "  Zed> end"};
+    EXPECT_EQ(Shown(Log()), all);
+    EXPECT_EQ(Shown(List("Include")), (Lines{"Ann", "Bo", "Cy", "Dee", "Zed"}));
+    EXPECT_EQ(strip("monday"), "monday.log");
+    ClickItem(Log(), 5);
+    EXPECT_EQ(strip("tuesday"), "tuesday.log");
+    quirn::test::Press(*form_, kKeyPageDown, true);
+    EXPECT_EQ(Log().Current(), 6u);
+    EXPECT_EQ(strip("friday"), "friday.log");
+    quirn::test::Press(*form_, kKeyPageDown, true);
+    EXPECT_EQ(Log().Current(), 6u) << "there is none behind it";
+
+    edit_.view.SetText(TextFilter("-end"));  // nothing of tuesday.log
+    ClickItem(List("Include"), 0);
+    Press(">>");
+    Press("Apply Filter");
+    Log().SetCurrent(4);
+    quirn::test::Press(*form_, kKeyPageUp, true);
+    EXPECT_EQ(Log().Current(), 0u) << "over a log of which nothing is shown";
+    EXPECT_EQ(strip("monday"), "monday.log");
+
+    Choose(*form_, mnuView_Follow);
+    PutFile(friday, "  Cy> last\r\n  Zed> end\r\n  New> one\r\n");
+    WaitFor([this] { return Log().Count() == 6; });
+    EXPECT_EQ(Shown(Log()).back(), "  New> one");
+    EXPECT_EQ(strip("monday"), "monday.log - Following");
+
+    const std::string before = *FileBytes(tuesday);
+    headless::ExpectSaveFile("Save As", tuesday);
+    ExpectMessage("'tuesday.log' is one of the logs that are shown.\r\rReplace it by all the lines shown?",
+                  kOkCancel | kExclamation, Answer::Cancel);
+    Choose(*form_, mnuFile_SaveAs);
+    EXPECT_EQ(FileBytes(tuesday), before);
+
+    const std::string none = Scratch() + "\\none.log";
+    ExpectMessage("ERROR - Could not find log file named '" + none + "'", kCritical);
+    form_->onDropFiles({path_, none});
+    EXPECT_EQ(Log().Count(), 6u) << "what is shown stays";
+    EXPECT_EQ(ShownText(Status()), "ERROR loading log file");
+    form_->onDropFiles({tuesday, friday, tuesday});
+    EXPECT_EQ(edit_.LogLines->LineCount(), 4u) << "each file once";
+    EXPECT_EQ(form_->MenuBar()->Find(mnuFileMRU)->caption, "&1 " + friday);
+    Open(path_);
+    EXPECT_FALSE(ShownEnabled(*form_, mnuView_Next));
+}
+
 TEST_F(LogEditTest, ThePopupTakesTheLineUnderThePointer) {
     Open(path_);
     ChooseFromPopup(Log(), 0);  // nothing is selected: the first line is at the pointer

@@ -113,13 +113,13 @@ protected:
     ParseLogFileTest() {
         edit.chkFilters.fill(1);
         test::PutFile(In("two.log"), "  Ann> x\r\nT Bob> y\r\n");
-        EXPECT_TRUE(ParseLogFile(edit, In("two.log"), {}).Loaded());
+        EXPECT_TRUE(ParseLogFile(edit, {In("two.log")}, {}).Loaded());
         EXPECT_FALSE(ApplyLogFilter(edit));
     }
 
     // The number of the error that reading it gives; 0 for none.
     int Error(const std::string& name) {
-        const ParseResult result = ParseLogFile(edit, In(name), {});
+        const ParseResult result = ParseLogFile(edit, {In(name)}, {});
         return result.failure ? result.failure->number : 0;
     }
 
@@ -139,7 +139,7 @@ TEST_F(ParseLogFileTest, ReportsItsSteps) {
     std::string text = GenerateLog({1000000, 40, 3});
     test::PutFile(In("big.log"), text);
     edit.chkFilters = {1, 2, 0, 1};
-    EXPECT_TRUE(ParseLogFile(edit, In("big.log"), told).Loaded());
+    EXPECT_TRUE(ParseLogFile(edit, {In("big.log")}, told).Loaded());
     EXPECT_EQ(steps, "read " + std::to_string(text.size()) + " players 39 end");
     EXPECT_EQ(edit.LogFilterMask, static_cast<uint32_t>(kPublic | kFreq));  // a greyed box does not count
     EXPECT_TRUE(std::is_sorted(progress.begin(), progress.end()));
@@ -152,14 +152,14 @@ TEST_F(ParseLogFileTest, ReportsItsSteps) {
 
     test::PutFile(In("one.log"), "  Ann> x\r\n  ann> y\r\n");
     steps.clear();
-    EXPECT_TRUE(ParseLogFile(edit, In("one.log"), told).Loaded());
+    EXPECT_TRUE(ParseLogFile(edit, {In("one.log")}, told).Loaded());
     EXPECT_EQ(steps, "read 20 players 1 end");
     EXPECT_EQ(edit.include.Count(), 0u);  // the log of one player: kept on purpose
     EXPECT_EQ(PlayerOf(edit.LogLines->Info(1)), 1u);
 }
 
 TEST_F(ParseLogFileTest, AMissingFileLeavesTheListsButNotTheLines) {
-    EXPECT_FALSE(ParseLogFile(edit, In("gone.log"), {}).found);
+    EXPECT_EQ(ParseLogFile(edit, {In("gone.log")}, {}).missing, In("gone.log"));
     EXPECT_EQ(edit.view.Count(), 2u);
     EXPECT_EQ(edit.view.Text(1), "T Bob> y");  // still shown, still there
     EXPECT_EQ(edit.include.Name(0), "Ann");
@@ -167,7 +167,7 @@ TEST_F(ParseLogFileTest, AMissingFileLeavesTheListsButNotTheLines) {
     EXPECT_EQ(edit.view.Count(), 1u);
     EXPECT_EQ(edit.view.Text(0), "");
 
-    EXPECT_TRUE(ParseLogFile(edit, In("two.log"), {}).Loaded());
+    EXPECT_TRUE(ParseLogFile(edit, {In("two.log")}, {}).Loaded());
     EXPECT_FALSE(ApplyLogFilter(edit));
     edit.Forget();  // the Log menu, also while the window is open
     EXPECT_EQ(edit.view.Text(1), "T Bob> y");
@@ -187,7 +187,7 @@ TEST_F(ParseLogFileTest, WhatIsTooBigIsRefused) {
     std::string many;
     for (int i = 1; i <= 32767; ++i) many += "  player " + std::to_string(i) + "> x\r\n";
     test::PutFile(In("many.log"), many);
-    EXPECT_TRUE(ParseLogFile(edit, In("many.log"), {}).Loaded());
+    EXPECT_TRUE(ParseLogFile(edit, {In("many.log")}, {}).Loaded());
     EXPECT_EQ(edit.include.Count(), 32767u);
     EXPECT_EQ(PlayerOf(edit.LogLines->Info(32766)), 32767u);
     EXPECT_FALSE(ApplyLogFilter(edit));

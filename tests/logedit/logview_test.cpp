@@ -7,7 +7,7 @@
 #include "benchmarks/loggenerator.h"
 #include "logedit/logfind.h"
 #include "logedit/logfollower.h"
-#include "logedit/logparser.h"
+#include "logedit/logreader.h"
 #include "logedit/logsave.h"
 #include "logedit/logsettings.h"
 #include "logedit/logstatistics.h"
@@ -25,7 +25,7 @@ protected:
 
     void Open(std::string_view text) {
         test::PutFile(In("a.log"), text);
-        log = ReadLog(In("a.log"), {}, {}).Value();
+        log = ReadLog({In("a.log")}, {}, {}).Value();
         include.Fill(log);
         exclude.Clear();
         Apply(0x7FF, false);
@@ -104,7 +104,7 @@ TEST_F(LogViewTest, AGrowingLogIsWhatOneReadGives) {
         LogFollower follower;
         size_t at = random() % text.size();
         test::PutFile(In("g.log"), text.substr(0, at));
-        log = follower.Start(In("g.log"), {}, {}).Value();
+        log = follower.Start({In("g.log")}, {}, {}).Value();
         include.Fill(log);
         exclude.Clear();
         if (include.Count() > 3) Move(include, exclude, {include.Name(1)});
@@ -124,7 +124,7 @@ TEST_F(LogViewTest, AGrowingLogIsWhatOneReadGives) {
         if (anew) continue;
         std::vector<std::string> grown;
         for (size_t i = 0; i < view.Count(); ++i) grown.push_back(view.Text(i));
-        const auto whole = ReadLog(In("g.log"), {}, {}).Value();
+        const auto whole = ReadLog({In("g.log")}, {}, {}).Value();
         ASSERT_EQ(log->LineCount(), whole->LineCount());
         for (size_t i = 0; i < whole->LineCount(); ++i) {
             ASSERT_EQ(log->Line(i), whole->Line(i));
@@ -138,12 +138,63 @@ TEST_F(LogViewTest, AGrowingLogIsWhatOneReadGives) {
     }
     LogFollower follower;
     test::PutFile(In("g.log"), text);
-    follower.Start(In("g.log"), {}, {});
+    follower.Start({In("g.log")}, {}, {});
     EXPECT_EQ(follower.Look(), LogFollower::News::None);
     test::PutFile(In("g.log"), std::string(text.size() + 10, 'x'));
     EXPECT_EQ(follower.Look(), LogFollower::News::Other);
     test::PutFile(In("g.log"), text.substr(0, 10));
     EXPECT_EQ(follower.Look(), LogFollower::News::Other);
+}
+
+// Files cut anywhere are what one file gives in which each piece ends its last line.
+TEST_F(LogViewTest, SeveralLogsAreWhatOneReadGives) {
+    std::mt19937 random(11);
+    const std::string text = GenerateLog({30000, 20, 9});
+    for (int round = 0; round < 30; ++round) {
+        LogPaths paths;
+        std::string joined;
+        std::vector<size_t> begins, ends;
+        size_t at = random() % text.size();
+        for (size_t i = 0; i <= random() % 5; ++i) {
+            const std::string piece = text.substr(at, random() % 4 == 0 ? 0 : random() % 4000);
+            at = std::min(text.size(), at + piece.size());
+            if (!joined.empty() && !joined.ends_with('\n')) joined += "\r\n";
+            begins.push_back(joined.size());
+            joined += piece;
+            ends.push_back(joined.size());
+            paths.push_back(In(std::string(1, static_cast<char>('a' + i)) + ".log"));
+            test::PutFile(paths.back(), piece);
+        }
+        test::PutFile(In("whole.txt"), joined);
+        const auto whole = ReadLog({In("whole.txt")}, {}, {}).Value();
+        LogFollower follower;
+        const auto read = ReadLog(paths, {}, {}).Value();
+        const auto followed = follower.Start(paths, {}, {}).Value();
+        follower.TakeHalfLine();
+        for (const ParsedLog* several : {read.get(), followed.get()}) {
+            ASSERT_EQ(several->LineCount(), whole->LineCount());
+            ASSERT_EQ(several->Players(), whole->Players());
+            for (size_t line = 0; line < whole->LineCount(); ++line) {
+                ASSERT_EQ(several->Line(line), whole->Line(line));
+                ASSERT_EQ(several->Info(line), whole->Info(line));
+                if (whole->Info(line) == 0) continue;  // stands for no line
+                const size_t file = several->FileOf(line);
+                ASSERT_GE(whole->Offset(line), begins[file]);
+                ASSERT_LT(whole->Offset(line), ends[file]);
+                ASSERT_LE(several->FirstLineOf(file), line);
+                ASSERT_EQ(several->FileOf(several->FirstLineOf(file)), file);
+            }
+        }
+        if (whole->Info(0) == 0 || !joined.ends_with('\n')) continue;
+        const auto growing = follower.Start(paths, {}, {}).Value();
+        test::PutFile(paths.back(), *test::FileBytes(paths.back()) + "  More> of the last\r\n");
+        ASSERT_EQ(follower.Look(), LogFollower::News::Grew);
+        ASSERT_EQ(growing->Line(whole->LineCount()), "  More> of the last");
+    }
+    test::PutHugeFile(In("a.log"), kLogSizeLimit / 2);
+    test::PutHugeFile(In("b.log"), kLogSizeLimit / 2 - 1);
+    EXPECT_TRUE(ReadLog({In("a.log"), In("b.log")}, {}, {}).Failed()) << "too long with the line end between them";
+    EXPECT_EQ(ReadLog({In("c.log"), In("none.log")}, {}, {}).Error().description, "File not found: " + In("none.log"));
 }
 
 // Against a plain reading of the lines; names may hold brackets, and some players only kill or die.
