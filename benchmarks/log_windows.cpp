@@ -70,7 +70,7 @@ void Follow(const std::string& path, Steps& steps) {
     std::string added;
     for (int i = 0; i < 10000; ++i) added += "  Newcomer> what came while the log was open\r\n";
     LogFollower follower;
-    const auto log = follower.Start(copy, {}, {}).Value();
+    const auto log = follower.Start({copy}, {}, {}).Value();
     PlayerList include, exclude;
     LogView view;
     include.Fill(log);
