@@ -67,7 +67,7 @@ bool FollowCommands::Read(bool follow) {
     }
     edit_.LogLines = log.Take();
     players_.FillAgain();
-    commands_.KeepPlace([this] { ShowError(ApplyLogFilter(edit_)); });
+    commands_.ApplyPlayers();
     unseen_ = 0;
     if (follow) row_.ShowNews(kFollowing);
     return true;

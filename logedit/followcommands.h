@@ -11,7 +11,7 @@
 namespace quirn {
 
 // Reads the log that is shown again, once or as it grows. Types, excluded players, text, selected lines and the place
-// of the list stay what they are.
+// of the list stay what they are, and deleted lines deleted unless the files hold something else than before.
 class FollowCommands {
 public:
     // All outlive it.

@@ -38,11 +38,12 @@ size_t LogView::LongestText() const {
 Failure LogView::ApplyLogFilter(std::shared_ptr<const ParsedLog> log, uint32_t mask, const PlayerList& include,
                                 const PlayerList& exclude, bool lineNumbers, bool keepDeletedOut) {
     const bool another = log != log_;
+    const bool keeps = keepDeletedOut && (!another || (log_ && log->GoesOnFrom(*log_)));
     if (another || log->LineCount() > room_) {
         if (!MakeRoom(log->LineCount(), 0)) return MakeError(ErrorNumber::OutOfMemory);
         log_ = std::move(log);
     }
-    if (another || !keepDeletedOut) deletions_.Clear();
+    if (!keeps) deletions_.Clear();
     filter_ = MakeLineFilter(mask, include, exclude);
     all_.reset();
     Recompute();

@@ -61,7 +61,8 @@ public:
     void Clear();  // all but the text filter
 
     // Shows the lines of a log that pass the filter and the text filter. What was deleted before comes back, and cannot
-    // be undone any more, unless it is kept out. With 7 nothing has changed.
+    // be undone any more, unless it is kept out, in another log too when that goes on from this one. With 7 nothing has
+    // changed.
     Failure ApplyLogFilter(std::shared_ptr<const ParsedLog> log, uint32_t mask, const PlayerList& include,
                            const PlayerList& exclude, bool lineNumbers, bool keepDeletedOut = false);
 

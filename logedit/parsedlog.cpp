@@ -41,6 +41,14 @@ size_t ParsedLog::FirstLineOf(size_t file) const {
     return first;
 }
 
+bool ParsedLog::GoesOnFrom(const ParsedLog& earlier) const {
+    const size_t last = earlier.lineCount_ - 1;
+    if (lineCount_ <= last || Offset(last) != earlier.Offset(last)) return false;
+    const std::string_view line = earlier.Line(last);
+    const auto size = static_cast<size_t>(line.data() + line.size() - earlier.Text());
+    return size <= textSize_ && std::memcmp(Text(), earlier.Text(), size) == 0;
+}
+
 bool ParsedLog::Allocate(size_t size) {
     // Not filled with zeros: a page is touched when the file's bytes come in.
     text_.reset(new (std::nothrow) char[size + 2 * kMargin]);

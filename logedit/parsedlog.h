@@ -79,6 +79,9 @@ public:
     size_t FileOf(size_t line) const;       // as an index of Files()
     size_t FirstLineOf(size_t file) const;  // or of a later one; LineCount() when there is none
 
+    // Whether it begins with all lines of another one, which may have been read before the files grew.
+    bool GoesOnFrom(const ParsedLog& earlier) const;
+
     const std::vector<std::unique_ptr<LineBlock>>& Blocks() const { return blocks_; }
     size_t LongestLine() const { return longestLine_; }  // bytes
 

@@ -18,7 +18,7 @@ import player as at  # noqa: E402  (found by the line above)
 from conftest import GAME_KEY, desk, whole_desk  # noqa: E402,F401  (fixtures)
 from machine import ROOT, wait_for  # noqa: E402
 from player import PAGES, Player  # noqa: E402
-from test_log_editor import LogEditor  # noqa: E402
+from test_log_editor import COLORS, SEVERAL, LogEditor  # noqa: E402
 
 SHIP = ROOT / "resources/ship"
 LOOK = os.environ.get("QUIRN_PICTURES")
@@ -183,6 +183,14 @@ def test_log_editor(desk, camera):
     desk.user.ask("place", statistics.handle, 4, 24, 100, 100)
     camera([statistics.window()], "log-statistics-smallest")
     leave(statistics)
+    editor.keys("Escape")
+    desk.file("tuesday.log").write_bytes(b"  Ann> and another day\r\nP Bob> see you\r\n")
+    editor.command(SEVERAL)
+    editor.in_file_dialog("Open Several", '"monday.log" "tuesday.log"')
+    editor.expect_status("Log file has been loaded")
+    editor.command(COLORS)
+    editor.keys("Tab")
+    camera([editor.window()], "log-colors")
     for size, name in (((100, 100), "log-editor-smallest"), ((1270, 960), "log-editor-large")):
         desk.user.ask("place", editor.handle, 4, 24, *size)
         camera([editor.window()], name)

@@ -1,9 +1,11 @@
 """The log editor in the shipped program: the player's way through a log, and what he finds in the file afterwards."""
+import os
+
 from machine import wait_for
 from player import Player, start
 
 (OPEN, MRU, CLOSE, LINE_NUMBERS) = (2, 5, 11, 18)
-FOLLOW = 50
+FOLLOW, COLORS, SEVERAL = 50, 51, 52
 LOG_UTILITY, EXIT = 21, 18
 WM_COMMAND, LB_GETTOPINDEX = 273, 398
 WM_SYSCOMMAND, SC_MAXIMIZE = 274, 0xF030
@@ -201,3 +203,45 @@ def test_a_growing_log_is_followed_and_a_word_found_in_it(desk):
     wait_for(lambda: said("Not followed any more: the file is gone"), what="the end")
     editor.keys("alt+F4")
     editor.gone()
+
+
+def test_several_logs_are_shown_as_one(desk):
+    logs = {"monday.log": b"  Ann> one\r\n  bob> two\r\n", "tuesday.log": b"T Cid> three\r\n  Ann> no end",
+            "friday.log": b"  bob> five\r\n"}
+    for day, (name, text) in enumerate(logs.items()):
+        desk.file(name).write_bytes(text)
+        os.utime(desk.file(name), (1_000_000_000 + day * 86_400,) * 2)
+    all_lines = ["  Ann> one", "  bob> two", "T Cid> three", "  Ann> no end", "  bob> five"]
+    editor = LogEditor(desk)
+    editor.command(SEVERAL)
+    editor.in_file_dialog("Open Several", '"friday.log" "monday.log" "tuesday.log"')
+    editor.expect_status("Log file has been loaded")
+    assert editor.title() == FULL_TITLE + " - monday.log to friday.log"
+    assert editor.shown() == all_lines
+    assert editor.items(editor.list("Include")) == ["Ann", "bob", "Cid"]
+    named = lambda text: wait_for(lambda: [c for c in editor.of_class("Static") if c["caption"] == text],  # noqa: E731
+                                  what=text)
+    named("monday.log")
+    editor.click_item("Log", 3)
+    named("tuesday.log")
+    editor.keys("ctrl+Next")
+    named("friday.log")
+    editor.keys("ctrl+Prior")
+    named("tuesday.log")
+    desk.screenshot("several")
+
+    editor.command(FOLLOW)
+    with desk.file("friday.log").open("ab") as file:
+        file.write(b"  Ann> six\r\n")
+    wait_for(lambda: editor.shown() == [*all_lines, "  Ann> six"], what="the new line of the last log")
+    editor.keys("ctrl+s")
+    editor.in_file_dialog("Save As", r"C:\SubSpace\monday.log")
+    for box in iter(lambda: editor.quirn.box(), None):
+        if box.text.startswith("'monday.log' is one of the logs"):
+            box.press("Cancel")
+            break
+        box.press("Yes")  # the system's own question
+    assert desk.file("monday.log").read_bytes() == logs["monday.log"]
+    editor.user.ask("drop", editor.handle, r"C:\SubSpace\friday.log", r"C:\SubSpace\monday.log")
+    wait_for(lambda: editor.title().endswith("monday.log to friday.log"), what="the title")
+    wait_for(lambda: editor.shown() == ["  Ann> one", "  bob> two", "  bob> five", "  Ann> six"], what="two logs")

@@ -255,6 +255,12 @@ TEST_F(LogEditTest, FollowsALogAndKeepsWhatThePlayerChose) {
     WaitFor([this] { return Log().Count() == 5; });
     EXPECT_EQ(Shown(Log()).back(), "  New> half");
     EXPECT_EQ(Shown(List("Include")), (Lines{"Ann", "Bo", "Dee", "New"}));
+    quirn::test::Press(*form_, kKeyDelete);
+    Choose(*form_, mnuView_Reload);
+    EXPECT_EQ(Shown(Log()), (Lines{"  Bo> one", "  Welcome", "  Bo> six", "  New> half"})) << "deleted lines stay so";
+    Choose(*form_, mnuEdit_Undo);
+    EXPECT_EQ(Shown(Log())[1], "T Ann> three");
+    Choose(*form_, mnuEdit_Redo);
     PutFile(path_, "  Bo> anew\r\n  Cy> hidden\r\n");
     WaitFor([this] { return Log().Count() == 1; });
     EXPECT_EQ(Shown(Log()), Lines{"  Bo> anew"}) << "a shorter file is read from its start";

@@ -37,7 +37,7 @@ std::string Send(const Words& words) {
     return Done(Member("result", static_cast<long long>(result)));
 }
 
-// drop WINDOW FILE: what the shell sends when a file is dropped on the window. The list of files must lie in the
+// drop WINDOW FILE...: what the shell sends when files are dropped on the window. The list of files must lie in the
 // memory of the window's process.
 std::string Drop(const Words& words) {
     struct Header {  // of such a list: where the names begin, the point, and two flags
@@ -46,7 +46,9 @@ std::string Drop(const Words& words) {
         BOOL outside, wide;
     };
     const HANDLE process = OpenProcess(PROCESS_ALL_ACCESS, FALSE, ProcessOf(Window(words)));
-    const std::string names = Word(words, 2) + std::string(2, '\0');
+    std::string names;
+    for (size_t i = 2; i < words.size(); ++i) names += words[i] + '\0';
+    names += '\0';
     const Header header{sizeof(Header), {}, FALSE, FALSE};
     void* list =
         VirtualAllocEx(process, nullptr, sizeof header + names.size(), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
@@ -113,7 +115,7 @@ Commands ActingCommands() {
         {"post", Post},            // WINDOW MESSAGE WPARAM LPARAM
         {"send", Send},            // the same, waiting for the result
         {"minimise", Minimise},    // WINDOW
-        {"drop", Drop},            // WINDOW FILE
+        {"drop", Drop},            // WINDOW FILE...
         {"place", Place},          // WINDOW LEFT TOP [WIDTH HEIGHT]
         {"clipboard", Clipboard},  // TEXT
         {"take-icon", TakeIcon},   // WINDOW NUMBER
