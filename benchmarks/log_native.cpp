@@ -5,6 +5,7 @@
 #include "benchmarks/loggenerator.h"
 #include "logedit/logfind.h"
 #include "logedit/logparser.h"
+#include "logedit/logstatistics.h"
 #include "logedit/logview.h"
 
 // The steps of the log editor by themselves, in memory, with few players (300) and many (30000).
@@ -79,6 +80,24 @@ void Find(benchmark::State& state, const char* what, bool lineNumbers) {
 BENCHMARK_CAPTURE(Find, missing, "zzqqxx", false)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Find, missing_tags, "99zzqq", true)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Find, killed_by, "KILLED BY: k", false)->Unit(benchmark::kMillisecond);
+
+void FilterByText(benchmark::State& state, const char* text) {
+    const auto log = Parse(Text(300));
+    LogView view;
+    view.ApplyLogFilter(log, 0x7FF, {}, {}, false);
+    for (auto _ : state) view.SetText(TextFilter(text));
+    state.counters["lines"] = static_cast<double>(view.Count());
+}
+BENCHMARK_CAPTURE(FilterByText, word_without_another, "the -zone")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FilterByText, letter, "e")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FilterByText, without_a_word, "-the")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FilterByText, two_words, "you the")->Unit(benchmark::kMillisecond);
+
+void Statistics(benchmark::State& state) {
+    const auto log = Parse(Text(state.range(0)));
+    for (auto _ : state) benchmark::DoNotOptimize(CountPlayers(*log));
+}
+BENCHMARK(Statistics)->Arg(300)->Arg(30000)->Unit(benchmark::kMillisecond);
 
 void DeleteEighth(benchmark::State& state) {
     const auto log = Parse(Text(300));
