@@ -14,11 +14,10 @@ ParsedLog::ParsedLog() : text_(std::make_unique_for_overwrite<char[]>(2 * kMargi
     blocks_[0]->info[0] = 0;
 }
 
-std::string_view ParsedLog::Line(size_t line) const {
-    const char* begin = Text() + Offset(line);
-    if (DirectlyFollowed(line)) return {begin, Text() + Offset(line + 1) - 2};
+std::string_view ParsedLog::LineAlone(const char* begin) const {
     // There is a line end behind the text too.
-    const char* end = static_cast<const char*>(std::memchr(begin, '\n', textSize_ + 1 - Offset(line)));
+    const auto left = static_cast<size_t>(Text() + textSize_ - begin);
+    const char* end = static_cast<const char*>(std::memchr(begin, '\n', left + 1));
     // A CR belongs to the line's end only when an LF of the file follows.
     if (end > begin && end[-1] == '\r' && end < Text() + textSize_) --end;
     return {begin, end};

@@ -65,7 +65,11 @@ public:
 
     // A kept line as it stands in the file, with its two-character prefix, without a line-number tag and line end.
     // The text lives as long as this log.
-    std::string_view Line(size_t line) const;
+    std::string_view Line(size_t line) const {
+        const char* const begin = Text() + Offset(line);
+        if (DirectlyFollowed(line)) return {begin, Text() + Offset(line + 1) - 2};
+        return LineAlone(begin);
+    }
     int32_t Info(size_t line) const { return blocks_[line / kLinesPerBlock]->info[line % kLinesPerBlock]; }
 
     // Where a line starts, in bytes from Text().
@@ -94,6 +98,8 @@ private:
 
     // Line ends around the text, so that the parser may look a little over both ends.
     static constexpr size_t kMargin = 128;
+
+    std::string_view LineAlone(const char* begin) const;
 
     // Room for a file of so many bytes. False when memory cannot hold it.
     bool Allocate(size_t size);

@@ -1,35 +1,64 @@
 #include "logedit/textfilter.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 
-#include "logedit/linesearch.h"
 #include "platform/text.h"
 
 namespace quirn {
 
 namespace {
 
-// In a line of a log, which has readable bytes behind it.
-bool Holds(std::string_view line, const TextFinder& finder) {
-    return finder.Next(line.data(), line.data() + line.size()) != nullptr;
-}
+// Where a word stands in a stretch of the text, so that a line costs a look at a few bits however frequent the word is.
+class WordPlaces {
+public:
+    WordPlaces(const ParsedLog& log, const TextFinder& word, bool wanted) : log_(log), word_(word), wanted_(wanted) {}
 
-// Takes the items with a hit out of the lines.
-size_t Without(const ParsedLog& log, const TextFinder& finder, uint32_t* lines, size_t count) {
-    size_t kept = 0;
-    size_t next = 0;  // the first item that has not been looked at
-    const auto keepUpTo = [&](size_t item) {
-        std::copy(lines + next, lines + item, lines + kept);
-        kept += item - next;
-    };
-    ForEachHit({log, lines, count}, finder, 0, [&](size_t item) {
-        keepUpTo(item);
-        next = item + 1;
-        return true;
-    });
-    keepUpTo(count);
-    return kept;
-}
+    // Lines must come in ascending order.
+    bool Pass(std::string_view line) { return IsIn(line) == wanted_; }
+
+private:
+    bool IsIn(std::string_view line) {
+        if (line.size() < word_.Length()) return false;
+        const size_t places = line.size() - word_.Length() + 1;
+        if (places > kPlaces) return word_.Next(line.data(), line.data() + line.size()) != nullptr;
+        if (line.data() + places > begin_ + marked_) Mark(line.data());
+        return Any(static_cast<size_t>(line.data() - begin_), places);
+    }
+
+    static constexpr size_t kBlocks = 128;
+    static constexpr size_t kPlaces = kBlocks * 64;
+
+    // No further than a word can stand.
+    void Mark(const char* begin) {
+        const auto last = static_cast<size_t>(log_.Text() + log_.TextSize() - begin) - word_.Length();
+        const size_t blocks = std::min(kBlocks, last / 64 + 1);
+        word_.MarkPlaces(begin, blocks, places_.data());
+        begin_ = begin;
+        marked_ = blocks * 64;
+    }
+
+    bool Any(size_t place, size_t count) const {
+        for (; count > 127; count -= 64, place += 64)
+            if (From(place) != 0) return true;
+        // Lines are of any length; what a processor cannot guess is done without a branch.
+        const size_t near = std::min<size_t>(count, 64), far = count - near;
+        return (From(place) << (64 - near) | From(place + 64) << (63 - far) << 1) != 0;
+    }
+
+    uint64_t From(size_t place) const {
+        const size_t shift = place % 64;
+        return places_[place / 64] >> shift | places_[place / 64 + 1] << 1 << (63 - shift);
+    }
+
+    const ParsedLog& log_;
+    const TextFinder& word_;
+    bool wanted_;
+    const char* begin_ = nullptr;
+    size_t marked_ = 0;  // places from there on
+    std::array<uint64_t, kBlocks + 2> places_{};
+};
 
 }  // namespace
 
@@ -41,46 +70,36 @@ TextFilter::TextFilter(std::string_view text) {
         const bool quoted = text.starts_with('"');
         if (quoted) text.remove_prefix(1);
         const size_t end = std::min(text.find(quoted ? '"' : ' '), text.size());
-        Add(text.substr(0, end), wanted);
+        if (end > 0) words_.push_back({FoldCase(text.substr(0, end)), TextFinder(text.substr(0, end)), wanted});
         text.remove_prefix(std::min(end + 1, text.size()));
     }
-}
-
-void TextFilter::Add(std::string_view word, bool wanted) {
-    if (!word.empty()) (wanted ? wanted_ : unwanted_).push_back({FoldCase(word), TextFinder(word)});
-}
-
-// known: a word that is known to be there.
-bool TextFilter::Passes(std::string_view line, const Word* known) const {
-    return std::all_of(wanted_.begin(), wanted_.end(),
-                       [&](const Word& word) { return &word == known || Holds(line, word.finder); }) &&
-           std::none_of(unwanted_.begin(), unwanted_.end(), [&](const Word& word) { return Holds(line, word.finder); });
-}
-
-// The longest word is searched in the whole text; the others are looked for where it stands.
-size_t TextFilter::Apply(const ParsedLog& log, uint32_t* lines, size_t count) const {
-    if (wanted_.empty()) {
-        for (const Word& word : unwanted_) count = Without(log, word.finder, lines, count);
-        return count;
-    }
-    const Word& longest = *std::max_element(
-        wanted_.begin(), wanted_.end(), [](const Word& a, const Word& b) { return a.folded.size() < b.folded.size(); });
-    const bool alone = wanted_.size() == 1 && unwanted_.empty();
-    size_t kept = 0;
-    ForEachHit({log, lines, count}, longest.finder, 0, [&](size_t item) {
-        // Those in front of the present item are not needed any more.
-        if (alone || Passes(log.Line(lines[item]), &longest)) lines[kept++] = lines[item];
-        return true;
+    // Those first that leave the fewest lines for the others.
+    std::stable_sort(words_.begin(), words_.end(), [](const Word& a, const Word& b) {
+        return a.wanted != b.wanted ? a.wanted : a.folded.size() > b.folded.size();
     });
+}
+
+size_t TextFilter::Apply(const ParsedLog& log, uint32_t* lines, size_t count) const {
+    std::vector<WordPlaces> words;
+    for (const Word& word : words_) words.emplace_back(log, word.finder, word.wanted);
+    size_t kept = 0;
+    for (size_t i = 0; i < count; ++i) {
+        const uint32_t number = lines[i];
+        const std::string_view line = log.Line(number);
+        bool passes = words[0].Pass(line);
+        for (size_t k = 1; k < words.size() && passes; ++k) passes = words[k].Pass(line);
+        lines[kept] = number;
+        kept += passes;
+    }
     return kept;
 }
 
 std::vector<std::pair<size_t, size_t>> TextFilter::Marks(std::string_view text) const {
     std::vector<std::pair<size_t, size_t>> marks;
-    if (wanted_.empty()) return marks;
+    if (IsEmpty()) return marks;
     const std::string folded = FoldCase(text);
-    for (const Word& word : wanted_)
-        for (size_t at = folded.find(word.folded); at != std::string::npos;
+    for (const Word& word : words_)
+        for (size_t at = word.wanted ? folded.find(word.folded) : std::string::npos; at != std::string::npos;
              at = folded.find(word.folded, at + word.folded.size()))
             marks.emplace_back(at, word.folded.size());
     return marks;

@@ -17,9 +17,10 @@ public:
     TextFilter() = default;
     explicit TextFilter(std::string_view text);
 
-    bool IsEmpty() const { return wanted_.empty() && unwanted_.empty(); }
+    bool IsEmpty() const { return words_.empty(); }
 
-    // Keeps those of the lines, ascending indexes, that pass, in front. Returns how many they are.
+    // Keeps those of the lines, ascending indexes, that pass, in front. Returns how many they are. Not when it is
+    // empty.
     size_t Apply(const ParsedLog& log, uint32_t* lines, size_t count) const;
 
     // Where the wanted words stand in a text: first byte and length.
@@ -29,12 +30,10 @@ private:
     struct Word {
         std::string folded;
         TextFinder finder;
+        bool wanted;
     };
 
-    void Add(std::string_view word, bool wanted);
-    bool Passes(std::string_view line, const Word* known) const;
-
-    std::vector<Word> wanted_, unwanted_;
+    std::vector<Word> words_;
 };
 
 }  // namespace quirn

@@ -2,7 +2,9 @@
 
 #include <emmintrin.h>
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -19,6 +21,10 @@ public:
     // The first place in [from, end), or null. There must be 64 readable bytes behind the end.
     const char* Next(const char* from, const char* end) const;
 
+    // All places at once: a bit for each of 64 * blocks places from one on, the lowest first. Behind the last place and
+    // the length there must be 128 readable bytes. Not for an empty text.
+    void MarkPlaces(const char* from, size_t blocks, uint64_t* places) const;
+
     // Whether the text, or its rest from a place in it on, stands exactly here.
     bool StandsAt(const char* place, size_t from = 0) const;
 
@@ -29,10 +35,13 @@ private:
         char bits = 0;
         char value = 0;
     };
-    Probe MakeProbe(size_t offset) const;
+    class SixteenPlaces;
+    template <size_t kProbes>
+    void Mark(const char* from, size_t blocks, uint64_t* places) const;
 
     std::string folded_;
-    Probe first_, second_;
+    std::array<Probe, 3> probes_;  // the rarest first
+    size_t probeCount_ = 0;
 };
 
 }  // namespace quirn
