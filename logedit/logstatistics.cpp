@@ -1,9 +1,15 @@
 #include "logedit/logstatistics.h"
 
+#include <xmmintrin.h>
+
 #include <algorithm>
-#include <unordered_map>
+#include <array>
+#include <cstdint>
+#include <cstring>
+#include <utility>
 
 #include "logedit/logscan.h"
+#include "logedit/sse2.h"
 #include "platform/text.h"
 
 namespace quirn {
@@ -22,79 +28,217 @@ std::string_view WithoutNumbers(std::string_view text) {
     return text;
 }
 
+// The memory is fetched while something else is done.
+void Fetch(const void* place) {
+    _mm_prefetch(static_cast<const char*>(place), _MM_HINT_T0);
+}
+
+// As much of a name as is compared at once, in upper case and filled up with zeros.
+constexpr size_t kKeyBytes = 32;
+struct Key {
+    char bytes[kKeyBytes];
+
+    bool operator==(const Key& other) const {
+        const __m128i low = _mm_cmpeq_epi8(sse2::Load(bytes), sse2::Load(other.bytes));
+        const __m128i high = _mm_cmpeq_epi8(sse2::Load(bytes + 16), sse2::Load(other.bytes + 16));
+        return _mm_movemask_epi8(_mm_and_si128(low, high)) == 0xFFFF;
+    }
+};
+
+// A name as it is looked up.
+struct LookedUp {
+    std::string_view name;
+    Key key;
+    uint32_t hash;
+};
+
+// The name must be a slice of a log's text, behind which there are readable bytes.
+LookedUp LookUp(std::string_view name) {
+    alignas(16) static constexpr std::array<unsigned char, 2 * kKeyBytes> kFirstBytes = [] {
+        std::array<unsigned char, 2 * kKeyBytes> bytes{};
+        std::fill_n(bytes.begin(), kKeyBytes, static_cast<unsigned char>(0xFF));
+        return bytes;
+    }();
+    LookedUp found{name, {}, 0};
+    const char* const mask =
+        reinterpret_cast<const char*>(kFirstBytes.data()) + kKeyBytes - std::min(name.size(), kKeyBytes);
+    uint64_t words[kKeyBytes / 8];
+    for (size_t at = 0; at < kKeyBytes; at += 16) {
+        const __m128i folded = FoldAny(sse2::Load(name.data() + at));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(found.key.bytes + at),
+                         _mm_and_si128(folded, sse2::Load(mask + at)));
+    }
+    std::memcpy(words, found.key.bytes, kKeyBytes);
+    const uint64_t hash = (words[0] + 0x9E3779B97F4A7C15u) * (words[1] ^ 0xD1B54A32D192ED03u) ^
+                          (words[2] + 0x8CB92BA72F3D8DD7u) * (words[3] ^ 0xEB44ACCAB455D165u);
+    found.hash = static_cast<uint32_t>(hash >> 32 ^ hash >> 7);
+    return found;
+}
+
+// All that is known of a player is in one line of the processor's cache.
+struct alignas(64) Fought {
+    Key key;
+    std::string_view name;
+    uint32_t kills = 0, deaths = 0;
+    uint32_t first = UINT32_MAX, last = 0;  // lines
+
+    void Saw(size_t line) {
+        first = std::min(first, static_cast<uint32_t>(line));
+        last = static_cast<uint32_t>(line);
+    }
+};
+
+// Players by their names, numbered from 0 in the order in which they are added; letter case is left aside.
+class Fighters {
+public:
+    const std::vector<Fought>& All() const { return all_; }
+
+    // The first steps of a look, long before it: names are looked up many at once, since each would wait for the memory
+    // by itself.
+    void FetchSlot(const LookedUp& name) const { Fetch(&slots_[First(name)]); }
+    void FetchPlayer(const LookedUp& name) const {
+        const Slot& slot = slots_[First(name)];
+        if (slot.number != kFree) Fetch(&all_[slot.number]);
+    }
+
+    // Adds who is new.
+    Fought& operator[](const LookedUp& name) {
+        if (2 * (all_.size() + 1) > slots_.size()) Grow();
+        size_t at = First(name);
+        for (; slots_[at].number != kFree; at = Next(at)) {
+            Fought& player = all_[slots_[at].number];
+            if (slots_[at].hash == name.hash && player.key == name.key && player.name.size() == name.name.size() &&
+                (name.name.size() <= kKeyBytes || EqualNoCase(player.name, name.name)))
+                return player;
+        }
+        slots_[at] = {name.hash, static_cast<uint32_t>(all_.size())};
+        return all_.emplace_back(Fought{.key = name.key, .name = name.name});
+    }
+
+private:
+    static constexpr uint32_t kFree = UINT32_MAX;
+    struct Slot {
+        uint32_t hash = 0, number = kFree;
+    };
+
+    size_t First(const LookedUp& name) const { return name.hash & (slots_.size() - 1); }
+    size_t Next(size_t at) const { return (at + 1) & (slots_.size() - 1); }
+
+    void Grow() {
+        const std::vector<Slot> old = std::exchange(slots_, std::vector<Slot>(4 * slots_.size()));
+        for (const Slot& slot : old) {
+            if (slot.number == kFree) continue;
+            size_t at = slot.hash & (slots_.size() - 1);
+            while (slots_[at].number != kFree) at = Next(at);
+            slots_[at] = slot;
+        }
+    }
+
+    std::vector<Fought> all_;
+    std::vector<Slot> slots_ = std::vector<Slot>(1024);  // a power of two
+};
+
 class Counter {
 public:
     explicit Counter(const ParsedLog& log) : log_(log) {
-        found_.reserve(log.Players().size());
-        for (const std::string_view name : log.Players()) found_.push_back({.name = std::string(name)});
+        for (const std::string_view name : log.Players()) fighters_[LookUp(name)];
+        spoken_.resize(log.Players().size());
     }
 
     void Count(size_t line) {
         const int32_t info = log_.Info(line);
         if (const uint32_t player = PlayerOf(info); player != 0) {
-            ++found_[player - 1].lines;
-            Saw(found_[player - 1], line);
+            Spoken& spoken = spoken_[player - 1];
+            if (spoken.lines++ == 0) spoken.first = static_cast<uint32_t>(line);
+            spoken.last = static_cast<uint32_t>(line);
+        } else if (TypeOf(info) == kKill) {  // a player who quotes a kill has killed nobody
+            Fetch(log_.Text() + log_.Offset(line));
+            Fetch(log_.Text() + log_.Offset(line) + kUsualLine);
+            kills_[killCount_++] = line;
+            if (killCount_ == kAtOnce) CountKills();
         }
-        // A player who quotes a kill has killed nobody.
-        if (TypeOf(info) != kKill || PlayerOf(info) != 0) return;
-        const Kill kill = ReadKill(log_.Line(line));
-        if (kill.victim.empty() || kill.killer.empty()) return;
-        PlayerStatistics& victim = Player(kill.victim);
-        ++victim.deaths;
-        Saw(victim, line);
-        PlayerStatistics& killer = Player(kill.killer);
-        ++killer.kills;
-        Saw(killer, line);
     }
 
     std::vector<PlayerStatistics> Take() {
-        std::erase_if(found_, [](const PlayerStatistics& one) { return one.lines + one.kills + one.deaths == 0; });
-        return std::move(found_);
+        CountKills();
+        std::vector<PlayerStatistics> found;
+        spoken_.resize(fighters_.All().size());
+        for (size_t i = 0; i < spoken_.size(); ++i) {
+            const Spoken& spoken = spoken_[i];
+            const Fought& fought = fighters_.All()[i];
+            if (spoken.lines + fought.kills + fought.deaths > 0)
+                found.push_back({std::string(fought.name), spoken.lines, fought.kills, fought.deaths,
+                                 std::min(spoken.first, fought.first), std::max(spoken.last, fought.last)});
+        }
+        return found;
     }
 
 private:
-    static void Saw(PlayerStatistics& player, size_t line) {
-        if (player.last == 0) player.first = line;
-        player.last = line + 1;  // until it is read: 0 is never
-    }
+    // By the players' numbers. Small, so that those of all stay in the cache.
+    struct Spoken {
+        uint32_t lines = 0;
+        uint32_t first = UINT32_MAX, last = 0;
+    };
+    static constexpr size_t kAtOnce = 64;
+    static constexpr size_t kUsualLine = 56;  // bytes; it may lie in two lines of the cache
 
-    PlayerStatistics& Player(std::string_view name) {
-        if (numbers_.empty())
-            for (size_t i = 0; i < found_.size(); ++i) numbers_.emplace(FoldCase(found_[i].name), i);
-        const auto [place, isNew] = numbers_.try_emplace(FoldCase(name), found_.size());
-        if (isNew) found_.push_back({.name = std::string(name)});
-        return found_[place->second];
+    void CountKills() {
+        struct Found {
+            LookedUp victim, killer;
+            size_t line;
+        };
+        std::array<Found, kAtOnce> found;
+        size_t count = 0;
+        for (size_t i = 0; i < killCount_; ++i) {
+            const Kill kill = ReadKill(log_.Line(kills_[i]));
+            if (kill.victim.empty() || kill.killer.empty()) continue;
+            found[count] = {LookUp(kill.victim), LookUp(kill.killer), kills_[i]};
+            fighters_.FetchSlot(found[count].victim);
+            fighters_.FetchSlot(found[count].killer);
+            ++count;
+        }
+        killCount_ = 0;
+        for (size_t i = 0; i < count; ++i) {
+            fighters_.FetchPlayer(found[i].victim);
+            fighters_.FetchPlayer(found[i].killer);
+        }
+        for (size_t i = 0; i < count; ++i) {
+            Fought& victim = fighters_[found[i].victim];
+            ++victim.deaths;
+            victim.Saw(found[i].line);
+            Fought& killer = fighters_[found[i].killer];
+            ++killer.kills;
+            killer.Saw(found[i].line);
+        }
     }
 
     const ParsedLog& log_;
-    std::vector<PlayerStatistics> found_;  // first the log's players, by their numbers
-    std::unordered_map<std::string, size_t> numbers_;
+    Fighters fighters_;  // first the log's players, by their numbers
+    std::vector<Spoken> spoken_;
+    std::array<size_t, kAtOnce> kills_{};  // lines
+    size_t killCount_ = 0;
 };
-
-std::vector<PlayerStatistics> Finish(Counter& counter) {
-    std::vector<PlayerStatistics> found = counter.Take();
-    for (PlayerStatistics& player : found) --player.last;
-    return found;
-}
 
 }  // namespace
 
 Kill ReadKill(std::string_view line) {
-    const size_t at = line.rfind(kKilledBy);
-    if (at == std::string_view::npos || line.size() < 2 || at < 2) return {};
+    size_t at = line.size();
+    do at = at == 0 ? std::string_view::npos : line.rfind(')', at - 1);
+    while (at != std::string_view::npos && !line.substr(at).starts_with(kKilledBy));
+    if (at == std::string_view::npos || at < 2) return {};
     return {Trim(WithoutNumbers(line.substr(2, at + 1 - 2))), Trim(line.substr(at + kKilledBy.size()))};
 }
 
 std::vector<PlayerStatistics> CountPlayers(const ParsedLog& log) {
     Counter counter(log);
     for (size_t line = 0; line < log.LineCount(); ++line) counter.Count(line);
-    return Finish(counter);
+    return counter.Take();
 }
 
 std::vector<PlayerStatistics> CountPlayers(const LinesOfLog& lines) {
     Counter counter(lines.log);
     for (size_t item = 0; item < lines.count; ++item) counter.Count(lines.lines[item]);
-    return Finish(counter);
+    return counter.Take();
 }
 
 }  // namespace quirn
