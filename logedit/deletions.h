@@ -25,21 +25,25 @@ public:
     bool CanUndo() const { return done_ > 0; }
     bool CanRedo() const { return done_ < steps_.size(); }
 
-    // The selected ones of these lines are gone; what could be done again cannot be any more.
-    void Add(const uint32_t* lines, const ListSelection& selected, size_t top);
+    // Takes the selected ones out of these lines: the others move up, so many are left. What could be done again cannot
+    // be any more.
+    size_t Take(uint32_t* lines, size_t count, const ListSelection& selected, size_t top);
     const Step& Undo();
     const Step& Redo();
 
+    // After Mark: whether a line is gone.
+    void Mark();
     bool Has(uint32_t line) const {
         const size_t word = line / 64;
         return word < gone_.size() && (gone_[word] >> line % 64 & 1) != 0;
     }
 
 private:
-    void Mark(const Step& step, bool gone);
+    void MarkStep(const Step& step, bool gone);
 
     std::vector<Step> steps_;
     size_t done_ = 0;             // of the steps; those behind can be done again
+    size_t marked_ = 0;           // of these, in gone_
     std::vector<uint64_t> gone_;  // a bit for each line, as far as there are any
 };
 

@@ -84,6 +84,7 @@ void LogView::Recompute() {
     passed_ = FilterLines(*log_, all_ ? LineFilter{*all_, {}} : filter_, shown_.get());
     undeleted_ = passed_;
     if (!deletions_.IsEmpty()) {
+        deletions_.Mark();
         undeleted_ = 0;
         for (size_t i = 0; i < passed_; ++i) {
             shown_[undeleted_] = shown_[i];
@@ -163,13 +164,8 @@ LogView::Hidden LogView::CountHidden() const {
 
 void LogView::Delete(const ListSelection& selected, size_t top) {
     if (count_ == 0) return;
-    deletions_.Add(shown_.get(), selected, LineIndex(std::min(top, count_ - 1)));
-    undeleted_ -= selected.SelectedCount();
-    size_t kept = 0;
-    for (size_t i = 0; i < count_; ++i) {
-        shown_[kept] = shown_[i];
-        kept += !selected.IsSelected(i);
-    }
+    const size_t kept = deletions_.Take(shown_.get(), count_, selected, LineIndex(std::min(top, count_ - 1)));
+    undeleted_ -= count_ - kept;
     count_ = kept;
 }
 
