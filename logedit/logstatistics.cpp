@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <utility>
@@ -92,6 +93,10 @@ struct alignas(64) Fought {
 class Fighters {
 public:
     const std::vector<Fought>& All() const { return all_; }
+    void Reserve(size_t count) {
+        all_.reserve(count);
+        slots_.resize(std::bit_ceil(2 * count + kFewSlots));
+    }
 
     // The first steps of a look, long before it: names are looked up many at once, since each would wait for the memory
     // by itself.
@@ -116,6 +121,7 @@ public:
     }
 
 private:
+    static constexpr size_t kFewSlots = 1024;
     static constexpr uint32_t kFree = UINT32_MAX;
     struct Slot {
         uint32_t hash = 0, number = kFree;
@@ -135,12 +141,13 @@ private:
     }
 
     std::vector<Fought> all_;
-    std::vector<Slot> slots_ = std::vector<Slot>(1024);  // a power of two
+    std::vector<Slot> slots_ = std::vector<Slot>(kFewSlots);  // a power of two
 };
 
 class Counter {
 public:
     explicit Counter(const ParsedLog& log) : log_(log) {
+        fighters_.Reserve(log.Players().size());
         for (const std::string_view name : log.Players()) fighters_[LookUp(name)];
         spoken_.resize(log.Players().size());
     }
@@ -162,6 +169,7 @@ public:
     std::vector<PlayerStatistics> Take() {
         CountKills();
         std::vector<PlayerStatistics> found;
+        found.reserve(fighters_.All().size());
         spoken_.resize(fighters_.All().size());
         for (size_t i = 0; i < spoken_.size(); ++i) {
             const Spoken& spoken = spoken_[i];

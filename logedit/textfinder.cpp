@@ -120,7 +120,7 @@ void TextFinder::MarkPlaces(const char* from, size_t blocks, uint64_t* places) c
     switch (probeCount_) {
         case 1: return Mark<1>(from, blocks, places);
         case 2: return Mark<2>(from, blocks, places);
-        default: return Mark<3>(from, blocks, places);
+        default: return folded_.size() == 3 ? Mark<3>(from, blocks, places) : Mark<2>(from, blocks, places);
     }
 }
 
