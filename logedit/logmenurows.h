@@ -57,6 +57,8 @@ enum Command : int {
     mnuFile_Several,
     mnuView_Previous,
     mnuView_Next,
+    mnuViewBarLogs,
+    mnuViewBarColors,
 };
 
 }  // namespace logmenu
