@@ -284,7 +284,7 @@ void frmLogEdit::mnuView_Colors_Click() {
 
 void frmLogEdit::mnuInExPopup_Only_Click() {
     players_.mnuInExPopup_Only_Click();
-    if (edit_.applyAtOnce) ApplyLogFilter();
+    if (commands_.HasLog()) commands_.ApplyPlayers();
 }
 
 void frmLogEdit::mnuLogEditPopup_Delete_Click() {

@@ -127,8 +127,11 @@ void frmOptions::ShowLocations() {
     const bool typed = !subLocChanged_ && txtSubLoc.Text() != program_.gameFolder;
     const GamePlace place = typed ? GamePlace() : LookForGame(txtSubLoc.Text());
     const bool other = !place.IsWhole() && !otherGame_.empty();
-    lblFound.SetText((typed ? kTypedText : InWords(place)) + (other ? " There is a game in " + otherGame_ : ""));
+    const std::string text = typed ? kTypedText : other ? "Found a game in " + otherGame_ : InWords(place);
+    lblFound.SetText(text);
+    lblFound.SetToolTip(text);  // a long path is cut
     cmdUseIt.SetVisible(other);
+    cmdUseIt.SetToolTip(otherGame_);
     lblTyped.SetText(!qrnLocChanged_ && txtQRNLoc.Text() != program_.qrnFolder ? kTypedText : "");
 }
 
@@ -151,7 +154,7 @@ void frmOptions::SetGameLocation(const std::string& folder) {
 
 void frmOptions::cmdUseIt_Click() {
     SetGameLocation(otherGame_);
-    cmdBrowse0.SetFocus();
+    cmdOK.SetFocus();
 }
 
 void frmOptions::cmdBrowse0_Click() {

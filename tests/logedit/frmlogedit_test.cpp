@@ -141,6 +141,7 @@ TEST_F(LogEditTest, ThePopupsSelectAndDelete) {
     Press("<<");
     ChooseFromPopup(include, 2);  // "Only These"
     EXPECT_EQ(Shown(include), Lines{"Ann"}) << "the name at the pointer";
+    EXPECT_EQ(Shown(Log()), (Lines{"T Ann> three", "  Welcome"})) << "at once";
 
     Open(path_);
     ClickItem(Log(), 1);

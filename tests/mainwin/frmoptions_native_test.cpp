@@ -21,7 +21,7 @@ TEST_F(FoundGameTest, AGameInTheStartMenuIsOffered) {
     options.Load();
     options.Show();
     const auto& page = ControlOf<TabStrip>(options, "").Pages()[0]->Controls();
-    EXPECT_EQ(page[3]->Text(), "There is no subspace.exe. There is a game in " + Scratch() + "\\games & more");
+    EXPECT_EQ(page[3]->Text(), "Found a game in " + Scratch() + "\\games & more");
     Click(*page[4]);
     Click(ButtonOf(options, "OK"));
     EXPECT_EQ(program.gameFolder, Scratch() + "\\games & more");
