@@ -201,7 +201,8 @@ void frmLibrary::ShowRows() {
     tblProfiles.SetEmptyText(rows_.empty() ? "There is no profile here yet. File, Save As makes one."
                                            : "Nothing found.");
     lblCount.SetText(std::to_string(shown_.size()) + (shown_.size() == 1 ? " profile" : " profiles") +
-                     (reader_.IsDone() ? "" : ", reading..."));
+                     (reader_.IsDone() ? "" : ", reading...") +
+                     (reader_.FolderIsRead() ? "" : ". The folder for QRN files cannot be read."));
     ShowWhatCanBeDone();
 }
 

@@ -41,7 +41,8 @@ std::string NameOf(const std::string& path) {
 LibraryReader::LibraryReader(const std::string& folder, const std::vector<std::string>& others) {
     std::set<std::string, LessNoCase> known;
     const Result<std::vector<FolderEntry>> entries = ListFolder(folder);
-    if (!entries.Failed()) {
+    folderIsRead_ = !entries.Failed();
+    if (folderIsRead_) {
         for (const FolderEntry& entry : entries.Value()) {
             if (entry.isFolder || entry.size > kLargest) continue;
             files_.push_back({AbsolutePath(folder + "\\" + entry.name), entry.size, entry.writtenLast, false});

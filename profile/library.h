@@ -26,6 +26,7 @@ public:
     // others: paths that may lie anywhere and need not be there. Those in the folder are not listed twice.
     LibraryReader(const std::string& folder, const std::vector<std::string>& others);
 
+    bool FolderIsRead() const { return folderIsRead_; }  // false: it is not there, or does not open
     bool IsDone() const { return next_ == files_.size(); }
     // Looks at the next file; nothing when it is no profile.
     std::optional<LibraryEntry> Next();
@@ -39,6 +40,7 @@ private:
 
     std::vector<File> files_;
     size_t next_ = 0;
+    bool folderIsRead_ = false;
 };
 
 }  // namespace quirn

@@ -75,6 +75,13 @@ TEST_F(ProfileLibraryTest, ListsWhatIsAProfileWhateverItsName) {
     EXPECT_EQ(Names(), "nova (no .qrn);");
 }
 
+TEST_F(ProfileLibraryTest, AFolderThatIsGoneIsToldOf) {
+    program_.qrnFolder = Scratch() + "\\unplugged";
+    Press(Library(), kKeyF5);
+    EXPECT_EQ(Names(), "gone;");
+    EXPECT_EQ(ControlOf<Label>(Library(), "1 profile").Text(), "1 profile. The folder for QRN files cannot be read.");
+}
+
 TEST_F(ProfileLibraryTest, TheCurrentFileFollowsItsNewName) {
     GoTo("DUEL");
     Press(Library(), kKeyEnter);
