@@ -49,8 +49,9 @@ constexpr char kSaved[] = "File has been saved";
 constexpr char kHowToBegin[] = "Open a log with Ctrl+O, or drop one here.";
 constexpr char kAllHidden[] = "All lines are hidden or deleted.";
 
-// "monday.log"; of several the first and the last one.
+// "monday.log"; of several the first and the last one. Empty for the filtered lines of no log.
 std::string NameOf(const LogPaths& paths) {
+    if (paths.empty()) return {};
     const std::string last = SplitPath(paths.back()).File();
     return paths.size() == 1 ? last : SplitPath(paths.front()).File() + " to " + last;
 }

@@ -304,6 +304,14 @@ TEST_F(LogEditTest, FollowingLosesNoLastLineAndNoSelectedName) {
     EXPECT_EQ(Shown(Log()).back(), "  Bo> half");
 }
 
+TEST_F(LogEditTest, TheFilterCanBeAppliedToNoLog) {
+    Press("Apply Filter");
+    EXPECT_EQ(Shown(Log()), Lines{""});
+    for (const int command : {mnuView_Statistics, mnuView_All, mnuView_Next, mnuView_Follow, mnuView_Reload})
+        Choose(*form_, command);
+    EXPECT_EQ(Shown(Log()), Lines{""});
+}
+
 TEST_F(LogEditTest, SeveralLogsAreShownAsOneInTheOrderOfTheirTimes) {
     const std::string friday = Scratch() + "\\friday.log", tuesday = Scratch() + "\\tuesday.log";
     const auto strip = [this](const char* start) { return Find<Label>(*form_, start).Text(); };
