@@ -59,7 +59,7 @@ void FindTargets(const std::string& folder, const std::string& fileName, int dep
     for (const FolderEntry& entry : entries.Value()) {
         const std::string path = folder + "\\" + entry.name;
         if (entry.isFolder && depth < kDeepest) FindTargets(path, fileName, depth + 1, found);
-        if (entry.isFolder || !FoldCase(entry.name).ends_with(".lnk")) continue;
+        if (entry.isFolder || !FoldCase(entry.name).ends_with(".LNK")) continue;
         std::string target = TargetOf(path);
         if (EqualNoCase(target.substr(target.rfind('\\') + 1), fileName)) found.push_back(std::move(target));
     }

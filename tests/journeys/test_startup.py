@@ -1,9 +1,10 @@
 """Starting with and without options, a second copy, closing."""
+import shutil
 import time
 
 import pytest
 
-from conftest import TITLE
+from conftest import OWN_KEY, TITLE
 from machine import wait_for
 from player import Player
 from test_messages import NO_ZONES
@@ -95,3 +96,37 @@ def test_of_two_copies_started_at_one_moment_one_survives(desk):
             desk.user.ask("end", pid)
         for copy in copies:
             copy.wait(10)
+
+
+def test_a_game_that_the_start_menu_names_is_offered_on_the_first_day(desk):
+    machine = desk.machine
+    game = machine.path("C:\\Games\\Far Away")
+    programs = next(machine.drive.glob("users/*/AppData/Roaming/Microsoft/Windows/Start Menu/Programs"))
+    link = programs / "Games/Play.LNK"
+    try:
+        shutil.move(desk.file(""), game)
+        link.parent.mkdir()
+        in_windows = "C:\\" + str(link.relative_to(machine.drive)).replace("/", "\\")
+        script = machine.path("C:\\link.vbs")
+        script.write_text(f'''Set link = CreateObject("WScript.Shell").CreateShortcut("{in_windows}")
+link.TargetPath = "C:\\Games\\Far Away\\subspace.exe"
+link.Save
+''', newline="\r\n")
+        machine.start("wscript", "C:\\link.vbs").wait(30)
+        assert link.exists()
+        machine.reg("delete", OWN_KEY, "/f")
+        quirn = desk.start()
+        assert quirn.box().text == NO_ZONES
+        Player(quirn, quirn.box().handle).keys("Return")
+        options = Player(quirn, quirn.window("Options")["handle"])
+        options.find("Found a game in C:\\Games\\Far Away")
+        desk.screenshot("found")
+        options.user.ask("press", options.handle, "Use It")
+        options.keys("Return")  # OK has the keyboard
+        main = Player(quirn, quirn.main_window()["handle"])
+        wait_for(main.visible, what="the window")
+        assert desk.own_settings()["File Locations\\SubSpace"][1] == "C:\\Games\\Far Away"
+    finally:
+        desk.end_all()
+        shutil.rmtree(game.parent, ignore_errors=True)
+        shutil.rmtree(link.parent, ignore_errors=True)
