@@ -102,7 +102,7 @@ def test_a_game_that_the_start_menu_names_is_offered_on_the_first_day(desk):
     machine = desk.machine
     game = machine.path("C:\\Games\\Far Away")
     programs = next(machine.drive.glob("users/*/AppData/Roaming/Microsoft/Windows/Start Menu/Programs"))
-    link = programs / "Games/Play.LNK"
+    link = programs / "Games/Play.lnk"
     try:
         shutil.move(desk.file(""), game)
         link.parent.mkdir()
@@ -125,6 +125,7 @@ link.Save
         options.keys("Return")  # OK has the keyboard
         main = Player(quirn, quirn.main_window()["handle"])
         wait_for(main.visible, what="the window")
+        quirn.close()
         assert desk.own_settings()["File Locations\\SubSpace"][1] == "C:\\Games\\Far Away"
     finally:
         desk.end_all()
