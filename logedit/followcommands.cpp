@@ -83,6 +83,7 @@ void FollowCommands::Look() {
         case LogFollower::News::Grew: ShowNew(lines, players); break;
         case LogFollower::News::Other: Read(true); break;
         case LogFollower::News::Gone: End("Not followed any more: the file is gone"); break;
+        case LogFollower::News::Full: Stop("Not followed any more: the log is too large"); break;
     }
     if (unseen_ > 0 && list_.ShowsEnd()) {
         unseen_ = 0;

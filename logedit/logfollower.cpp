@@ -59,12 +59,14 @@ LogFollower::News LogFollower::Look() {
     if (end == available_) return News::None;
     const auto size = static_cast<size_t>(std::min(end, kLogSizeLimit - 1));
     if (size > capacity_) {
-        if (!parser_->Grow(RoomFor(size))) return News::Gone;
+        if (!parser_->Grow(RoomFor(size))) return News::Full;
         capacity_ = RoomFor(size);
     }
     const size_t lines = log_->LineCount();
     const bool wasEmpty = log_->Info(0) == 0;  // its one element stands for no line, and is shown as one
-    if (file.GoTo(available_ - Begin()) || ReadPieces(file, *parser_, available_, size, {})) return News::Gone;
+    if (file.GoTo(available_ - Begin())) return News::Gone;
+    if (const Failure failure = ReadPieces(file, *parser_, available_, size, {}))
+        return failure->number == static_cast<int>(ErrorNumber::Overflow) ? News::Full : News::Gone;
     parser_->Publish();
     if (wasEmpty && log_->Info(0) != 0) return News::Other;
     return log_->LineCount() > lines ? News::Grew : News::None;

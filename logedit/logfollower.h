@@ -19,6 +19,7 @@ public:
         Grew,   // the log has more lines, perhaps more players
         Other,  // the file became shorter or is another one: it has to be read anew
         Gone,   // there is none, or it cannot be read
+        Full,   // memory cannot hold more, or there are too many players
     };
 
     // Reads the files as they are now. Failures as those of ReadLog.

@@ -140,6 +140,12 @@ TEST_F(LogViewTest, AGrowingLogIsWhatOneReadGives) {
     test::PutFile(In("g.log"), text);
     follower.Start({In("g.log")}, {}, {});
     EXPECT_EQ(follower.Look(), LogFollower::News::None);
+    std::string crowd = text;
+    for (uint32_t i = 0; i <= kMostPlayers; ++i) crowd += "  P" + std::to_string(i) + "> hi\r\n";
+    test::PutFile(In("g.log"), crowd);
+    EXPECT_EQ(follower.Look(), LogFollower::News::Full);
+    test::PutFile(In("g.log"), text);
+    follower.Start({In("g.log")}, {}, {});
     test::PutFile(In("g.log"), std::string(text.size() + 10, 'x'));
     EXPECT_EQ(follower.Look(), LogFollower::News::Other);
     test::PutFile(In("g.log"), text.substr(0, 10));
