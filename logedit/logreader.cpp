@@ -36,6 +36,7 @@ Result<size_t> LogReader::Read(LogParser& parser, const LogProgress& progress) {
         if (available > 0 && parser.Buffer()[available - 1] != '\n') {
             std::memcpy(parser.Buffer() + available, kLineEnd.data(), kLineEnd.size());
             available += kLineEnd.size();
+            if (!parser.Advance(available)) return ErrorNumber::Overflow;  // the next file may be empty
         }
         parser.BeginFile(paths_[i], available);
         const size_t end = available + static_cast<size_t>(files_[i].Size());

@@ -197,6 +197,11 @@ TEST_F(LogViewTest, SeveralLogsAreWhatOneReadGives) {
         ASSERT_EQ(follower.Look(), LogFollower::News::Grew);
         ASSERT_EQ(growing->Line(whole->LineCount()), "  More> of the last");
     }
+    test::PutFile(In("a.log"), "  Bo> no end");
+    test::PutFile(In("b.log"), "");
+    LogFollower follower;
+    const auto followed = follower.Start({In("a.log"), In("b.log")}, {}, {}).Value();
+    EXPECT_EQ(followed->Line(0), "  Bo> no end") << "the log behind it has nothing yet";
     test::PutHugeFile(In("a.log"), kLogSizeLimit / 2);
     test::PutHugeFile(In("b.log"), kLogSizeLimit / 2 - 1);
     EXPECT_TRUE(ReadLog({In("a.log"), In("b.log")}, {}, {}).Failed()) << "too long with the line end between them";
