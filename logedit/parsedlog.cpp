@@ -41,7 +41,10 @@ size_t ParsedLog::FirstLineOf(size_t file) const {
 }
 
 bool ParsedLog::GoesOnFrom(const ParsedLog& earlier) const {
-    const size_t last = earlier.lineCount_ - 1;
+    size_t last = earlier.lineCount_ - 1;
+    const std::string_view end = earlier.Line(last);
+    const bool hasEnd = end.data() + end.size() < earlier.Text() + earlier.textSize_;
+    if (lineCount_ == last && !hasEnd) --last;
     if (lineCount_ <= last || Offset(last) != earlier.Offset(last)) return false;
     const std::string_view line = earlier.Line(last);
     const auto size = static_cast<size_t>(line.data() + line.size() - earlier.Text());

@@ -83,7 +83,8 @@ public:
     size_t FileOf(size_t line) const;       // as an index of Files()
     size_t FirstLineOf(size_t file) const;  // or of a later one; LineCount() when there is none
 
-    // Whether it begins with all lines of another one, which may have been read before the files grew.
+    // Whether it begins with all lines of another one, which may have been read before the files grew. A last line
+    // without an end may be missing: it waits in a log that is followed.
     bool GoesOnFrom(const ParsedLog& earlier) const;
 
     const std::vector<std::unique_ptr<LineBlock>>& Blocks() const { return blocks_; }

@@ -294,7 +294,10 @@ TEST_F(LogEditTest, WhoWasExcludedStaysSoWhenTheLogBeginsAnew) {
 TEST_F(LogEditTest, FollowingLosesNoLastLineAndNoSelectedName) {
     PutFile(path_, std::string(kLog) + "  Abe> no end");
     Open(path_);
+    ClickItem(Log(), 0);
+    quirn::test::Press(*form_, kKeyDelete);
     Choose(*form_, mnuView_Follow);
+    EXPECT_EQ(Shown(Log()).front(), "P Cy> two") << "deleted lines stay so while the last one waits";
     ClickItem(List("Include"), 1);
     PutFile(path_, std::string(kLog) + "  Abe> no end\r\n  Bo> half");
     WaitFor([this] { return List("Include").Count() == 5; });
