@@ -46,9 +46,9 @@ void ViewCommands::Restore(const LogView::Restored& restored) {
 }
 
 void ViewCommands::KeepPlace(const std::function<void()>& change) {
-    if (!HasLog()) return change();
     const LinesInPlace kept = Remember();
     change();
+    if (!HasLog()) return;
     const LogView& view = edit_.view;
     list_.SetCount(view.Count(), view.LongestText());
     if (kept.selects) list_.SetSelection(ItemsOf(kept.selected));
