@@ -105,6 +105,7 @@ void FollowCommands::ShowNew(size_t lines, size_t players) {
     }
     if (goesOn) {
         if (edit_.view.Count() > 0) list_.SetTopIndex(edit_.view.Count() - 1);
+        row_.ShowFile(commands_.FileInSight());
         return;
     }
     unseen_ += std::max(edit_.view.Count(), before) - before;

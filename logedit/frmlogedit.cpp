@@ -190,6 +190,7 @@ void frmLogEdit::lstLog_MouseDown() {
     if (const std::optional<size_t> item = lstLog.Pointed()) {
         if (lstLog.Selection().SelectedCount() == 0) lstLog.Select(*item);
         lstLog.SetCurrent(*item);
+        ShowFile();
     }
     PopUpMenu(mnuLogEditPopup_, 0);
 }

@@ -40,9 +40,11 @@ void ViewCommands::Redo() {
 }
 
 void ViewCommands::Restore(const LogView::Restored& restored) {
-    ShowAnew();
+    emptied_ = {};
+    list_.SetCount(edit_.view.Count(), edit_.view.LongestText());
     list_.SetSelection(restored.selection);
     list_.SetTopIndex(restored.top);
+    shown_();
 }
 
 void ViewCommands::KeepPlace(const std::function<void()>& change) {

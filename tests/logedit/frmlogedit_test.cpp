@@ -385,6 +385,31 @@ TEST_F(LogEditTest, SeveralLogsAreShownAsOneInTheOrderOfTheirTimes) {
     EXPECT_FALSE(ShownEnabled(*form_, mnuView_Next));
 }
 
+TEST_F(LogEditTest, TheStripNamesTheLogInSightWhateverMovesTheList) {
+    const std::string friday = Scratch() + "\\friday.log";
+    const auto strip = [this] { return Find<Label>(*form_, "friday.log").Text(); };
+    std::string many;
+    for (int i = 0; i < 100; ++i) many += "  Ann> go on\r\n";
+    PutFile(path_, many);
+    WaitForEvents(60);
+    PutFile(friday, "  Ann> new\r\n");
+    form_->onDropFiles({path_, friday});
+    Log().SetTopIndex(100);
+    Choose(*form_, mnuView_Follow);
+    PutFile(friday, "  Ann> new\r\n" + many);
+    WaitFor([this] { return Log().Count() == 201; });
+    EXPECT_EQ(strip(), "friday.log - Following") << "the end was in sight";
+    Log().SetTopIndex(150);
+    ClickItem(Log(), 155);
+    quirn::test::Press(*form_, kKeyDelete);
+    Choose(*form_, mnuEdit_Undo);
+    EXPECT_EQ(ShownTop(Log()), 150u);
+    EXPECT_EQ(strip(), "friday.log - Following");
+    Log().SetTopIndex(0);
+    ChooseFromPopup(Log(), 2);
+    EXPECT_EQ(Find<Label>(*form_, "monday.log").Text(), "monday.log - Following") << "the line at the pointer";
+}
+
 TEST_F(LogEditTest, ThePopupTakesTheLineUnderThePointer) {
     Open(path_);
     ChooseFromPopup(Log(), 0);  // nothing is selected: the first line is at the pointer
