@@ -67,7 +67,7 @@ bool FollowCommands::Read(bool follow) {
     }
     edit_.LogLines = log.Take();
     players_.FillAgain();
-    commands_.ApplyPlayers();
+    commands_.ApplyAgain();
     unseen_ = 0;
     if (follow) row_.ShowNews(kFollowing);
     return true;
@@ -96,7 +96,7 @@ void FollowCommands::ShowNew(size_t lines, size_t players) {
     const bool goesOn = list_.ShowsEnd();
     const size_t before = edit_.view.Count();
     if (edit_.LogLines->Players().size() > players && players_.AddNew(players)) {
-        commands_.ApplyPlayers();
+        commands_.ApplyAgain();
     } else {
         commands_.KeepPlace([&] {
             if (const Result<size_t> count = edit_.view.Extend(lines, players); count.Failed())

@@ -276,7 +276,7 @@ void frmLogEdit::mnuView_Statistics_Click() {
 
 void frmLogEdit::mnuView_Unknown_Click() {
     Toggle(mnuView_Unknown, edit_.showUnknown);
-    if (commands_.HasLog()) commands_.ApplyPlayers();
+    if (commands_.HasLog()) commands_.ApplyAgain();
 }
 
 void frmLogEdit::mnuView_Colors_Click() {

@@ -225,10 +225,20 @@ void ViewCommands::ChooseLogColor(bool foreground) {
 }
 
 // Other than "Apply Filter" it leaves deleted lines deleted.
+void ViewCommands::FilterAnew() {
+    ShowError(edit_.view.ApplyLogFilter(edit_.LogLines, edit_.FilterMask(), edit_.include, edit_.exclude,
+                                        edit_.lineNumbers, true));
+}
+
 void ViewCommands::ApplyPlayers() {
+    KeepPlace([this] { FilterAnew(); });
+}
+
+void ViewCommands::ApplyAgain() {
     KeepPlace([this] {
-        ShowError(edit_.view.ApplyLogFilter(edit_.LogLines, edit_.FilterMask(), edit_.include, edit_.exclude,
-                                            edit_.lineNumbers, true));
+        const bool showsAll = edit_.view.ShowsAll();
+        FilterAnew();
+        if (showsAll) edit_.view.ShowAll(edit_.KnownTypes());
     });
 }
 

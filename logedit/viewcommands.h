@@ -47,6 +47,7 @@ public:
     void HideSpeaker();
     void Everyone();
     void ApplyPlayers();  // leaves deleted lines deleted
+    void ApplyAgain();    // the same for other lines or other kinds: when all is shown, all stays shown
     void ChooseLogFont();
     void ChooseLogColor(bool foreground);
 
@@ -68,6 +69,7 @@ private:
     std::optional<size_t> CurrentInSight() const;
     std::optional<size_t> LogInSight() const;  // index of the log's files
     void GoToLine(size_t line);
+    void FilterAnew();
     ListSelection ItemsOf(const ListSelection& lines) const;
     uint32_t Speaker() const;  // 0: nobody
     void Restore(const LogView::Restored& restored);

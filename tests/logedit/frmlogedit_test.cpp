@@ -274,6 +274,20 @@ TEST_F(LogEditTest, FollowsALogAndKeepsWhatThePlayerChose) {
     EXPECT_FALSE(form_->MenuBar()->Find(mnuView_Follow)->checked);
 }
 
+TEST_F(LogEditTest, AllStaysShownWhenTheLogIsReadAgain) {
+    Open(path_);
+    ClickItem(List("Include"), 2);
+    Press(">>");
+    Press("Apply Filter");
+    Press("Show &All");
+    Choose(*form_, mnuView_Reload);
+    EXPECT_EQ(Log().Count(), 5u);
+    Choose(*form_, mnuView_Unknown);
+    EXPECT_EQ(Log().Count(), 6u);
+    Press("Show Fil&tered");
+    EXPECT_EQ(Shown(Log()), (Lines{"  Bo> one", "T Ann> three", "  Welcome", "Xx Dee> hidden"}));
+}
+
 // The game begins its log anew with an empty file, in which nobody speaks yet.
 TEST_F(LogEditTest, WhoWasExcludedStaysSoWhenTheLogBeginsAnew) {
     Open(path_);
