@@ -61,7 +61,7 @@ void FollowCommands::End(const std::string& words) {
 bool FollowCommands::Read(bool follow) {
     Result<std::shared_ptr<const ParsedLog>> log = follow ? follower_.Start(paths_, {}, {}) : ReadLog(paths_, {}, {});
     if (log.Failed()) {
-        if (follow) Stop("Not followed: the file cannot be read");
+        if (follow) End("Not followed: the file cannot be read");
         else ShowError(log.Error());
         return false;
     }

@@ -24,7 +24,6 @@ size_t RoomFor(size_t size) {
 Result<std::shared_ptr<const ParsedLog>> LogFollower::Start(const LogPaths& paths,
                                                             const std::function<void(uint64_t size)>& onOpen,
                                                             const LogProgress& progress) {
-    Stop();
     LogReader reader;
     if (Failure failure = reader.Open(paths)) return *failure;
     try {

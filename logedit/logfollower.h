@@ -22,7 +22,7 @@ public:
         Full,   // memory cannot hold more, or there are too many players
     };
 
-    // Reads the files as they are now. Failures as those of ReadLog.
+    // Reads the files as they are now. Failures as those of ReadLog; what was followed before still is then.
     Result<std::shared_ptr<const ParsedLog>> Start(const LogPaths& paths,
                                                    const std::function<void(uint64_t size)>& onOpen,
                                                    const LogProgress& progress);

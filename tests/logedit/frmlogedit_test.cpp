@@ -319,6 +319,11 @@ TEST_F(LogEditTest, FollowingLosesNoLastLineAndNoSelectedName) {
     EXPECT_TRUE(List("Include").Selection().IsSelected(2)) << "Bo, behind one more name";
     Choose(*form_, mnuView_Follow);
     EXPECT_EQ(Shown(Log()).back(), "  Bo> half");
+    Choose(*form_, mnuView_Follow);
+    EXPECT_EQ(Shown(Log()).back(), "  Abe> no end");
+    RemoveFile(path_);
+    Choose(*form_, mnuView_Reload);
+    EXPECT_EQ(Shown(Log()).back(), "  Bo> half") << "the file is gone before its line has ended";
 }
 
 TEST_F(LogEditTest, ReloadShowsTheLogAgainAfterOneWithTooManyPlayers) {
