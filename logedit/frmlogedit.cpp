@@ -82,6 +82,7 @@ frmLogEdit::frmLogEdit(const std::string& gameFolder, LogEdit& edit)
           },
           edit.lastSearch),
       statistics_([this](bool shownOnly) { return commands_.CountPlayers(shownOnly); },
+                  [this] { return NameOf(follow_.Paths()); },
                   [this](const std::string& player) { commands_.OnlyPlayer(player); }) {
     for (size_t i = 0; i < kFilterBoxCount; ++i) {
         CheckBox& box = chkFilters.emplace_back(Frame1, kBoxes.Cell(i), kFilterBoxes[i].caption);
@@ -271,7 +272,7 @@ void frmLogEdit::FindAgain(bool upwards) {
 }
 
 void frmLogEdit::mnuView_Statistics_Click() {
-    statistics_.Open(*this, NameOf(follow_.Paths()));
+    statistics_.Open(*this);
 }
 
 void frmLogEdit::mnuView_Unknown_Click() {

@@ -45,9 +45,11 @@ std::string Decimal(double number, int digits) {
 }  // namespace
 
 frmLogStatistics::frmLogStatistics(std::function<std::vector<PlayerStatistics>(bool shownOnly)> count,
+                                   std::function<std::string()> logName,
                                    std::function<void(const std::string& player)> only)
     : Form(FormBorder::SizableDialog, kWidth, kHeight),
       count_(std::move(count)),
+      logName_(std::move(logName)),
       only_(std::move(only)),
       sortColumn_(kLines),
       Label1(*this, kCount, "Count:"),
@@ -93,9 +95,8 @@ frmLogStatistics::frmLogStatistics(std::function<std::vector<PlayerStatistics>(b
     cmdClose.onClick = [this] { Unload(); };
 }
 
-void frmLogStatistics::Open(Form& owner, const std::string& log) {
+void frmLogStatistics::Open(Form& owner) {
     Load();
-    SetCaption("Player Statistics - " + log);
     CountAnew();
     if (Visible()) BringToFront();
     else ShowOwned(owner);
@@ -118,7 +119,9 @@ bool frmLogStatistics::Form_KeyDown(int key, bool control) {
     return true;
 }
 
+// Another log may have been opened meanwhile.
 void frmLogStatistics::CountAnew() {
+    SetCaption("Player Statistics - " + logName_());
     players_ = count_(source_.Selected() == optShown.Index());
     allLines_ = mostLines_ = 0;
     bestRatio_ = 0;

@@ -14,11 +14,12 @@ namespace quirn {
 // The window "Player Statistics" of the log editor: who speaks, kills and dies how often.
 class frmLogStatistics : public Form {
 public:
-    // count: the statistics of the whole log or of the lines that are shown. only: the player is to be seen alone.
+    // count: the statistics of the whole log or of the lines that are shown. logName: which log that is. only: the
+    // player is to be seen alone.
     frmLogStatistics(std::function<std::vector<PlayerStatistics>(bool shownOnly)> count,
-                     std::function<void(const std::string& player)> only);
+                     std::function<std::string()> logName, std::function<void(const std::string& player)> only);
 
-    void Open(Form& owner, const std::string& log);
+    void Open(Form& owner);
 
 private:
     void Form_Load();
@@ -33,6 +34,7 @@ private:
     void CopyRows();
 
     std::function<std::vector<PlayerStatistics>(bool shownOnly)> count_;
+    std::function<std::string()> logName_;
     std::function<void(const std::string& player)> only_;
     std::vector<PlayerStatistics> players_;
     std::vector<size_t> shown_;  // indexes of players

@@ -445,6 +445,16 @@ TEST_F(LogEditTest, ThePopupTakesTheLineUnderThePointer) {
     EXPECT_EQ(Log().Current(), 0u);
 }
 
+TEST_F(LogEditTest, StatisticsAreNamedForTheLogThatIsCounted) {
+    std::string name = "monday.log";
+    frmLogStatistics statistics([](bool) { return std::vector<PlayerStatistics>(); }, [&] { return name; }, {});
+    statistics.Open(*form_);
+    EXPECT_EQ(statistics.Caption(), "Player Statistics - monday.log");
+    name = "friday.log";
+    quirn::test::Press(statistics, kKeyF5);
+    EXPECT_EQ(statistics.Caption(), "Player Statistics - friday.log");
+}
+
 TEST_F(LogEditTest, SavesWhatIsShownAndOpensItAgain) {
     Open(path_);
     Choose(*form_, mnuOptions_LineNums);

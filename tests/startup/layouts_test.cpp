@@ -193,7 +193,7 @@ TEST_F(LayoutsTest, NothingStandsOutsideOrAcrossAnother) {
     find.Open(logEditor);
     Check(find, "find");
     find.Unload();
-    frmLogStatistics statistics([](bool) { return std::vector<PlayerStatistics>(); }, {});
+    frmLogStatistics statistics([](bool) { return std::vector<PlayerStatistics>(); }, [] { return std::string(); }, {});
     statistics.Load();
     CheckSizes(statistics, "player statistics");
 }
