@@ -102,6 +102,7 @@ void LogView::Clear() {
 
 void LogView::SetText(TextFilter text) {
     text_ = std::move(text);
+    all_.reset();
     Recompute();
 }
 

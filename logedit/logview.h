@@ -70,7 +70,7 @@ public:
     // it had. Returns how many items are new; the old ones stay what they are. With 7 nothing has changed.
     Result<size_t> Extend(size_t lines, size_t players);
 
-    // On top of types and players, as they were applied last.
+    // On top of types and players, as they were applied last; what ShowAll does is over.
     void SetText(TextFilter text);
 
     // Shows the lines of all these types, whoever speaks and whatever they say, until the filter is applied anew or

@@ -97,10 +97,7 @@ ListSelection ViewCommands::ItemsOf(const ListSelection& lines) const {
 }
 
 void ViewCommands::FilterByText(const std::string& text) {
-    KeepPlace([&] {
-        edit_.view.ShowAll(std::nullopt);
-        edit_.view.SetText(TextFilter(text));
-    });
+    KeepPlace([&] { edit_.view.SetText(TextFilter(text)); });
 }
 
 void ViewCommands::ShowAll() {
