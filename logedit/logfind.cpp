@@ -76,6 +76,8 @@ std::optional<size_t> FindItemBefore(const LogView& view, std::string_view text,
     constexpr size_t kItems = 4096;
     const TextFinder finder(text);
     const std::string folded = FoldCase(text);
+    // A hit may start in the tag, which is no part of the line.
+    const bool mayStartInTag = view.Tags() && !StartsInTag(text, view.Tags()->Length()).empty();
     for (end = std::min(end, view.Count()); end > 0;) {
         const size_t begin = end - std::min(end, kItems);
         std::optional<size_t> last;
@@ -83,8 +85,7 @@ std::optional<size_t> FindItemBefore(const LogView& view, std::string_view text,
             last = item;
             return true;
         });
-        // A hit may start in the tag, which is no part of the line.
-        for (size_t item = end; view.Tags() && item > last.value_or(begin); --item)
+        for (size_t item = end; mayStartInTag && item > last.value_or(begin); --item)
             if (FoldCase(view.Text(item - 1)).find(folded) != std::string::npos) return item - 1;
         if (last) return last;
         end = begin;

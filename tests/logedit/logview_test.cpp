@@ -291,6 +291,10 @@ TEST_F(LogViewTest, FindsWhatIsThere) {
         for (size_t i = start; i < view.Count() && !expected; ++i)
             if (FoldCase(view.Text(i)).find(FoldCase(text)) != std::string::npos) expected = i;
         ASSERT_EQ(FindItem(view, text, start), expected) << '"' << text << "\" from " << start;
+        size_t end = start;
+        while (end > 0 && FoldCase(view.Text(end - 1)).find(FoldCase(text)) == std::string::npos) --end;
+        expected = end > 0 ? std::optional(end - 1) : std::nullopt;
+        ASSERT_EQ(FindItemBefore(view, text, start), expected) << '"' << text << "\" before " << start;
     }
     // Nothing is found across the end of a line, or in lines that are not kept.
     Open("  bob> abc\r\n[~ xyz\r\ndef> one\r\n");
