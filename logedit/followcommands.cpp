@@ -85,7 +85,7 @@ void FollowCommands::Look() {
         case LogFollower::News::Gone: End("Not followed any more: the file is gone"); break;
         case LogFollower::News::Full: Stop("Not followed any more: the log is too large"); break;
     }
-    if (unseen_ > 0 && list_.ShowsEnd()) {
+    if (follower_.IsFollowing() && unseen_ > 0 && list_.ShowsEnd()) {
         unseen_ = 0;
         row_.ShowNews(kFollowing);
     }

@@ -427,6 +427,14 @@ TEST_F(LogEditTest, TheStripNamesTheLogInSightWhateverMovesTheList) {
     Log().SetTopIndex(0);
     ChooseFromPopup(Log(), 2);
     EXPECT_EQ(Find<Label>(*form_, "monday.log").Text(), "monday.log - Following") << "the line at the pointer";
+    PutFile(friday, "  Ann> new\r\n" + many + "  Ann> newest\r\n");
+    WaitFor([this] { return Log().Count() == 202; });
+    EXPECT_EQ(Find<Label>(*form_, "monday.log").Text(), "monday.log - 1 new line");
+    Log().SetTopIndex(201);
+    ClickItem(Log(), 201);
+    RemoveFile(friday);
+    WaitFor([this] { return !form_->MenuBar()->Find(mnuView_Follow)->checked; });
+    EXPECT_TRUE(strip().ends_with("Not followed any more: the file is gone")) << strip();
 }
 
 TEST_F(LogEditTest, ThePopupTakesTheLineUnderThePointer) {
