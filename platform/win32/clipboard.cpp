@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "platform/win32/errors.h"
+#include "platform/win32/openedclipboard.h"
 
 namespace quirn {
 
@@ -14,17 +15,15 @@ Failure SetClipboardText(const std::string& text) {
     std::memcpy(GlobalLock(memory), text.c_str(), text.size() + 1);
     GlobalUnlock(memory);
     // Without an owner window what was emptied would belong to nobody, and nothing could be put there.
-    if (!OpenClipboard(GetActiveWindow())) {
+    const win32::OpenedClipboard clipboard(GetActiveWindow());
+    if (!clipboard) {
         GlobalFree(memory);
         return MakeError(ErrorNumber::PermissionDenied);
     }
     EmptyClipboard();
-    Failure failure;
-    if (SetClipboardData(CF_TEXT, memory) == nullptr) {
-        failure = win32::LastError();
-        GlobalFree(memory);
-    }
-    CloseClipboard();
+    if (SetClipboardData(CF_TEXT, memory) != nullptr) return {};
+    Failure failure = win32::LastError();
+    GlobalFree(memory);
     return failure;
 }
 

@@ -6,6 +6,7 @@
 
 #include "platform/win32/kind.h"
 #include "platform/win32/metrics.h"
+#include "platform/win32/openedclipboard.h"
 
 // Boxes of text: what is typed, copied and pasted; and the arrows beside a number.
 namespace quirn {
@@ -30,14 +31,14 @@ Selection SelectionIn(HWND window) {
 
 std::string ClipboardText(HWND window) {
     std::string text;
-    if (!OpenClipboard(window)) return text;
+    const OpenedClipboard clipboard(window);
+    if (!clipboard) return text;
     if (const HANDLE data = GetClipboardData(CF_TEXT)) {
         if (const void* bytes = GlobalLock(data)) {
             text.assign(static_cast<const char*>(bytes), strnlen(static_cast<const char*>(bytes), GlobalSize(data)));
             GlobalUnlock(data);
         }
     }
-    CloseClipboard();
     return text;
 }
 

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "platform/win32/metrics.h"
+#include "platform/win32/openedclipboard.h"
 #include "tests/testing/userinput.h"
 
 namespace quirn::test {
@@ -41,13 +42,12 @@ size_t CaretIn(const Control& control) {
 }
 
 void PutInClipboard(const std::string& text) {
-    OpenClipboard(nullptr);
+    const win32::OpenedClipboard clipboard(GetActiveWindow());
     EmptyClipboard();
     const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, text.size() + 1);
     std::memcpy(GlobalLock(memory), text.c_str(), text.size() + 1);
     GlobalUnlock(memory);
     SetClipboardData(CF_TEXT, memory);
-    CloseClipboard();
 }
 
 void Hold(bool control, bool shift) {
@@ -320,11 +320,10 @@ std::string ShownSecondText(const StatusBar& bar) {
 }
 
 std::string Clipboard() {
-    OpenClipboard(nullptr);
+    const win32::OpenedClipboard clipboard(nullptr);
     const auto held = static_cast<HGLOBAL>(GetClipboardData(CF_TEXT));
     const std::string text = held ? static_cast<const char*>(GlobalLock(held)) : "";
     if (held) GlobalUnlock(held);
-    CloseClipboard();
     return text;
 }
 
