@@ -48,19 +48,21 @@ build() {
     fi
 }
 
-# A virtual display with a window manager, whose tray takes QUIRN's icon. Ended by end_display.
-start_display() {
-    mkdir -p build/display
-    rm -f build/display/number
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>build/display/number 2>/dev/null &
+# A virtual display with a window manager, whose tray takes QUIRN's icon. Ended by end_display. Those that are up side by
+# side have a name each; what runs on one display shares its clipboard.
+start_display() { # [NAME]
+    display_files=$PWD/build/display${1:+/$1}
+    mkdir -p "$display_files"
+    rm -f "$display_files/number"
+    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$display_files/number" 2>/dev/null &
     display_pid=$!
     for _ in $(seq 100); do
-        [ -s build/display/number ] && break
+        [ -s "$display_files/number" ] && break
         sleep 0.05
     done
-    DISPLAY=:$(cat build/display/number)
+    DISPLAY=:$(cat "$display_files/number")
     export DISPLAY
-    ICEWM_PRIVCFG=$PWD/build/display icewm >/dev/null 2>&1 &
+    ICEWM_PRIVCFG=$display_files icewm >/dev/null 2>&1 &
     manager_pid=$!
     sleep 0.5
 }
