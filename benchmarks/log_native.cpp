@@ -62,7 +62,7 @@ void ChangeFilter(benchmark::State& state) {
     for (size_t i = 0; i < include.Count(); i += 3) include.Selection().Select(i, true);
     MovePlayers(include, exclude);
     LogView view;
-    for (auto _ : state) view.ApplyLogFilter(log, 0x3FF, include, exclude, false);
+    for (auto _ : state) view.ApplyLogFilter(log, MakeLineFilter(0x3FF, include, exclude), false);
     state.SetItemsProcessed(state.iterations() * static_cast<int64_t>(log->LineCount()));
 }
 BENCHMARK(ChangeFilter)->Arg(300)->Arg(30000)->Unit(benchmark::kMillisecond);
@@ -72,7 +72,7 @@ void Find(benchmark::State& state, const char* what, bool lineNumbers) {
     const auto log = Parse(Text(300));
     PlayerList include, exclude;
     LogView view;
-    view.ApplyLogFilter(log, 0x7FF, include, exclude, lineNumbers);
+    view.ApplyLogFilter(log, MakeLineFilter(0x7FF, include, exclude), lineNumbers);
     for (auto _ : state)
         for (auto at = FindItem(view, what, 0); at; at = FindItem(view, what, *at + 1)) benchmark::DoNotOptimize(at);
     state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(log->TextSize()));
@@ -84,7 +84,7 @@ BENCHMARK_CAPTURE(Find, killed_by, "KILLED BY: k", false)->Unit(benchmark::kMill
 void FilterByText(benchmark::State& state, const char* text) {
     const auto log = Parse(Text(300));
     LogView view;
-    view.ApplyLogFilter(log, 0x7FF, {}, {}, false);
+    view.ApplyLogFilter(log, LineFilter{0x7FF}, false);
     for (auto _ : state) view.SetText(TextFilter(text));
     state.counters["lines"] = static_cast<double>(view.Count());
 }
@@ -106,7 +106,7 @@ void DeleteEighth(benchmark::State& state) {
     ListSelection selection;
     for (auto _ : state) {
         state.PauseTiming();
-        view.ApplyLogFilter(log, 0x7FF, include, exclude, false);
+        view.ApplyLogFilter(log, MakeLineFilter(0x7FF, include, exclude), false);
         selection.Reset(view.Count());
         for (size_t i = 0; i < view.Count(); i += 8) selection.Select(i, true);
         state.ResumeTiming();

@@ -74,7 +74,7 @@ void Follow(const std::string& path, Steps& steps) {
     PlayerList include, exclude;
     LogView view;
     include.Fill(log);
-    view.ApplyLogFilter(log, 0x7FF, include, exclude, false);
+    view.ApplyLogFilter(log, MakeLineFilter(0x7FF, include, exclude), false);
     for (int round = 0; round < kRounds; ++round) {
         std::FILE* const file = std::fopen(copy.c_str(), "ab");
         std::fwrite(added.data(), 1, added.size(), file);
@@ -123,7 +123,7 @@ int main(int count, char** arguments) {
             return 1;
         }
         include.Fill(log.Value());
-        if (view.ApplyLogFilter(log.Value(), 0x7FF, include, exclude, false)) return 1;
+        if (view.ApplyLogFilter(log.Value(), MakeLineFilter(0x7FF, include, exclude), false)) return 1;
         steps.Add("read, parse, filter", Milliseconds() - start);
         ReadOnly(path, steps);
         lines = log.Value()->LineCount();
@@ -132,8 +132,9 @@ int main(int count, char** arguments) {
 
         for (size_t i = 0; i < include.Count(); i += 3) include.Selection().Select(i, true);
         steps.Time("move a third of the players", [&] { MovePlayers(include, exclude); });
-        steps.Time("a changed filter", [&] { view.ApplyLogFilter(log.Value(), 0x3FF, include, exclude, true); });
-        view.ApplyLogFilter(log.Value(), 0x7FF, include, PlayerList(), false);
+        steps.Time("a changed filter",
+                   [&] { view.ApplyLogFilter(log.Value(), MakeLineFilter(0x3FF, include, exclude), true); });
+        view.ApplyLogFilter(log.Value(), MakeLineFilter(0x7FF, include, PlayerList()), false);
         steps.Time("find what is not there", [&] { FindItem(view, "zzqqxx", 0); });
         selection.Reset(view.Count());
         steps.Time("text filter: a word and not another", [&] { view.SetText(TextFilter("the -zone")); });

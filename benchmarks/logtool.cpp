@@ -55,7 +55,8 @@ int main(int count, char** arguments) {
     PlayerList include, exclude;
     include.Fill(log.Value());
     LogView view;
-    if (Failure failure = view.ApplyLogFilter(log.Value(), 0xFFFF, include, exclude, false)) End(failure);
+    if (Failure failure = view.ApplyLogFilter(log.Value(), MakeLineFilter(0xFFFF, include, exclude), false))
+        End(failure);
     std::printf("%zu lines, %zu players, ", view.Count(), log.Value()->Players().size());
     if (command != "show") start = Milliseconds();
     if (command == "find") std::printf("%s, ", FindItem(view, arguments[3], 0) ? "found" : "not found");

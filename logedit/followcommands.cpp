@@ -1,7 +1,5 @@
 #include "logedit/followcommands.h"
 
-#include <algorithm>
-
 #include "platform/dialogs.h"
 
 namespace quirn {
@@ -67,7 +65,7 @@ bool FollowCommands::Read(bool follow) {
     }
     edit_.LogLines = log.Take();
     players_.FillAgain();
-    commands_.ApplyAgain();
+    commands_.ShowReadAgain();
     unseen_ = 0;
     if (follow) row_.ShowNews(kFollowing);
     return true;
@@ -94,21 +92,14 @@ void FollowCommands::Look() {
 // The list goes on with the log only while its end is in sight: who reads something else is not disturbed.
 void FollowCommands::ShowNew(size_t lines, size_t players) {
     const bool goesOn = list_.ShowsEnd();
-    const size_t before = edit_.view.Count();
-    if (edit_.LogLines->Players().size() > players && players_.AddNew(players)) {
-        commands_.ApplyAgain();
-    } else {
-        commands_.KeepPlace([&] {
-            if (const Result<size_t> count = edit_.view.Extend(lines, players); count.Failed())
-                ShowError(count.Error());
-        });
-    }
+    if (edit_.LogLines->Players().size() > players) players_.AddNew(players);
+    const size_t added = commands_.ShowNew(lines, players);
     if (goesOn) {
         if (edit_.view.Count() > 0) list_.SetTopIndex(edit_.view.Count() - 1);
         row_.ShowFile(commands_.FileInSight());
         return;
     }
-    unseen_ += std::max(edit_.view.Count(), before) - before;
+    unseen_ += added;
     if (unseen_ > 0) row_.ShowNews(std::to_string(unseen_) + (unseen_ == 1 ? " new line" : " new lines"));
 }
 

@@ -277,7 +277,7 @@ void frmLogEdit::mnuView_Statistics_Click() {
 
 void frmLogEdit::mnuView_Unknown_Click() {
     Toggle(mnuView_Unknown, edit_.showUnknown);
-    if (commands_.HasLog()) commands_.ApplyAgain();
+    commands_.ShowUnknown();
 }
 
 void frmLogEdit::mnuView_Colors_Click() {
@@ -287,7 +287,7 @@ void frmLogEdit::mnuView_Colors_Click() {
 
 void frmLogEdit::mnuInExPopup_Only_Click() {
     players_.mnuInExPopup_Only_Click();
-    if (commands_.HasLog()) commands_.ApplyPlayers();
+    commands_.ApplyPlayers();
 }
 
 void frmLogEdit::mnuLogEditPopup_Delete_Click() {

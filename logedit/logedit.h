@@ -25,6 +25,7 @@ struct LogEdit {
     bool showUnknown = false;      // mnuView_Unknown
     bool colorsByType = false;     // mnuView_Colors
     PlayerList include, exclude;   // lstInclude, lstExclude
+    PlayerNames awaited;           // were excluded, and are not in the log since it was read again
     LogView view;                  // lstLog
     RecentFiles LogMRU;
     std::string lastSearch;

@@ -40,8 +40,31 @@ uint32_t BuildFilterMask(const FilterBoxValues& values) {
     return mask;
 }
 
-LineFilter MakeLineFilter(uint32_t mask, const PlayerList& include, const PlayerList& exclude) {
-    return {mask, exclude.Count() == 0 ? std::vector<uint8_t>() : ShownPlayers(include, exclude)};
+LineFilter MakeLineFilter(uint32_t mask, const PlayerList& include, const PlayerList& exclude,
+                          const PlayerNames& absent) {
+    return {mask, exclude.Count() == 0 ? std::vector<uint8_t>() : ShownPlayers(include, exclude), absent};
+}
+
+LineFilter FilterForLog(const LineFilter& filter, const ParsedLog& before, const ParsedLog& log) {
+    LineFilter other{filter.mask, {}, filter.absent};
+    if (!filter.players.empty())
+        for (size_t i = 0; i < before.Players().size(); ++i)
+            if (filter.players[i + 1] == 0) other.absent.emplace(before.Players()[i]);
+    AddPlayers(other, log, 0);
+    return other;
+}
+
+void AddPlayers(LineFilter& filter, const ParsedLog& log, size_t known) {
+    for (size_t i = known; i < log.Players().size(); ++i) {
+        const auto hidden = filter.absent.find(log.Players()[i]);
+        if (hidden != filter.absent.end()) {
+            filter.absent.erase(hidden);
+            if (filter.players.empty()) filter.players.assign(kMostPlayers + 1, 1);
+            filter.players[i + 1] = 0;
+        } else if (!filter.players.empty()) {
+            filter.players[i + 1] = 1;
+        }
+    }
 }
 
 size_t FilterLines(const ParsedLog& log, const LineFilter& filter, uint32_t* shown, size_t from) {

@@ -2,8 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <string>
-#include <string_view>
 #include <vector>
 
 #include "logedit/parsedlog.h"
@@ -38,12 +36,20 @@ uint32_t BuildFilterMask(const FilterBoxValues& values);
 
 // What the check boxes and the two lists say of a line, taken down, so that they may change before it is applied anew.
 struct LineFilter {
-    uint32_t mask = 0;             // a type outside of it hides a line
-    std::vector<uint8_t> players;  // by number, 1: his lines are shown; empty: all are
+    uint32_t mask = 0;               // a type outside of it hides a line
+    std::vector<uint8_t> players{};  // by number, 1: his lines are shown; empty: all are
+    PlayerNames absent{};            // players whose lines are hidden as soon as they say something
 };
 
 // A line with a player shows by the shorter of the two lists: not in the excluded ones, or in the included ones.
-LineFilter MakeLineFilter(uint32_t mask, const PlayerList& include, const PlayerList& exclude);
+LineFilter MakeLineFilter(uint32_t mask, const PlayerList& include, const PlayerList& exclude,
+                          const PlayerNames& absent = {});
+
+// The same for another log, in which players have other numbers: they are known by their names. Who is new is shown.
+LineFilter FilterForLog(const LineFilter& filter, const ParsedLog& before, const ParsedLog& log);
+
+// The log has players behind the first so many that it had.
+void AddPlayers(LineFilter& filter, const ParsedLog& log, size_t known);
 
 // Fills shown with the indexes of the lines that are shown, from one line on, ascending; there must be room for all of
 // them. Returns their number.

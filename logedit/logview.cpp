@@ -35,8 +35,8 @@ size_t LogView::LongestText() const {
     return log_->LongestLine() + (tags_ ? tags_->Length() : 0);
 }
 
-Failure LogView::ApplyLogFilter(std::shared_ptr<const ParsedLog> log, uint32_t mask, const PlayerList& include,
-                                const PlayerList& exclude, bool lineNumbers, bool keepDeletedOut) {
+Failure LogView::ApplyLogFilter(std::shared_ptr<const ParsedLog> log, LineFilter filter, bool lineNumbers,
+                                bool keepDeletedOut) {
     const bool another = log != log_;
     const bool keeps = keepDeletedOut && (!another || (log_ && log->GoesOnFrom(*log_)));
     if (another || log->LineCount() > room_) {
@@ -44,7 +44,7 @@ Failure LogView::ApplyLogFilter(std::shared_ptr<const ParsedLog> log, uint32_t m
         log_ = std::move(log);
     }
     if (!keeps) deletions_.Clear();
-    filter_ = MakeLineFilter(mask, include, exclude);
+    filter_ = std::move(filter);
     all_.reset();
     Recompute();
     tags_.reset();
@@ -66,9 +66,9 @@ bool LogView::MakeRoom(size_t lines, size_t kept) {
 Result<size_t> LogView::Extend(size_t lines, size_t players) {
     const size_t now = log_->LineCount();
     if (now > room_ && !MakeRoom(now + now / 8, count_)) return ErrorNumber::OutOfMemory;
-    for (size_t number = players + 1; number < filter_.players.size(); ++number) filter_.players[number] = 1;
+    AddPlayers(filter_, *log_, players);
     uint32_t* const added = shown_.get() + count_;
-    size_t count = FilterLines(*log_, all_ ? LineFilter{*all_, {}} : filter_, added, lines);
+    size_t count = FilterLines(*log_, FilterInUse(), added, lines);
     passed_ += count;
     undeleted_ += count;
     if (!all_ && !text_.IsEmpty()) count = text_.Apply(*log_, added, count);
@@ -81,7 +81,7 @@ void LogView::Recompute() {
     if (!log_) return;
     // A log that grew may have more lines than there was memory for: it stays as it is shown.
     if (log_->LineCount() > room_ && !MakeRoom(log_->LineCount(), count_)) return;
-    passed_ = FilterLines(*log_, all_ ? LineFilter{*all_, {}} : filter_, shown_.get());
+    passed_ = FilterLines(*log_, FilterInUse(), shown_.get());
     undeleted_ = passed_;
     if (!deletions_.IsEmpty()) {
         deletions_.Mark();
@@ -107,7 +107,8 @@ void LogView::SetText(TextFilter text) {
 }
 
 void LogView::ShowAll(std::optional<uint32_t> mask) {
-    all_ = mask;
+    all_.reset();
+    if (mask) all_ = LineFilter{*mask};
     Recompute();
 }
 
@@ -153,7 +154,7 @@ LogView::Restored LogView::Redo() {
 LogView::Hidden LogView::CountHidden() const {
     Hidden hidden;
     if (!log_) return hidden;
-    const uint32_t mask = all_.value_or(filter_.mask);
+    const uint32_t mask = FilterInUse().mask;
     const size_t ofTypes = CountLines(*log_, mask);
     hidden.byType = log_->LineCount() - ofTypes;
     hidden.byPlayer = ofTypes - passed_;

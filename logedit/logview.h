@@ -43,7 +43,8 @@ public:
     int32_t Info(size_t item) const { return log_->Info(shown_[item]); }
     size_t LineIndex(size_t item) const { return shown_[item]; }  // among all parsed lines
     const std::optional<LineNumberTag>& Tags() const { return tags_; }
-    const ParsedLog* Log() const { return log_.get(); }  // null when nothing is shown
+    const std::shared_ptr<const ParsedLog>& Log() const { return log_; }  // null when nothing is shown
+    const LineFilter& Filter() const { return filter_; }                  // as it was applied last
 
     LinesOfLog Lines() const { return {*log_, shown_.get(), count_}; }  // not when nothing is shown
     // The first item, from one on, of this line or a later one; Count() when there is none. Near ones are tried first.
@@ -63,11 +64,11 @@ public:
     // Shows the lines of a log that pass the filter and the text filter. What was deleted before comes back, and cannot
     // be undone any more, unless it is kept out, in another log too when that goes on from this one. With 7 nothing has
     // changed.
-    Failure ApplyLogFilter(std::shared_ptr<const ParsedLog> log, uint32_t mask, const PlayerList& include,
-                           const PlayerList& exclude, bool lineNumbers, bool keepDeletedOut = false);
+    Failure ApplyLogFilter(std::shared_ptr<const ParsedLog> log, LineFilter filter, bool lineNumbers,
+                           bool keepDeletedOut = false);
 
-    // The log has grown: shows what is new of it, by the same filters; new players are shown. lines, players: how many
-    // it had. Returns how many items are new; the old ones stay what they are. With 7 nothing has changed.
+    // The log has grown: shows what is new of it, by the same filters. lines, players: how many it had. Returns how
+    // many items are new; the old ones stay what they are. With 7 nothing has changed.
     Result<size_t> Extend(size_t lines, size_t players);
 
     // On top of types and players, as they were applied last; what ShowAll does is over.
@@ -105,14 +106,15 @@ public:
 private:
     bool MakeRoom(size_t lines, size_t kept);
     void Recompute();
+    const LineFilter& FilterInUse() const { return all_ ? *all_ : filter_; }
 
     std::shared_ptr<const ParsedLog> log_;
     std::unique_ptr<uint32_t[]> shown_;  // with room for every line of the log
     size_t count_ = 0;
     std::optional<LineNumberTag> tags_;
-    LineFilter filter_;  // as it was applied last
+    LineFilter filter_;
     TextFilter text_;
-    std::optional<uint32_t> all_;  // the types, while all is shown
+    std::optional<LineFilter> all_;  // while all is shown
     Deletions deletions_;
     size_t room_ = 0;       // of shown_, lines
     size_t passed_ = 0;     // lines that pass types and players

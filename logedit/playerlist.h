@@ -2,14 +2,19 @@
 
 #include <cstdint>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "logedit/parsedlog.h"
 #include "platform/listselection.h"
+#include "platform/text.h"
 
 namespace quirn {
+
+// As players are told apart: without regard to case.
+using PlayerNames = std::set<std::string, LessNoCase>;
 
 // What lstInclude and lstExclude hold: player names in alphabetical order without regard to case, each with its player
 // number as item data, and which of them are selected.

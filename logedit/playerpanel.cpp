@@ -71,7 +71,7 @@ void PlayerPanel::Reset() {
 }
 
 void PlayerPanel::Empty() {
-    awaited_.clear();
+    edit_.awaited.clear();
     lstExclude.SetCount(0, 0);
     lstInclude.SetCount(0, 0);
 }
@@ -136,20 +136,20 @@ void PlayerPanel::Hide(uint32_t number) {
 }
 
 void PlayerPanel::Everyone() {
-    awaited_.clear();
+    edit_.awaited.clear();
     MoveNumbers(edit_.exclude, edit_.include, [](uint32_t) { return true; });
     Show();
 }
 
 void PlayerPanel::FillAgain() {
-    for (size_t i = 0; i < edit_.exclude.Count(); ++i) awaited_.emplace(edit_.exclude.Name(i));
+    for (size_t i = 0; i < edit_.exclude.Count(); ++i) edit_.awaited.emplace(edit_.exclude.Name(i));
     edit_.include.Fill(edit_.LogLines);
     edit_.exclude.Clear();
     ExcludeReturned();
     Show();
 }
 
-bool PlayerPanel::AddNew(size_t known) {
+void PlayerPanel::AddNew(size_t known) {
     if (known < 2) {
         // One player alone is in no list.
         edit_.include.Fill(edit_.LogLines);
@@ -159,18 +159,16 @@ bool PlayerPanel::AddNew(size_t known) {
         edit_.include.Add(known);
         ShowAdded();
     }
-    if (!ExcludeReturned()) return false;
-    Show();
-    return true;
+    if (ExcludeReturned()) Show();
 }
 
 // A log that begins anew has nobody at first.
 bool PlayerPanel::ExcludeReturned() {
-    if (awaited_.empty()) return false;
+    if (edit_.awaited.empty()) return false;
     const size_t before = edit_.exclude.Count();
     MoveNumbers(edit_.include, edit_.exclude,
-                [&](uint32_t number) { return awaited_.contains(edit_.LogLines->Players()[number - 1]); });
-    for (size_t i = 0; i < edit_.exclude.Count(); ++i) awaited_.erase(std::string(edit_.exclude.Name(i)));
+                [&](uint32_t number) { return edit_.awaited.contains(edit_.LogLines->Players()[number - 1]); });
+    for (size_t i = 0; i < edit_.exclude.Count(); ++i) edit_.awaited.erase(std::string(edit_.exclude.Name(i)));
     return edit_.exclude.Count() > before;
 }
 

@@ -1,13 +1,12 @@
 #pragma once
 
 #include <functional>
-#include <set>
 #include <string>
+#include <vector>
 
 #include "logedit/logedit.h"
 #include "platform/anchors.h"
 #include "platform/form.h"
-#include "platform/text.h"
 #include "platform/timer.h"
 #include "platform/virtuallist.h"
 
@@ -33,9 +32,8 @@ public:
     void Hide(uint32_t number);
     void Everyone();
     void FillAgain();  // with the players of a log that was read again; who was excluded by name stays so
-    // Of a log that has grown, those behind the first so many. True when some of them are excluded, since they were so
-    // before the log was read again.
-    bool AddNew(size_t known);
+    // Of a log that has grown, those behind the first so many. Who was excluded before it was read again is so again.
+    void AddNew(size_t known);
     void mnuInExPopup_Only_Click();  // the selected ones of the list that was clicked, or the one under the pointer
     bool CanShowOnly() const { return pointed_ != 0 || popupList_->Selection().SelectedCount() > 0; }
     void mnuInExPopup_All_Click();  // the commands of the menu
@@ -60,7 +58,6 @@ private:
     uint32_t pointed_ = 0;    // the player that it was opened at; 0: none
     std::string typed_;       // the characters of the last second
     Timer typing_;
-    std::set<std::string, LessNoCase> awaited_;  // were excluded, and are not in the log that was read again
 
     Label lblInclude;
     VirtualList lstInclude;

@@ -183,8 +183,9 @@ std::vector<PlayerStatistics> ViewCommands::CountPlayers(bool shownOnly) const {
 
 // Who never speaks has no lines of his own: nothing is left but those of nobody.
 void ViewCommands::OnlyPlayer(const std::string& name) {
+    if (!HasLog()) return;
     std::vector<uint32_t> numbers;
-    const auto& players = edit_.LogLines->Players();
+    const auto& players = edit_.view.Log()->Players();
     for (size_t i = 0; i < players.size(); ++i)
         if (EqualNoCase(players[i], name)) numbers.push_back(static_cast<uint32_t>(i + 1));
     if (numbers.empty()) {
@@ -221,22 +222,41 @@ void ViewCommands::ChooseLogColor(bool foreground) {
     else list_.SetBackColor(*color);
 }
 
-// Other than "Apply Filter" it leaves deleted lines deleted.
-void ViewCommands::FilterAnew() {
-    ShowError(edit_.view.ApplyLogFilter(edit_.LogLines, edit_.FilterMask(), edit_.include, edit_.exclude,
-                                        edit_.lineNumbers, true));
+void ViewCommands::FilterAnew(const std::shared_ptr<const ParsedLog>& log, const LineFilter& filter, bool keepsAll) {
+    KeepPlace([&] {
+        const bool showsAll = keepsAll && edit_.view.ShowsAll();
+        ShowError(edit_.view.ApplyLogFilter(log, filter, edit_.lineNumbers, true));
+        if (showsAll) edit_.view.ShowAll(edit_.KnownTypes());
+    });
 }
 
 void ViewCommands::ApplyPlayers() {
-    KeepPlace([this] { FilterAnew(); });
+    if (!HasLog()) return;
+    const uint32_t mask = edit_.view.Filter().mask;
+    FilterAnew(edit_.view.Log(), MakeLineFilter(mask, edit_.include, edit_.exclude, edit_.awaited), false);
 }
 
-void ViewCommands::ApplyAgain() {
-    KeepPlace([this] {
-        const bool showsAll = edit_.view.ShowsAll();
-        FilterAnew();
-        if (showsAll) edit_.view.ShowAll(edit_.KnownTypes());
+void ViewCommands::ShowUnknown() {
+    if (!HasLog()) return;
+    LineFilter filter = edit_.view.Filter();
+    filter.mask = (filter.mask & ~kUnknown) | (edit_.showUnknown ? uint32_t{kUnknown} : 0);
+    FilterAnew(edit_.view.Log(), filter, true);
+}
+
+// Of a log that could not be shown nothing has been applied yet.
+void ViewCommands::ShowReadAgain() {
+    FilterAnew(edit_.LogLines,
+               HasLog() ? FilterForLog(edit_.view.Filter(), *edit_.view.Log(), *edit_.LogLines)
+                        : MakeLineFilter(edit_.FilterMask(), edit_.include, edit_.exclude, edit_.awaited),
+               true);
+}
+
+size_t ViewCommands::ShowNew(size_t lines, size_t players) {
+    const size_t before = edit_.view.Count();
+    KeepPlace([&] {
+        if (const Result<size_t> count = edit_.view.Extend(lines, players); count.Failed()) ShowError(count.Error());
     });
+    return edit_.view.Count() - before;
 }
 
 }  // namespace quirn

@@ -46,8 +46,13 @@ public:
     void OnlySpeaker();  // of the line at the keyboard
     void HideSpeaker();
     void Everyone();
-    void ApplyPlayers();  // leaves deleted lines deleted
-    void ApplyAgain();    // the same for other lines or other kinds: when all is shown, all stays shown
+    // These leave deleted lines deleted, and apply nothing that the player has not applied himself.
+    void ApplyPlayers();  // the lists of players as they are now
+    void ShowUnknown();   // or hides the lines of unknown kind again
+    // LogLines is the log that is shown, read again.
+    void ShowReadAgain();
+    // The log has grown; it had so many lines and players. Returns how many items are new.
+    size_t ShowNew(size_t lines, size_t players);
     void ChooseLogFont();
     void ChooseLogColor(bool foreground);
 
@@ -69,7 +74,7 @@ private:
     std::optional<size_t> CurrentInSight() const;
     std::optional<size_t> LogInSight() const;  // index of the log's files
     void GoToLine(size_t line);
-    void FilterAnew();
+    void FilterAnew(const std::shared_ptr<const ParsedLog>& log, const LineFilter& filter, bool keepsAll);
     ListSelection ItemsOf(const ListSelection& lines) const;
     uint32_t Speaker() const;  // 0: nobody
     void Restore(const LogView::Restored& restored);

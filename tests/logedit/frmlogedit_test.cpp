@@ -293,6 +293,7 @@ TEST_F(LogEditTest, WhoWasExcludedStaysSoWhenTheLogBeginsAnew) {
     Open(path_);
     ClickItem(List("Include"), 2);
     Press(">>");
+    Press("Apply Filter");
     Choose(*form_, mnuView_Follow);
     const char* const texts[] = {"", "  Bo> anew\r\n", "  Bo> anew\r\n  Cy> hidden\r\n  Ann> new\r\n"};
     for (const char* text : texts) {
@@ -303,6 +304,32 @@ TEST_F(LogEditTest, WhoWasExcludedStaysSoWhenTheLogBeginsAnew) {
     EXPECT_EQ(Shown(Log()), (Lines{"  Bo> anew", "  Ann> new"}));
     EXPECT_EQ(Shown(List("Exclude")), Lines{"Cy"});
     EXPECT_EQ(Shown(List("Include")), (Lines{"Ann", "Bo"}));
+}
+
+TEST_F(LogEditTest, WhatThePlayerHasNotAppliedYetWaitsForHim) {
+    Open(path_);
+    ClickItem(List("Include"), 1);
+    Press(">>");
+    Press("Apply Filter");
+    const Lines withoutBo = Shown(Log());
+    Tick("Public");
+    ClickItem(List("Include"), 1);
+    Press(">>");
+    ClickItem(List("Exclude"), 0);
+    Press("<<");
+    Choose(*form_, mnuView_Reload);
+    EXPECT_EQ(Shown(Log()), withoutBo);
+    Choose(*form_, mnuView_Unknown);
+    EXPECT_EQ(Log().Count(), withoutBo.size() + 1);
+    Choose(*form_, mnuView_Unknown);
+    Choose(*form_, mnuView_Follow);
+    PutFile(path_, "  Ann> anew\r\n");
+    WaitFor([this] { return edit_.LogLines->Players().size() == 1; });
+    PutFile(path_, "  Ann> anew\r\nP Bo> was hidden\r\nP Cy> still here\r\n");
+    WaitFor([this] { return edit_.LogLines->Players().size() == 3; });
+    EXPECT_EQ(Shown(Log()), (Lines{"  Ann> anew", "P Cy> still here"}));
+    Press("Apply Filter");
+    EXPECT_EQ(Shown(Log()), Lines{"P Bo> was hidden"});
 }
 
 TEST_F(LogEditTest, FollowingLosesNoLastLineAndNoSelectedName) {

@@ -17,7 +17,7 @@ TEST_F(LogSaveOnAFullDisk, LeavesTheOldFileWhole) {
     for (int i = 0; i < 1000; ++i) text += "  Bob> line\r\n";
     PutFile(path, text);
     LogView view;
-    EXPECT_FALSE(view.ApplyLogFilter(ReadLog({path}, {}, {}).Value(), 0x7FF, {}, {}, true));
+    EXPECT_FALSE(view.ApplyLogFilter(ReadLog({path}, {}, {}).Value(), LineFilter{0x7FF}, true));
     for (const size_t room : {size_t{0}, size_t{30}, text.size() + 6999}) {
         headless::TheWorld().diskRoom = room;
         const Failure failure = SaveFilteredLog(view, path);

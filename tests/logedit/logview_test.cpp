@@ -32,7 +32,7 @@ protected:
     }
 
     void Apply(uint32_t mask, bool lineNumbers) {
-        EXPECT_FALSE(view.ApplyLogFilter(log, mask, include, exclude, lineNumbers));
+        EXPECT_FALSE(view.ApplyLogFilter(log, MakeLineFilter(mask, include, exclude), lineNumbers));
     }
 
     std::string Shown() const {

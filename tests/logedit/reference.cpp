@@ -222,7 +222,7 @@ std::string Difference(std::string_view text, size_t piece, uint32_t hidden) {
     for (size_t i = 0; i < exclude.Count(); ++i) out.push_back({"", static_cast<int>(exclude.Number(i))});
     const uint32_t mask = 0x7FF & ~(hidden << 3);
     LogView view;
-    if (view.ApplyLogFilter(log, mask, include, exclude, hidden % 2 == 0)) return "memory";
+    if (view.ApplyLogFilter(log, MakeLineFilter(mask, include, exclude), hidden % 2 == 0)) return "memory";
     const std::vector<size_t> shown = Filter(expected, static_cast<int>(mask), in, out);
     if (view.Count() != shown.size()) return "number of shown lines";
     for (size_t i = 0; i < shown.size(); ++i)
