@@ -211,12 +211,14 @@ void ListCommand(VirtualList& list, WORD code) {
     list.WindowChangedSelection(there ? std::optional(static_cast<size_t>(caret)) : std::nullopt);
 }
 
-void DrawEmptyText(const VirtualList& list) {
+// Only where the list has been painted: letters drawn twice on the same ground grow bold.
+void DrawEmptyText(const VirtualList& list, HRGN painted) {
     const HWND window = WindowOf(list);
     RECT area{};
     GetClientRect(window, &area);
     area.top += (area.bottom - area.top) / 3;
     const HDC device = GetDC(window);
+    SelectClipRgn(device, painted);
     const HGDIOBJ before = SelectObject(device, FontFor({}, DpiOf(list)));
     SetTextColor(device, GetSysColor(COLOR_GRAYTEXT));
     SetBkMode(device, TRANSPARENT);
@@ -281,10 +283,16 @@ std::optional<LRESULT> ListMessage(VirtualList& list, const Message& m) {
         case WM_CONTEXTMENU:
             if (m.lParam == -1) list.UserPressesRightButton(list.Current());  // by the keyboard
             return 0;
+        case WM_SIZE:
+            if (list.Count() == 0) InvalidateRect(WindowOf(list), nullptr, TRUE);  // its text is in the middle
+            return std::nullopt;
         case WM_PAINT: {
             if (list.Count() > 0 || list.EmptyText().empty()) return std::nullopt;
+            const HRGN painted = CreateRectRgn(0, 0, 0, 0);
+            GetUpdateRgn(WindowOf(list), painted, FALSE);
             const LRESULT result = Pass(m);
-            DrawEmptyText(list);
+            DrawEmptyText(list, painted);
+            DeleteObject(painted);
             return result;
         }
         default: return std::nullopt;
