@@ -1,10 +1,10 @@
 #include "logedit/logedit.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "platform/files.h"
-#include "platform/folders.h"
 #include "platform/text.h"
 
 namespace quirn {
@@ -36,15 +36,16 @@ void Clear(LogEdit& edit, const RuntimeError& error, bool several) {
 }  // namespace
 
 LogPaths InOrderOfWriting(const LogPaths& paths) {
+    std::set<std::string, LessNoCase> known;
     std::vector<std::pair<uint64_t, std::string>> files;
     for (const std::string& path : paths) {
-        const std::optional<FolderEntry> entry = FindEntry(path);
-        files.emplace_back(entry ? entry->writtenLast : 0, AbsolutePath(path));
+        FileReader file;
+        const std::string whole = AbsolutePath(path);
+        if (known.insert(whole).second) files.emplace_back(file.Open(whole) ? 0 : file.WrittenLast(), whole);
     }
     std::sort(files.begin(), files.end());
     LogPaths ordered;
-    for (auto& file : files)
-        if (ordered.empty() || !EqualNoCase(ordered.back(), file.second)) ordered.push_back(std::move(file.second));
+    for (auto& file : files) ordered.push_back(std::move(file.second));
     return ordered;
 }
 

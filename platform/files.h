@@ -28,6 +28,8 @@ public:
 
     Failure Open(const std::string& path);
     uint64_t Size() const { return size_; }  // bytes, when it was opened
+    // In steps of 100 nanoseconds, for comparing. The folder may know an older time while a program writes the file.
+    uint64_t WrittenLast() const;
 
     Failure GoTo(uint64_t position);  // bytes from the start, where the next Read begins
 

@@ -139,6 +139,11 @@ Failure FileReader::Open(const std::string& path) {
     return {};
 }
 
+uint64_t FileReader::WrittenLast() const {
+    const File* file = headless::FindFile(*static_cast<std::string*>(handle_));
+    return file == nullptr ? 0 : file->writtenLast;
+}
+
 Failure FileReader::GoTo(uint64_t position) {
     position_ = position;
     return {};

@@ -146,6 +146,12 @@ Failure FileReader::Open(const std::string& path) {
     return {};
 }
 
+uint64_t FileReader::WrittenLast() const {
+    FILETIME written{};
+    GetFileTime(handle_, nullptr, nullptr, &written);
+    return uint64_t{written.dwHighDateTime} << 32 | written.dwLowDateTime;
+}
+
 Failure FileReader::GoTo(uint64_t position) {
     LARGE_INTEGER place{};
     place.QuadPart = static_cast<LONGLONG>(position);
