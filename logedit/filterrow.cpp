@@ -47,16 +47,24 @@ FilterRow::FilterRow(Form& form, Anchors& anchors)
     anchors.Add(lblStrip, Anchor::Grow, Anchor::Follow);
     txtFilter.SetToolTip("All words must stand in a line; -word must not; \"two words\" count as one");
     pause_.SetInterval(kPause);
-    pause_.onTimer = [this] {
-        pause_.SetEnabled(false);
-        onText(txtFilter.Text());
-    };
+    pause_.onTimer = [this] { ApplyText(); };
     txtFilter.onChange = [this] {
         pause_.SetEnabled(false);
         pause_.SetEnabled(true);
     };
-    cmdShowAll.onClick = [this] { onShowAll(); };
+    cmdShowAll.onClick = [this] { ShowAll(); };
     Reset();
+}
+
+void FilterRow::ApplyText() {
+    if (!pause_.Enabled()) return;
+    pause_.SetEnabled(false);
+    onText(txtFilter.Text());
+}
+
+void FilterRow::ShowAll() {
+    ApplyText();
+    onShowAll();
 }
 
 void FilterRow::FocusText() {
@@ -74,7 +82,7 @@ void FilterRow::Reset() {
 
 bool FilterRow::KeyDown(int key) {
     if (!txtFilter.HasFocus()) return false;
-    if (key == kKeyDown) onDown();
+    if (key == kKeyDown) ApplyText(), onDown();
     else if (key == kKeyEscape && !txtFilter.Text().empty()) txtFilter.UserEdits("");
     else return false;
     return true;

@@ -20,6 +20,7 @@ public:
     std::function<void()> onShowAll;
     std::function<void()> onDown;  // the keyboard goes on to the lines
 
+    void ShowAll();         // what was typed just now counts as what the filters leave
     void Reset();           // the box is empty, no news
     void FocusText();       // what stands there is selected
     bool KeyDown(int key);  // of the form; true swallows it
@@ -28,6 +29,7 @@ public:
     void ShowFile(const std::string& name);  // that the line in sight comes from
 
 private:
+    void ApplyText();  // unless it has been already
     void ShowStrip();
 
     Timer pause_;

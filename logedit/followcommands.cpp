@@ -8,6 +8,7 @@ namespace {
 
 constexpr int kLook = 500;  // milliseconds
 constexpr char kFollowing[] = "Following";
+constexpr char kHeld[] = "Following: the file is held just now";
 
 }  // namespace
 
@@ -50,7 +51,9 @@ void FollowCommands::End(const std::string& words) {
     if (edit_.LogLines.get() == follower_.Log()) {
         const size_t lines = edit_.LogLines->LineCount();
         const size_t players = edit_.LogLines->Players().size();
-        if (follower_.TakeHalfLine()) ShowNew(lines, players);
+        const LogFollower::News news = follower_.TakeHalfLine();
+        if (news == LogFollower::News::Grew) ShowNew(lines, players);
+        if (news == LogFollower::News::Other) ShowReadAgain();
     }
     Stop(words);
 }
@@ -64,11 +67,15 @@ bool FollowCommands::Read(bool follow) {
         return false;
     }
     edit_.LogLines = log.Take();
+    ShowReadAgain();
+    if (follow) row_.ShowNews(kFollowing);
+    return true;
+}
+
+void FollowCommands::ShowReadAgain() {
     players_.FillAgain();
     commands_.ShowReadAgain();
     unseen_ = 0;
-    if (follow) row_.ShowNews(kFollowing);
-    return true;
 }
 
 void FollowCommands::Look() {
@@ -78,15 +85,15 @@ void FollowCommands::Look() {
     const size_t players = edit_.LogLines->Players().size();
     switch (follower_.Look()) {
         case LogFollower::News::None: break;
+        case LogFollower::News::Held: row_.ShowNews(kHeld); return;
         case LogFollower::News::Grew: ShowNew(lines, players); break;
         case LogFollower::News::Other: Read(true); break;
         case LogFollower::News::Gone: End("Not followed any more: the file is gone"); break;
         case LogFollower::News::Full: Stop("Not followed any more: the log is too large"); break;
     }
-    if (follower_.IsFollowing() && unseen_ > 0 && list_.ShowsEnd()) {
-        unseen_ = 0;
-        row_.ShowNews(kFollowing);
-    }
+    if (!follower_.IsFollowing()) return;
+    if (list_.ShowsEnd()) unseen_ = 0;
+    ShowNews();
 }
 
 // The list goes on with the log only while its end is in sight: who reads something else is not disturbed.
@@ -100,15 +107,19 @@ void FollowCommands::ShowNew(size_t lines, size_t players) {
         return;
     }
     unseen_ += added;
-    if (unseen_ > 0) row_.ShowNews(std::to_string(unseen_) + (unseen_ == 1 ? " new line" : " new lines"));
+    ShowNews();
+}
+
+void FollowCommands::ShowNews() {
+    row_.ShowNews(unseen_ == 0 ? kFollowing : std::to_string(unseen_) + (unseen_ == 1 ? " new line" : " new lines"));
 }
 
 void FollowCommands::GoToEnd() {
     if (list_.Count() == 0) return;
     list_.SetCurrent(list_.Count() - 1);
     list_.SetTopIndex(list_.Count() - 1);
-    if (follower_.IsFollowing()) row_.ShowNews(kFollowing);
     unseen_ = 0;
+    if (follower_.IsFollowing()) ShowNews();
 }
 
 }  // namespace quirn

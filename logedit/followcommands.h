@@ -33,7 +33,9 @@ private:
     void Stop(const std::string& words);
     void Look();
     void End(const std::string& words);
+    void ShowReadAgain();
     void ShowNew(size_t lines, size_t players);
+    void ShowNews();
 
     Form& form_;
     LogEdit& edit_;

@@ -52,7 +52,9 @@ void LogFollower::Stop() {
 
 LogFollower::News LogFollower::Look() {
     FileReader file;
-    if (!IsFollowing() || file.Open(log_->Files().back().path)) return News::Gone;
+    if (!IsFollowing()) return News::Gone;
+    if (const Failure failure = file.Open(log_->Files().back().path))
+        return failure->number == static_cast<int>(ErrorNumber::PermissionDenied) ? News::Held : News::Gone;
     const uint64_t end = Begin() + file.Size();  // in the text
     if (end < available_ || !IsSameFile(file)) return News::Other;
     if (end == available_) return News::None;
@@ -62,18 +64,21 @@ LogFollower::News LogFollower::Look() {
         capacity_ = RoomFor(size);
     }
     const size_t lines = log_->LineCount();
-    const bool wasEmpty = log_->Info(0) == 0;  // its one element stands for no line, and is shown as one
+    const bool wasEmpty = log_->IsEmpty();
     if (file.GoTo(available_ - Begin())) return News::Gone;
     if (const Failure failure = ReadPieces(file, *parser_, available_, size, {}))
         return failure->number == static_cast<int>(ErrorNumber::Overflow) ? News::Full : News::Gone;
     parser_->Publish();
-    if (wasEmpty && log_->Info(0) != 0) return News::Other;
+    if (wasEmpty && !log_->IsEmpty()) return News::Other;
     return log_->LineCount() > lines ? News::Grew : News::None;
 }
 
-bool LogFollower::TakeHalfLine() {
+LogFollower::News LogFollower::TakeHalfLine() {
     const size_t lines = log_->LineCount();
-    return parser_->Finish(available_) && log_->LineCount() > lines;
+    const bool wasEmpty = log_->IsEmpty();
+    if (!parser_->Finish(available_)) return News::Full;
+    if (wasEmpty && !log_->IsEmpty()) return News::Other;
+    return log_->LineCount() > lines ? News::Grew : News::None;
 }
 
 // A file that was put in its place may well be longer.

@@ -17,7 +17,8 @@ public:
     enum class News {
         None,
         Grew,   // the log has more lines, perhaps more players
-        Other,  // the file became shorter or is another one: it has to be read anew
+        Other,  // nothing of what was shown is left: the file became shorter or is another one, or it was empty
+        Held,   // another program lets nobody read it at the moment
         Gone,   // there is none, or it cannot be read
         Full,   // memory cannot hold more, or there are too many players
     };
@@ -33,8 +34,8 @@ public:
 
     News Look();
 
-    // Nothing more is awaited: a last line without an end counts as well. True when the log has got it.
-    bool TakeHalfLine();
+    // Nothing more is awaited: a last line without an end counts as well.
+    News TakeHalfLine();
 
 private:
     bool IsSameFile(FileReader& file) const;

@@ -62,6 +62,7 @@ public:
     // At least 1: a log without a kept line still has its first, empty element, which is shown as a line. Kept on
     // purpose.
     size_t LineCount() const { return lineCount_; }
+    bool IsEmpty() const { return Info(0) == 0; }  // that element is all there is
 
     // A kept line as it stands in the file, with its two-character prefix, without a line-number tag and line end.
     // The text lives as long as this log.

@@ -228,7 +228,15 @@ TEST_F(LogEditTest, FiltersByWordsDeletesAndGoesBack) {
     WaitFor([this] { return Log().Count() == 4; });
     EXPECT_EQ(words.Text(), "");
     EXPECT_EQ(Log().Count(), 4u);
+    Type(words, "welcome");
+    Press("Show &All");
+    WaitForEvents(400);
+    EXPECT_EQ(Log().Count(), 4u) << "what was typed just before does not end it";
+    Press("Show Fil&tered");
+    EXPECT_EQ(Shown(Log()), Lines{"  Welcome"});
     Press("Apply Filter");
+    words.UserEdits("");
+    WaitFor([this] { return Log().Count() == 5; });
     EXPECT_EQ(Log().Count(), 5u) << "brings deleted lines back";
     EXPECT_FALSE(form_->MenuBar()->Find(mnuEdit_Undo)->IsEnabled());
     ClickItem(Log(), 3);
@@ -306,6 +314,24 @@ TEST_F(LogEditTest, WhoWasExcludedStaysSoWhenTheLogBeginsAnew) {
     EXPECT_EQ(Shown(List("Include")), (Lines{"Ann", "Bo"}));
 }
 
+TEST_F(LogEditTest, FollowingWaitsForAFileThatIsHeldAndEndsWithAHalfLine) {
+    PutFile(path_, "");
+    Open(path_);
+    Choose(*form_, mnuView_Follow);
+    const auto& strip = Find<Label>(*form_, "Following");
+    {
+        const HeldFile held(path_);
+        WaitFor([&] { return strip.Text().ends_with("held just now"); });
+        EXPECT_EQ(strip.Text(), "Following: the file is held just now");
+    }
+    PutFile(path_, "  Bo> half");
+    WaitFor([&] { return strip.Text() == "Following"; });
+    EXPECT_EQ(strip.Text(), "Following");
+    EXPECT_EQ(Shown(Log()), Lines{""});
+    Choose(*form_, mnuView_Follow);
+    EXPECT_EQ(Shown(Log()), Lines{"  Bo> half"});
+}
+
 TEST_F(LogEditTest, WhatThePlayerHasNotAppliedYetWaitsForHim) {
     Open(path_);
     ClickItem(List("Include"), 1);
@@ -381,7 +407,7 @@ TEST_F(LogEditTest, SeveralLogsAreShownAsOneInTheOrderOfTheirTimes) {
     PutFile(tuesday, "  Cy> no end");
     WaitForEvents(60);
     PutFile(friday, "  Cy> last\r\n  Zed> end\r\n");
-    headless::ExpectOpenFiles("Open Several", {friday, tuesday, path_});
+    headless::ExpectOpenFiles("Open Several", {friday, tuesday, path_, Scratch() + "\\FRIDAY.log"});
     Choose(*form_, mnuFile_Several);
     EXPECT_EQ(form_->Caption(), kTitleText + " - monday.log to friday.log");
     const Lines all{"  Bo> one",     "P Cy> two",    "T Ann> three", "  Welcome",
