@@ -282,7 +282,7 @@ void frmLogEdit::mnuView_Unknown_Click() {
 
 void frmLogEdit::mnuView_Colors_Click() {
     Toggle(mnuView_Colors, edit_.colorsByType);
-    lstLog.ColorsChanged();
+    lstLog.ItemsChanged();
 }
 
 void frmLogEdit::mnuInExPopup_Only_Click() {

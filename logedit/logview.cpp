@@ -32,7 +32,7 @@ std::string LogView::Text(size_t item) const {
 
 size_t LogView::LongestText() const {
     if (!log_) return 0;
-    return log_->LongestLine() + (tags_ ? tags_->Length() : 0);
+    return log_->LongestLine() + TagLength();
 }
 
 Failure LogView::ApplyLogFilter(std::shared_ptr<const ParsedLog> log, LineFilter filter, bool lineNumbers,
@@ -125,7 +125,7 @@ size_t LogView::ItemOfLine(size_t line, size_t from) const {
 // Line numbers are no part of the line.
 std::vector<std::pair<size_t, size_t>> LogView::Marks(size_t item) const {
     std::vector<std::pair<size_t, size_t>> marks = text_.Marks(Line(item));
-    for (auto& mark : marks) mark.first += tags_ ? tags_->Length() : 0;
+    for (auto& mark : marks) mark.first += TagLength();
     return marks;
 }
 

@@ -43,6 +43,7 @@ public:
     int32_t Info(size_t item) const { return log_->Info(shown_[item]); }
     size_t LineIndex(size_t item) const { return shown_[item]; }  // among all parsed lines
     const std::optional<LineNumberTag>& Tags() const { return tags_; }
+    size_t TagLength() const { return tags_ ? tags_->Length() : 0; }      // bytes
     const std::shared_ptr<const ParsedLog>& Log() const { return log_; }  // null when nothing is shown
     const LineFilter& Filter() const { return filter_; }                  // as it was applied last
 

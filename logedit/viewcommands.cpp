@@ -252,11 +252,21 @@ void ViewCommands::ShowReadAgain() {
 }
 
 size_t ViewCommands::ShowNew(size_t lines, size_t players) {
-    const size_t before = edit_.view.Count();
-    KeepPlace([&] {
-        if (const Result<size_t> count = edit_.view.Extend(lines, players); count.Failed()) ShowError(count.Error());
-    });
-    return edit_.view.Count() - before;
+    LogView& view = edit_.view;
+    const size_t before = view.Count();
+    const size_t tagLength = view.TagLength();
+    const auto extend = [&] {
+        if (const Result<size_t> count = view.Extend(lines, players); count.Failed()) ShowError(count.Error());
+    };
+    if (before == 0) {
+        KeepPlace(extend);
+        return view.Count();
+    }
+    extend();
+    list_.Grow(view.Count(), view.LongestText());
+    if (view.TagLength() != tagLength) list_.ItemsChanged();
+    shown_();
+    return view.Count() - before;
 }
 
 }  // namespace quirn

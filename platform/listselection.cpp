@@ -10,6 +10,11 @@ void ListSelection::Reset(size_t itemCount) {
     words_.assign((itemCount + 63) / 64, 0);
 }
 
+void ListSelection::Grow(size_t itemCount) {
+    itemCount_ = itemCount;
+    words_.resize((itemCount + 63) / 64);
+}
+
 size_t ListSelection::SelectedBefore(size_t item) const {
     size_t count = 0;
     for (size_t i = 0; i < item / 64; ++i) count += static_cast<size_t>(std::popcount(words_[i]));

@@ -14,6 +14,8 @@ public:
     // Nothing selected, the anchor on the first item.
     void Reset(size_t itemCount);
 
+    void Grow(size_t itemCount);  // more items, which are not selected
+
     size_t SelectedCount() const { return SelectedBefore(itemCount_); }
     size_t SelectedBefore(size_t item) const;
     bool IsSelected(size_t item) const { return (words_[item / 64] >> item % 64 & 1) != 0; }
@@ -28,6 +30,8 @@ public:
     // over; with Shift it selects from the anchor to here; with both it gives that range the anchor's state and leaves
     // the rest as it is. Without Shift the anchor moves here.
     void Click(size_t item, bool shift, bool ctrl);
+
+    void SetAnchor(size_t item) { anchor_ = item; }
 
     // Calls the function with each selected item, in ascending order.
     template <class Function>

@@ -63,7 +63,8 @@ bool IsOpen(const ComboBox& box);  // its list has dropped down
 void ReadSelection(const VirtualList& list, ListSelection& selection);
 size_t TopIndex(const VirtualList& list);
 void SetTopIndex(VirtualList& list, size_t item);
-size_t RowsInSight(const VirtualList& list);  // whole ones
+size_t RowsInSight(const VirtualList& list);     // whole ones
+void AddItems(VirtualList& list, bool inSight);  // there are more than the window knows; inSight: one can see them
 void ReadSelection(const Table& table, ListSelection& selection, std::optional<size_t>& current);
 void ScrollTo(Table& table, size_t row);
 

@@ -30,6 +30,16 @@ void VirtualList::SetCount(size_t count, size_t longestText) {
     Changed(Aspect::Items);
 }
 
+void VirtualList::Grow(size_t count, size_t longestText) {
+    if (count == count_) return;
+    Selection();
+    const bool inSight = ShowsEnd();
+    count_ = count;
+    longestText_ = longestText;
+    selection_.Grow(count);
+    if (window != nullptr) native::AddItems(*this, inSight);
+}
+
 void VirtualList::SetSelection(const ListSelection& selection) {
     selection_ = selection;
     selectionIsOld_ = false;
@@ -50,7 +60,9 @@ void VirtualList::SelectAll() {
 }
 
 void VirtualList::SetCurrent(std::optional<size_t> item) {
+    Selection();
     current_ = item;
+    if (item) selection_.SetAnchor(*item);
     Changed(Aspect::Value);
 }
 
@@ -78,10 +90,10 @@ void VirtualList::SelectionRemoved(size_t longestText) {
 void VirtualList::SetEmptyText(const std::string& text) {
     if (text == emptyText_) return;
     emptyText_ = text;
-    ColorsChanged();
+    ItemsChanged();
 }
 
-void VirtualList::ColorsChanged() {
+void VirtualList::ItemsChanged() {
     Changed(Aspect::Colors);  // painted anew
 }
 

@@ -41,12 +41,14 @@ public:
     // Other items: nothing is selected, none is current, and the list is scrolled to its start. longestText: the most
     // bytes that an item has, for scrolling sideways.
     void SetCount(size_t count, size_t longestText);
+    // More items behind the others, to so many in all; all else stays, also from where Shift goes on.
+    void Grow(size_t count, size_t longestText);
     void SetEmptyText(const std::string& text);         // shown, grey, while there are no items
-    void ColorsChanged();                               // itemColor says something else than before
+    void ItemsChanged();                                // itemText or itemColor says something else than before
     void SetSelection(const ListSelection& selection);  // of Count() items
     void Select(size_t item);                           // beside what is selected
     void SelectAll();
-    void SetCurrent(std::optional<size_t> item);  // scrolls nothing
+    void SetCurrent(std::optional<size_t> item);  // Shift goes on from there; scrolls nothing
     void SetTopIndex(size_t item);                // or as near to the top as the list's end lets it come
 
     // The selected items have gone, and the items behind them have moved up. The place of the list stays.

@@ -277,6 +277,8 @@ void SetTopIndex(VirtualList& list, size_t item) {
     topIndexes[&list] = std::min(item, HighestTop(list));
 }
 
+void AddItems(VirtualList&, bool) {}
+
 void AddTrayIcon(TrayIcon& icon) {
     headless::TheWorld().trayIcons.push_back(&icon);
 }

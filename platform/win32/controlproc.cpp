@@ -74,10 +74,13 @@ std::optional<LRESULT> Draw(const DRAWITEMSTRUCT& item) {
 
 }  // namespace
 
-// The window's own procedure is its class's.
+// It is its class's.
+WNDPROC OwnProcedure(HWND window) {
+    return reinterpret_cast<WNDPROC>(GetClassLongPtrA(window, GCLP_WNDPROC));
+}
+
 LRESULT Pass(const Message& m) {
-    const auto original = reinterpret_cast<WNDPROC>(GetClassLongPtrA(m.window, GCLP_WNDPROC));
-    return CallWindowProcA(original, m.window, m.message, m.wParam, m.lParam);
+    return CallWindowProcA(OwnProcedure(m.window), m.window, m.message, m.wParam, m.lParam);
 }
 
 bool FocusArrives(HWND window) {

@@ -33,6 +33,7 @@ struct Message {
 
 // What the window would do with the message by itself.
 LRESULT Pass(const Message& m);
+WNDPROC OwnProcedure(HWND window);  // that does it
 
 }  // namespace win32
 

@@ -55,9 +55,12 @@ void ApplySelected(const VirtualList& list) {
     const size_t count = selection.SelectedCount();
     Send(list, LB_SETSEL, count == list.Count(), -1);
     if (count == 0 || count == list.Count()) return;
+    // There may be 200,000 rows of them: on the shortest way to the list box.
+    const HWND window = WindowOf(list);
+    const WNDPROC procedure = OwnProcedure(window);
     size_t first = 0, next = 0;  // of the items in a row that are selected
     const auto finishRow = [&] {
-        if (next > first) Send(list, LB_SELITEMRANGEEX, first, static_cast<LPARAM>(next - 1));
+        if (next > first) CallWindowProcA(procedure, window, LB_SELITEMRANGEEX, first, static_cast<LPARAM>(next - 1));
     };
     selection.ForEach([&](size_t item) {
         if (item != next) {
@@ -70,7 +73,9 @@ void ApplySelected(const VirtualList& list) {
 }
 
 void ApplyCurrent(const VirtualList& list) {
-    if (list.Current()) Send(list, LB_SETCARETINDEX, *list.Current(), TRUE);
+    if (!list.Current()) return;
+    Send(list, LB_SETCARETINDEX, *list.Current(), TRUE);
+    Send(list, LB_SETANCHORINDEX, *list.Current());
 }
 
 // A translation between ANSI and Unicode on a text's way to another program may have no more room than this.
@@ -137,6 +142,21 @@ void Apply(const VirtualList& list, Aspect aspect) {
     const Unpainted unpainted(list);
     if (aspect != Aspect::Value) ApplySelected(list);
     ApplyCurrent(list);
+}
+
+// What is selected, and from where Shift goes on, is the list box's own and stays; should a system's list box forget
+// it with the new count, at least the items are selected again.
+void ApplyNewItems(const VirtualList& list, bool inSight) {
+    const LRESULT selected = Send(list, LB_GETSELCOUNT);
+    Send(list, WM_SETREDRAW, FALSE);
+    Send(list, LB_SETCOUNT, list.Count());
+    Send(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(TextExtent(list)));
+    if (Send(list, LB_GETSELCOUNT) != selected) {
+        ApplySelected(list);
+        ApplyCurrent(list);
+    }
+    Send(list, WM_SETREDRAW, TRUE);
+    if (inSight) InvalidateRect(WindowOf(list), nullptr, TRUE);
 }
 
 void Fill(const VirtualList& list) {
@@ -341,6 +361,10 @@ size_t RowsInSight(const VirtualList& list) {
 
 void SetTopIndex(VirtualList& list, size_t item) {
     Send(list, LB_SETTOPINDEX, item);
+}
+
+void AddItems(VirtualList& list, bool inSight) {
+    ApplyNewItems(list, inSight);
 }
 
 }  // namespace native

@@ -264,6 +264,9 @@ TEST_F(LogEditTest, FollowsALogAndKeepsWhatThePlayerChose) {
     WaitFor([this] { return Log().Count() == 5; });
     EXPECT_EQ(Shown(Log()).back(), "  New> half");
     EXPECT_EQ(Shown(List("Include")), (Lines{"Ann", "Bo", "Dee", "New"}));
+    ClickItem(Log(), 3, true, false);
+    EXPECT_EQ(Log().Selection().SelectedCount(), 3u) << "Shift goes on from where it was before the log grew";
+    ClickItem(Log(), 1);
     quirn::test::Press(*form_, kKeyDelete);
     Choose(*form_, mnuView_Reload);
     EXPECT_EQ(Shown(Log()), (Lines{"  Bo> one", "  Welcome", "  Bo> six", "  New> half"})) << "deleted lines stay so";
