@@ -14,12 +14,6 @@ void LogEdit::Forget() {
     lastSearch.clear();
 }
 
-uint32_t LogEdit::KnownTypes() const {
-    FilterBoxValues all;
-    all.fill(1);
-    return BuildFilterMask(all) | (showUnknown ? uint32_t{kUnknown} : 0);
-}
-
 namespace {
 
 // What files that could not be read leave.

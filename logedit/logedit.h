@@ -32,7 +32,6 @@ struct LogEdit {
 
     // LogFilterMask, and on demand the lines of a kind that no check box stands for.
     uint32_t FilterMask() const { return LogFilterMask | (showUnknown ? uint32_t{kUnknown} : 0); }
-    uint32_t KnownTypes() const;  // the same with all check boxes ticked
 
     // What the main window's Log menu does before it shows the window: no lines, no search text.
     void Forget();

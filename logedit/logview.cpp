@@ -45,7 +45,7 @@ Failure LogView::ApplyLogFilter(std::shared_ptr<const ParsedLog> log, LineFilter
     }
     if (!keeps) deletions_.Clear();
     filter_ = std::move(filter);
-    all_.reset();
+    showsAll_ = false;
     Recompute();
     tags_.reset();
     if (lineNumbers) tags_.emplace(log_->LineCount());
@@ -71,7 +71,7 @@ Result<size_t> LogView::Extend(size_t lines, size_t players) {
     size_t count = FilterLines(*log_, FilterInUse(), added, lines);
     passed_ += count;
     undeleted_ += count;
-    if (!all_ && !text_.IsEmpty()) count = text_.Apply(*log_, added, count);
+    if (!showsAll_ && !text_.IsEmpty()) count = text_.Apply(*log_, added, count);
     count_ += count;
     if (tags_) tags_.emplace(now);
     return count;
@@ -91,7 +91,7 @@ void LogView::Recompute() {
             undeleted_ += !deletions_.Has(shown_[i]);
         }
     }
-    count_ = all_ || text_.IsEmpty() ? undeleted_ : text_.Apply(*log_, shown_.get(), undeleted_);
+    count_ = showsAll_ || text_.IsEmpty() ? undeleted_ : text_.Apply(*log_, shown_.get(), undeleted_);
 }
 
 void LogView::Clear() {
@@ -102,13 +102,12 @@ void LogView::Clear() {
 
 void LogView::SetText(TextFilter text) {
     text_ = std::move(text);
-    all_.reset();
+    showsAll_ = false;
     Recompute();
 }
 
-void LogView::ShowAll(std::optional<uint32_t> mask) {
-    all_.reset();
-    if (mask) all_ = LineFilter{*mask};
+void LogView::ShowAll(bool all) {
+    showsAll_ = all;
     Recompute();
 }
 

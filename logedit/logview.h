@@ -75,10 +75,10 @@ public:
     // On top of types and players, as they were applied last; what ShowAll does is over.
     void SetText(TextFilter text);
 
-    // Shows the lines of all these types, whoever speaks and whatever they say, until the filter is applied anew or
-    // nothing is given.
-    void ShowAll(std::optional<uint32_t> mask);
-    bool ShowsAll() const { return all_.has_value(); }
+    // Shows the lines of all types, unknown ones too, whoever speaks and whatever they say, until the filter is applied
+    // anew. What is deleted stays so.
+    void ShowAll(bool all);
+    bool ShowsAll() const { return showsAll_; }
 
     // Takes the selected items out of the display; the parsed lines stay. The selection must have Count() items. top:
     // the first item in sight.
@@ -105,9 +105,11 @@ public:
     std::string SelectedText(const ListSelection& selected) const;
 
 private:
+    inline static const LineFilter kEverything{UINT32_MAX};
+
     bool MakeRoom(size_t lines, size_t kept);
     void Recompute();
-    const LineFilter& FilterInUse() const { return all_ ? *all_ : filter_; }
+    const LineFilter& FilterInUse() const { return showsAll_ ? kEverything : filter_; }
 
     std::shared_ptr<const ParsedLog> log_;
     std::unique_ptr<uint32_t[]> shown_;  // with room for every line of the log
@@ -115,7 +117,7 @@ private:
     std::optional<LineNumberTag> tags_;
     LineFilter filter_;
     TextFilter text_;
-    std::optional<LineFilter> all_;  // while all is shown
+    bool showsAll_ = false;
     Deletions deletions_;
     size_t room_ = 0;       // of shown_, lines
     size_t passed_ = 0;     // lines that pass types and players

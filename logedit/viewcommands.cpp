@@ -102,7 +102,7 @@ void ViewCommands::FilterByText(const std::string& text) {
 
 void ViewCommands::ShowAll() {
     if (!HasLog()) return;
-    KeepPlace([this] { edit_.view.ShowAll(edit_.view.ShowsAll() ? std::nullopt : std::optional(edit_.KnownTypes())); });
+    KeepPlace([this] { edit_.view.ShowAll(!edit_.view.ShowsAll()); });
 }
 
 void ViewCommands::FindNext(const std::string& text) {
@@ -226,7 +226,7 @@ void ViewCommands::FilterAnew(const std::shared_ptr<const ParsedLog>& log, const
     KeepPlace([&] {
         const bool showsAll = keepsAll && edit_.view.ShowsAll();
         ShowError(edit_.view.ApplyLogFilter(log, filter, edit_.lineNumbers, true));
-        if (showsAll) edit_.view.ShowAll(edit_.KnownTypes());
+        if (showsAll) edit_.view.ShowAll(true);
     });
 }
 
