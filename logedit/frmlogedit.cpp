@@ -384,6 +384,7 @@ void frmLogEdit::ShowCounts() {
     menuBar_.SetChecked(mnuView_All, edit_.view.ShowsAll());
     lstLog.SetEmptyText(commands_.HasLog() ? kAllHidden : kHowToBegin);
     row_.ShowCounts(edit_.view);
+    statistics_.LinesChanged();
     ShowFile();
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "logedit/playerlist.h"
 #include "mainwin/keptplace.h"
 #include "platform/clipboard.h"
 #include "platform/dialogs.h"
@@ -20,6 +21,7 @@ constexpr int kInnerWidth = 9960;
 constexpr int kInnerHeight = 5460;
 constexpr int kLeastWidth = 8400;
 constexpr int kLeastHeight = 3600;
+constexpr int kPause = 300;  // milliseconds
 
 // clang-format off
 //                        left   top  width  height
@@ -79,25 +81,41 @@ frmLogStatistics::frmLogStatistics(std::function<std::vector<PlayerStatistics>(b
         if (!IsMinimized()) anchors_.Place(InnerWidth(), InnerHeight());
     };
     onUnload = [this] {
+        pause_.SetEnabled(false);
         StorePlace(*this, tblPlayers, kPlaceName);
         return true;
     };
     onKeyDown = [this](int key, bool control) { return Form_KeyDown(key, control); };
+    pause_.SetInterval(kPause);
+    pause_.onTimer = [this] {
+        pause_.SetEnabled(false);
+        CountAnew();
+    };
     source_.onClick = [this] { CountAnew(); };
-    txtFind.onChange = [this] { ShowRows(); };
+    txtFind.onChange = [this] {
+        ShowRows(SelectedPlayer());
+        if (!shown_.empty() && !tblPlayers.Current()) tblPlayers.SetCurrent(0);
+        ShowSelected();
+    };
     tblPlayers.cellText = [this](size_t row, int column) { return CellText(players_[shown_[row]], column); };
     tblPlayers.cellBar = [this](size_t row, int column) { return Bar(players_[shown_[row]], column); };
     tblPlayers.onSort = [this](int column) { SortBy(column); };
     tblPlayers.onActivate = [this] { cmdOnly_Click(); };
-    tblPlayers.onSelect = [this] { cmdOnly.SetEnabled(tblPlayers.Current().has_value()); };
+    tblPlayers.onSelect = [this] { ShowSelected(); };
     tblPlayers.SetEmptyText("Nobody speaks, kills or dies here.");
     cmdOnly.onClick = [this] { cmdOnly_Click(); };
     cmdClose.onClick = [this] { Unload(); };
 }
 
+void frmLogStatistics::LinesChanged() {
+    if (Visible()) pause_.SetEnabled(true);
+}
+
 void frmLogStatistics::Open(Form& owner) {
     Load();
     CountAnew();
+    if (!shown_.empty()) tblPlayers.SetCurrent(0);
+    ShowSelected();
     if (Visible()) BringToFront();
     else ShowOwned(owner);
     tblPlayers.SetFocus();
@@ -121,6 +139,7 @@ bool frmLogStatistics::Form_KeyDown(int key, bool control) {
 
 // Another log may have been opened meanwhile.
 void frmLogStatistics::CountAnew() {
+    const std::string selected = SelectedPlayer();
     SetCaption("Player Statistics - " + logName_());
     players_ = count_(source_.Selected() == optShown.Index());
     allLines_ = mostLines_ = 0;
@@ -130,10 +149,19 @@ void frmLogStatistics::CountAnew() {
         mostLines_ = std::max(mostLines_, player.lines);
         bestRatio_ = std::max(bestRatio_, player.Ratio());
     }
-    ShowRows();
+    ShowRows(selected);
 }
 
-void frmLogStatistics::ShowRows() {
+std::string frmLogStatistics::SelectedPlayer() const {
+    return tblPlayers.Current() ? players_[shown_[*tblPlayers.Current()]].name : std::string();
+}
+
+void frmLogStatistics::ShowSelected() {
+    cmdOnly.SetEnabled(tblPlayers.Current().has_value());
+}
+
+// The player stays selected while there is a row for him.
+void frmLogStatistics::ShowRows(const std::string& selected) {
     const std::string wanted = FoldCase(txtFind.Text());
     shown_.clear();
     for (size_t i = 0; i < players_.size(); ++i)
@@ -142,8 +170,9 @@ void frmLogStatistics::ShowRows() {
         return sortsDown_ ? ComesBefore(players_[b], players_[a]) : ComesBefore(players_[a], players_[b]);
     });
     tblPlayers.SetRowCount(shown_.size());
-    if (!shown_.empty()) tblPlayers.SetCurrent(0);
-    cmdOnly.SetEnabled(!shown_.empty());
+    const auto row = std::find_if(shown_.begin(), shown_.end(), [&](size_t i) { return players_[i].name == selected; });
+    if (row != shown_.end()) tblPlayers.SetCurrentInPlace(static_cast<size_t>(row - shown_.begin()));
+    ShowSelected();
 }
 
 // A column of numbers begins with the greatest.
@@ -151,12 +180,13 @@ void frmLogStatistics::SortBy(int column) {
     sortsDown_ = column == sortColumn_ ? !sortsDown_ : column != kPlayer;
     sortColumn_ = column;
     tblPlayers.SetSortArrow(sortColumn_, sortsDown_);
-    ShowRows();
+    ShowRows(SelectedPlayer());
+    if (tblPlayers.Current()) tblPlayers.ScrollTo(*tblPlayers.Current());
 }
 
 bool frmLogStatistics::ComesBefore(const PlayerStatistics& a, const PlayerStatistics& b) const {
     switch (sortColumn_) {
-        case kPlayer: return FoldCase(a.name) < FoldCase(b.name);
+        case kPlayer: return quirn::ComesBefore(a.name, b.name);
         case kLines:
         case kShare: return a.lines < b.lines;
         case kKills: return a.kills < b.kills;

@@ -8,6 +8,7 @@
 #include "platform/anchors.h"
 #include "platform/form.h"
 #include "platform/table.h"
+#include "platform/timer.h"
 
 namespace quirn {
 
@@ -20,12 +21,15 @@ public:
                      std::function<std::string()> logName, std::function<void(const std::string& player)> only);
 
     void Open(Form& owner);
+    void LinesChanged();  // counts them anew, a moment later, while it is open
 
 private:
     void Form_Load();
     bool Form_KeyDown(int key, bool control);
     void CountAnew();
-    void ShowRows();
+    void ShowRows(const std::string& selected);
+    void ShowSelected();
+    std::string SelectedPlayer() const;
     void SortBy(int column);
     bool ComesBefore(const PlayerStatistics& a, const PlayerStatistics& b) const;
     std::string CellText(const PlayerStatistics& player, int column) const;
@@ -41,6 +45,7 @@ private:
     size_t allLines_ = 0;
     size_t mostLines_ = 0;
     double bestRatio_ = 0;
+    Timer pause_;
     int sortColumn_;
     bool sortsDown_ = true;
 

@@ -15,8 +15,7 @@ namespace {
 // The letter that an accented one is sorted with, from 0xC0 on in upper case; itself for what is no letter.
 constexpr char kLetters[] = "AAAAAAACEEEEIIIIDNOOOOO\xD7OUUUUYTS";
 
-// Where a character stands in the alphabet, from 1, as the system's sorted lists have it: whatever is neither letter
-// nor digit, the digits, the letters. Accents count only between names that are the same without them.
+// Where a character stands in the alphabet, from 1, as the system's sorted lists have it.
 constexpr std::array<uint8_t, 256> MakeAlphabet() {
     std::array<uint8_t, 256> places{};
     constexpr int kDigits = 200, kFirstLetter = kDigits + 10;
@@ -53,13 +52,16 @@ uint64_t StartOf(std::string_view name) {
 
 }  // namespace
 
+bool ComesBefore(std::string_view name, std::string_view other) {
+    const auto [left, right] = std::mismatch(name.begin(), name.end(), other.begin(), other.end(),
+                                             [](char c, char d) { return PlaceOf(c) == PlaceOf(d); });
+    if (right == other.end()) return left == name.end() && LessNoCase()(name, other);
+    return left == name.end() || PlaceOf(*left) < PlaceOf(*right);
+}
+
 bool PlayerList::Before::operator()(const Item& a, const Item& b) const {
     if (a.start != b.start) return a.start < b.start;
-    const std::string_view x = names[a.number - 1], y = names[b.number - 1];
-    const auto [left, right] =
-        std::mismatch(x.begin(), x.end(), y.begin(), y.end(), [](char c, char d) { return PlaceOf(c) == PlaceOf(d); });
-    if (right == y.end()) return left == x.end() && LessNoCase()(x, y);
-    return left == x.end() || PlaceOf(*left) < PlaceOf(*right);
+    return ComesBefore(names[a.number - 1], names[b.number - 1]);
 }
 
 void PlayerList::Fill(std::shared_ptr<const ParsedLog> log) {

@@ -16,6 +16,10 @@ namespace quirn {
 // As players are told apart: without regard to case.
 using PlayerNames = std::set<std::string, LessNoCase>;
 
+// As players are sorted: whatever is neither letter nor digit, digits, letters, without regard to case; accents count
+// only between names that are the same without them.
+bool ComesBefore(std::string_view name, std::string_view other);
+
 // What lstInclude and lstExclude hold: player names in alphabetical order without regard to case, each with its player
 // number as item data, and which of them are selected.
 class PlayerList {

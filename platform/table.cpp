@@ -66,12 +66,16 @@ void Table::SetSelection(const ListSelection& selection) {
 }
 
 void Table::SetCurrent(size_t row) {
+    SetCurrentInPlace(row);
+    ScrollTo(row);
+}
+
+void Table::SetCurrentInPlace(size_t row) {
     selection_.Reset(rowCount_);
     selection_.Click(row, false, false);
     current_ = row;
     selectionIsOld_ = false;
     Changed(Aspect::Selection);
-    ScrollTo(row);
 }
 
 void Table::ScrollTo(size_t row) {

@@ -55,6 +55,7 @@ public:
     void SetSortArrow(int column, bool downwards);      // from the greatest to the least
     void SetSelection(const ListSelection& selection);  // of RowCount() rows
     void SetCurrent(size_t row);                        // selects it alone, and scrolls to it
+    void SetCurrentInPlace(size_t row);                 // the same without scrolling
     void ScrollTo(size_t row);                          // as little as brings it into sight
 
     std::function<void()> onSelect;          // the selection has changed, or the current row

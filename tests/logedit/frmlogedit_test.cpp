@@ -509,14 +509,35 @@ TEST_F(LogEditTest, ThePopupTakesTheLineUnderThePointer) {
     EXPECT_EQ(Log().Current(), 0u);
 }
 
-TEST_F(LogEditTest, StatisticsAreNamedForTheLogThatIsCounted) {
+TEST_F(LogEditTest, StatisticsGoOnWithTheLogAndKeepThePlayer) {
     std::string name = "monday.log";
-    frmLogStatistics statistics([](bool) { return std::vector<PlayerStatistics>(); }, [&] { return name; }, {});
+    std::vector<PlayerStatistics> counted{{"Zed", 9}, {"\xD6land", 7}, {"Pip", 8}};
+    frmLogStatistics statistics([&](bool) { return counted; }, [&] { return name; }, {});
     statistics.Open(*form_);
     EXPECT_EQ(statistics.Caption(), "Player Statistics - monday.log");
+    auto& table = Find<Table>(statistics, "Players");
+    const auto names = [&] {
+        Lines lines;
+        for (size_t row = 0; row < table.RowCount(); ++row) lines.push_back(table.cellText(row, 0));
+        return lines;
+    };
+    EXPECT_EQ(names(), (Lines{"Zed", "Pip", "\xD6land"}));
+    ClickRow(table, 1);
+    ClickHead(table, 0);
+    EXPECT_EQ(names(), (Lines{"\xD6land", "Pip", "Zed"})) << "as in the lists of players";
+    ClickHead(table, 0);
+    EXPECT_EQ(table.Current(), 1u);
     name = "friday.log";
-    quirn::test::Press(statistics, kKeyF5);
+    counted.insert(counted.begin(), {"Aa", 1});
+    statistics.LinesChanged();
+    statistics.LinesChanged();
+    WaitFor([&] { return table.RowCount() == 4; });
     EXPECT_EQ(statistics.Caption(), "Player Statistics - friday.log");
+    EXPECT_EQ(table.cellText(table.Current().value_or(0), 0), "Pip");
+    counted.clear();
+    quirn::test::Press(statistics, kKeyF5);
+    EXPECT_FALSE(table.Current());
+    EXPECT_FALSE(Find<Button>(statistics, "&Only").Enabled());
 }
 
 TEST_F(LogEditTest, SavesWhatIsShownAndOpensItAgain) {
