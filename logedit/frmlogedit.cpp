@@ -148,6 +148,11 @@ void frmLogEdit::Form_Load() {
     settings.place.left = (screen.width - settings.place.width) / 2;
     settings.place.top = (screen.height - settings.place.height) / 2;
     settings = ReadLogSettings(settings);
+    // On a small screen its lower edge would be out of reach.
+    const Bounds free = WorkArea(*this);
+    settings.place.width = std::min(settings.place.width, free.width);
+    settings.place.height = std::min(settings.place.height, free.height);
+    if (settings.place.height == free.height) settings.place.top = free.top;
     lstLog.SetFont(settings.font);
     lstLog.SetForeColor(settings.foreColor);
     lstLog.SetBackColor(settings.backColor);

@@ -74,7 +74,10 @@ void LimitSize(const Form& form, MINMAXINFO& limits) {
     if (form.MinimumWidth() == 0) return;
     constexpr LONG kLargest = 9999;  // pixels
     const int dpi = DpiOf(WindowOf(form));
-    limits.ptMinTrackSize = {ToPixels(form.MinimumWidth(), dpi), ToPixels(form.MinimumHeight(), dpi)};
+    // Never more than the screen has: what is at the lower edge must be in reach.
+    const Bounds screen = WorkArea(form);
+    limits.ptMinTrackSize = {ToPixels(std::min(form.MinimumWidth(), screen.width), dpi),
+                             ToPixels(std::min(form.MinimumHeight(), screen.height), dpi)};
     limits.ptMaxTrackSize = {kLargest, kLargest};
 }
 
