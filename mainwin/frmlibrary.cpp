@@ -96,7 +96,7 @@ frmLibrary::frmLibrary(LibraryDeeds deeds)
     cmdPlay.onClick = [this] { Do(deeds_.Play); };
     cmdOpen.onClick = [this] { Do(deeds_.Open); };
     cmdCompare.onClick = [this] { Do(deeds_.Compare); };
-    cmdMore.onClick = [this] { PopUpMenu(mnuMore, 0); };
+    cmdMore.onClick = [this] { PopUpMenuBelow(cmdMore, mnuMore); };
     cmdClose.onClick = [this] { Unload(); };
     FillTable();
 }

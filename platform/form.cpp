@@ -153,7 +153,11 @@ void Form::Discard() {
 }
 
 void Form::PopUpMenu(Menu& menu, int defaultCommand) {
-    if (loaded_) native::PopUpMenu(*this, menu, defaultCommand);
+    if (loaded_) native::PopUpMenu(*this, menu, defaultCommand, nullptr);
+}
+
+void Form::PopUpMenuBelow(const Control& button, Menu& menu) {
+    if (loaded_) native::PopUpMenu(*this, menu, 0, &button);
 }
 
 void Form::UserCloses(UnloadMode mode) {

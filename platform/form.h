@@ -92,6 +92,7 @@ public:
 
     // Shows a menu at the pointer and calls its handlers; the command in bold is its default.
     void PopUpMenu(Menu& menu, int defaultCommand);
+    void PopUpMenuBelow(const Control& button, Menu& menu);
 
     Control* ActiveControl() const { return active_; }
 

@@ -47,7 +47,8 @@ Size InnerSize(const Form& form);
 Size DialogFrame();  // what it adds to the inner area; also without a form
 
 void MenuChanged(Form& form);  // the rows of its menu bar
-void PopUpMenu(Form& form, Menu& menu, int defaultCommand);
+// At the pointer, or below a control.
+void PopUpMenu(Form& form, Menu& menu, int defaultCommand, const Control* above);
 
 // Aspect::Visible also comes for a control that has no window yet. The value of a tab strip is its page in front.
 void ControlChanged(Control& control, Aspect aspect);

@@ -224,7 +224,7 @@ Size DialogFrame() {
 
 void MenuChanged(Form&) {}
 
-void PopUpMenu(Form&, Menu& menu, int defaultCommand) {
+void PopUpMenu(Form&, Menu& menu, int defaultCommand, const Control*) {
     headless::TheWorld().poppedUpMenus.push_back({&menu, defaultCommand});
 }
 

@@ -128,22 +128,27 @@ void MenuChanged(Form& form) {
     EndMenu();
 }
 
-void PopUpMenu(Form& form, Menu& menu, int defaultCommand) {
+void PopUpMenu(Form& form, Menu& menu, int defaultCommand, const Control* above) {
     const HWND window = WindowOf(form);
     // The items stand below an invisible heading, or at the top when there is none.
     const bool headed = HasChildren(menu.Items(), 0);
     const HMENU popup = CreatePopupMenu();
     Fill(popup, menu.Items(), headed ? 1 : 0, headed ? 1 : 0);
     if (defaultCommand != 0) SetMenuDefaultItem(popup, static_cast<UINT>(defaultCommand), FALSE);
-    POINT pointer{};
-    GetCursorPos(&pointer);
+    POINT place{};
+    GetCursorPos(&place);
+    TPMPARAMS covered{sizeof(TPMPARAMS), {}};  // where there is no room below, the menu opens above it
+    if (above != nullptr) {
+        GetWindowRect(WindowOf(*above), &covered.rcExclude);
+        place = {covered.rcExclude.left, covered.rcExclude.bottom};
+    }
     // Without the foreground the menu would stay open when the player clicks elsewhere; the message after it lets the
     // next one open at the first click. Both are documented with TrackPopupMenu.
     SetForegroundWindow(window);
     Menu* const before = poppedUp;
     poppedUp = &menu;
-    const BOOL chosen =
-        TrackPopupMenu(popup, TPM_RETURNCMD | TPM_RIGHTBUTTON, pointer.x, pointer.y, 0, window, nullptr);
+    const BOOL chosen = TrackPopupMenuEx(popup, TPM_RETURNCMD | TPM_RIGHTBUTTON | TPM_VERTICAL, place.x, place.y,
+                                         window, above != nullptr ? &covered : nullptr);
     poppedUp = before;
     PostMessageA(window, WM_NULL, 0, 0);
     DestroyMenu(popup);
