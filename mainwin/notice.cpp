@@ -18,13 +18,14 @@ Notice NoticeOf(const OddWave& wave) {
     const std::string key = wave.slot == 0 ? "Shift-F11: " : "Shift-F12: ";
     const std::string what = wave.elsewhere ? " lies on another computer." : " is no wave file.";
     return {key + (wave.elsewhere ? wave.path : SplitPath(wave.path).File()) + what + " The game sends it to others.",
-            "Accept", Notice::Action::AcceptWave};
+            "Accept", Notice::Action::AcceptWave, key + "odd wave file"};
 }
 
 }  // namespace
 
 Notice WorstOf(const NoticeFacts& facts) {
-    if (facts.unfinished) return {"The last transfer was not finished.", "Put back...", Notice::Action::Undo};
+    if (facts.unfinished)
+        return {"The last transfer was not finished.", "Put back...", Notice::Action::Undo, "A transfer was cut off."};
     if (facts.notKept) return {"The last transfer could not be kept: no way back."};
     if (facts.versionNotKept) return {"The file that was saved over could not be kept."};
     if (facts.oddWave) return NoticeOf(*facts.oddWave);
@@ -35,7 +36,7 @@ Notice WorstOf(const NoticeFacts& facts) {
     if (facts.changes > 0 || facts.filesChanged)
         return {"The game changed " + WhatTheGameChanged(facts) + " since " + TimeInWords(facts.since, SortableTime()) +
                     ".",
-                "Keep them...", Notice::Action::Keep};
+                "Keep them...", Notice::Action::Keep, "The game changed " + WhatTheGameChanged(facts) + "."};
     return {};
 }
 

@@ -27,6 +27,7 @@ struct Notice {
     std::string text;
     std::string link = {};  // empty: none
     Action action = Action::None;
+    std::string brief = {};  // of one with a link, which leaves room for one line; empty: the text
 };
 
 // An empty text when there is nothing to tell.

@@ -29,7 +29,7 @@ void NoticeBar::Show(const Notice& notice) {
     const bool linked = !notice.link.empty();
     action_ = notice.action;
     lblNotice.SetText(notice.text);
-    lblLinked.SetText(notice.text);
+    lblLinked.SetText(notice.brief.empty() ? notice.text : notice.brief);
     lblLinked.SetToolTip(notice.text);
     lnkNotice.SetText(notice.link);
     lblNotice.SetVisible(!linked);
