@@ -28,7 +28,7 @@ constexpr Bounds kText{    8190,  390,  2850, kRowHeight};
 constexpr Bounds kTable{    120,  795, 10920, 5220};
 constexpr Bounds kTicked{   120, 6240,  2700, kLabelHeight};
 constexpr Bounds kDeed{    2880, 6150,  1680, kButtonHeight};  // the first
-constexpr Bounds kRefresh{ 6420, 6150,  1200, kButtonHeight};
+constexpr Bounds kRefresh{ 2880, 6150,  1200, kButtonHeight};  // behind them
 constexpr Bounds kClose{   9660, 6150,  1380, kButtonHeight};
 // clang-format on
 constexpr int kDeedStep = 1770;
@@ -55,7 +55,7 @@ std::deque<Button> ButtonsFor(Form& form, const std::vector<CompareDeed>& deeds)
 
 std::string Heading(size_t differing, size_t all) {
     return std::to_string(differing) + " of " + std::to_string(all) + " settings " +
-           (differing == 1 ? "differs" : "differ") + ". Tick those that you want to copy.";
+           (differing == 1 ? "differs" : "differ") + ". Tick the ones that you want.";
 }
 
 auto FindIn(const CompareRows& rows, const CompareRow& row) {
@@ -76,7 +76,7 @@ frmCompare::frmCompare(const std::vector<std::string>& columns, std::function<Co
       tblRows(*this, kTable, "Settings", ColumnsFor(columns), ListStyle::Extended),
       lblTicked(*this, kTicked, ""),
       cmdDeeds(ButtonsFor(*this, deeds)),
-      cmdRefresh(*this, kRefresh, "&Refresh"),
+      cmdRefresh(*this, kRefresh.MovedBy(static_cast<int>(deeds.size()) * kDeedStep, 0), "&Refresh"),
       cmdClose(*this, kClose, "Close"),
       anchors_(kInnerWidth, kInnerHeight) {
     SetMinimumSize(kLeastWidth, kLeastHeight);

@@ -43,7 +43,7 @@ frmHistory::frmHistory(const TransferLog& log, std::function<void(const Transfer
       log_(log),
       putBack_(std::move(putBack)),
       tblTransfers(*this, kTransfers, "Transfers",
-                   {{"When", 1650}, {"Profile", 2100}, {"Way", 1300}, {"Changed", 4000}}),
+                   {{"When", 1650}, {"Profile", 2100}, {"How", 1300}, {"What Changed", 4000}}),
       cmdPutBack(*this, kPutBack, "&Put Back"),
       cmdShow(*this, kShow, "&Show..."),
       cmdForgetAll(*this, kForgetAll, "&Forget All"),
@@ -93,6 +93,7 @@ std::optional<TransferEntry> frmHistory::Ask(Form& owner) {
 void frmHistory::Fill() {
     entries_ = log_.Entries();
     tblTransfers.SetRowCount(entries_.size());
+    if (!entries_.empty()) tblTransfers.SetCurrent(0);
     Select();
 }
 

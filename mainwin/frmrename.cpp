@@ -28,7 +28,7 @@ frmRename::frmRename(const std::string& name)
       txtName(*this, kText),
       cmdOk(*this, kOk, "OK"),
       cmdCancel(*this, kCancel, "Cancel") {
-    SetCaption("Rename");
+    SetCaption("Rename " + name);
     SetButtons(&cmdOk, &cmdCancel);
     txtName.SetText(name);
     onActivate = [this] { txtName.SelectAll(); };

@@ -33,8 +33,7 @@ std::string Question(const TransferEntry& entry, const std::string& presentGameF
 
 std::string WhatStays(const GameState& changed) {
     if (changed.IsEmpty()) return {};
-    return "The game has changed something since: " + WordsFor(changed) +
-           ". This stays, unless you tick it under Show.";
+    return "The game has changed " + WordsFor(changed) + " since then. That stays, unless you tick it under Show.";
 }
 
 }  // namespace

@@ -54,8 +54,8 @@ frmVersions::frmVersions(const std::string& profilePath, const ProfileVersions& 
       profilePath_(profilePath),
       versions_(versions),
       putBack_(std::move(putBack)),
-      Label1(*this, kFile, "What saves have replaced of " + DoubleAmpersands(profilePath) + ":"),
-      tblVersions(*this, kVersions, "Earlier versions", {{"Replaced", 1800}, {"Differs from the file in", 5000}}),
+      Label1(*this, kFile, "What saves have replaced, of " + DoubleAmpersands(profilePath) + ":"),
+      tblVersions(*this, kVersions, "Earlier versions", {{"Replaced", 1800}, {"Differences from the file", 5000}}),
       cmdPutBack(*this, kPutBack, "&Put Back"),
       cmdShow(*this, kShow, "&Show..."),
       cmdForgetAll(*this, kForgetAll, "&Forget All"),
@@ -98,6 +98,7 @@ void frmVersions::Fill() {
     for (const ProfileVersion& version : versions_.List())
         rows_.push_back({version, Difference(FileSide("", version.file), file)});
     tblVersions.SetRowCount(rows_.size());
+    if (!rows_.empty()) tblVersions.SetCurrent(0);
     Select();
 }
 

@@ -176,7 +176,8 @@ void DrawBar(const Table& table, const NMLVCUSTOMDRAW& drawn) {
     const RECT bar{cell.left + margin, cell.bottom - height,
                    cell.left + margin + static_cast<int>((cell.right - cell.left - 2 * margin) * std::min(part, 1.0)),
                    cell.bottom};
-    FillRect(drawn.nmcd.hdc, &bar, GetSysColorBrush(COLOR_HOTLIGHT));
+    const bool selected = Send(table, LVM_GETITEMSTATE, row, LVIS_SELECTED) != 0;
+    FillRect(drawn.nmcd.hdc, &bar, GetSysColorBrush(selected ? COLOR_HIGHLIGHTTEXT : COLOR_HOTLIGHT));
 }
 
 LRESULT Draw(const Table& table, NMLVCUSTOMDRAW& drawn) {

@@ -177,9 +177,9 @@ TEST_F(ProfilesCommandsTest, AnyKeptStateComesBackFromTheHistory) {
                   kOkCancel + kExclamation);
     headless::PostAfter(10, [this] {
         Form& history = *headless::LoadedForms().back();
-        EXPECT_FALSE(ButtonOf(history, "&Put Back").Enabled());
         auto& table = ControlOf<Table>(history, "");
         EXPECT_EQ(table.RowCount(), 2u);
+        EXPECT_EQ(table.Current(), 0u) << "the newest";
         EXPECT_EQ(table.cellText(0, 3), "1 setting");
         ClickRow(table, 1);
         Click(ButtonOf(history, "&Put Back"));
@@ -187,6 +187,7 @@ TEST_F(ProfilesCommandsTest, AnyKeptStateComesBackFromTheHistory) {
         EXPECT_EQ(table.cellText(0, 2), "Put back");
         Click(ButtonOf(history, "&Forget All"));
         EXPECT_EQ(table.RowCount(), 0u);
+        EXPECT_FALSE(ButtonOf(history, "&Put Back").Enabled());
         Click(ButtonOf(history, "Close"));
     });
     Choose(mnuProfiles_History);
