@@ -76,6 +76,7 @@ void FilterRow::Reset() {
     pause_.SetEnabled(false);
     txtFilter.SetText("");
     news_.clear();
+    trouble_.clear();
     file_.clear();
     ShowStrip();
 }
@@ -97,19 +98,28 @@ void FilterRow::ShowCounts(const LogView& view) {
 
 void FilterRow::ShowNews(const std::string& text) {
     news_ = text;
+    trouble_.clear();
+    ShowStrip();
+}
+
+void FilterRow::ShowTrouble(const std::string& text, const std::string& why) {
+    news_ = text;
+    trouble_ = why.empty() ? text : text + ": " + why;
     ShowStrip();
 }
 
 void FilterRow::ShowFile(const std::string& name) {
+    if (name != file_) trouble_.clear();
     file_ = name;
     ShowStrip();
 }
 
 void FilterRow::ShowStrip() {
-    const std::string text = file_ + (file_.empty() || news_.empty() ? "" : " - ") + news_;
+    const std::string news = file_ + (file_.empty() || news_.empty() ? "" : " - ") + news_;
+    const std::string& text = trouble_.empty() ? news : news_;
     if (text == lblStrip.Text()) return;
     lblStrip.SetText(text);
-    lblStrip.SetToolTip(text);
+    lblStrip.SetToolTip(trouble_.empty() ? text : trouble_);
 }
 
 }  // namespace quirn

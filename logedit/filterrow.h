@@ -26,6 +26,8 @@ public:
     bool KeyDown(int key);  // of the form; true swallows it
     void ShowCounts(const LogView& view);
     void ShowNews(const std::string& text);  // of a log that is followed
+    // News that leave no room for the file's name until that is another one; why: for who points at them.
+    void ShowTrouble(const std::string& text, const std::string& why);
     void ShowFile(const std::string& name);  // that the line in sight comes from
 
 private:
@@ -34,6 +36,7 @@ private:
 
     Timer pause_;
     std::string news_, file_;
+    std::string trouble_;  // in full; empty: none
 
     Label lblOnly;
     TextBox txtFilter;

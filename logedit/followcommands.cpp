@@ -8,7 +8,7 @@ namespace {
 
 constexpr int kLook = 500;  // milliseconds
 constexpr char kFollowing[] = "Following";
-constexpr char kHeld[] = "Following: the file is held just now";
+constexpr char kHeld[] = "Waiting: the file is held";
 
 }  // namespace
 
@@ -39,15 +39,16 @@ void FollowCommands::Follow() {
     }
 }
 
-void FollowCommands::Stop(const std::string& words) {
+void FollowCommands::Stop(const std::string& words, const std::string& why) {
     timer_.SetEnabled(false);
     follower_.Stop();
-    row_.ShowNews(words);
+    if (words.empty()) row_.ShowNews("");
+    else row_.ShowTrouble(words, why);
     onFollow(false);
 }
 
 // The line that the game has not ended is shown, lest it be missing from what is saved.
-void FollowCommands::End(const std::string& words) {
+void FollowCommands::End(const std::string& words, const std::string& why) {
     if (edit_.LogLines.get() == follower_.Log()) {
         const size_t lines = edit_.LogLines->LineCount();
         const size_t players = edit_.LogLines->Players().size();
@@ -55,14 +56,14 @@ void FollowCommands::End(const std::string& words) {
         if (news == LogFollower::News::Grew) ShowNew(lines, players);
         if (news == LogFollower::News::Other) ShowReadAgain();
     }
-    Stop(words);
+    Stop(words, why);
 }
 
 // A log that cannot be read leaves what is shown.
 bool FollowCommands::Read(bool follow) {
     Result<std::shared_ptr<const ParsedLog>> log = follow ? follower_.Start(paths_, {}, {}) : ReadLog(paths_, {}, {});
     if (log.Failed()) {
-        if (follow) End("Not followed: the file cannot be read");
+        if (follow) End("Not followed: no file to read", log.Error().description);
         else ShowError(log.Error());
         return false;
     }
@@ -85,11 +86,11 @@ void FollowCommands::Look() {
     const size_t players = edit_.LogLines->Players().size();
     switch (follower_.Look()) {
         case LogFollower::News::None: break;
-        case LogFollower::News::Held: row_.ShowNews(kHeld); return;
+        case LogFollower::News::Held: row_.ShowTrouble(kHeld, "another program lets nobody read it"); return;
         case LogFollower::News::Grew: ShowNew(lines, players); break;
         case LogFollower::News::Other: Read(true); break;
-        case LogFollower::News::Gone: End("Not followed any more: the file is gone"); break;
-        case LogFollower::News::Full: Stop("Not followed any more: the log is too large"); break;
+        case LogFollower::News::Gone: End("Not followed: the file is gone"); break;
+        case LogFollower::News::Full: Stop("Not followed: log too large"); break;
     }
     if (!follower_.IsFollowing()) return;
     if (list_.ShowsEnd()) unseen_ = 0;

@@ -30,9 +30,9 @@ public:
 
 private:
     bool Read(bool follow);
-    void Stop(const std::string& words);
+    void Stop(const std::string& words, const std::string& why = {});
     void Look();
-    void End(const std::string& words);
+    void End(const std::string& words, const std::string& why = {});
     void ShowReadAgain();
     void ShowNew(size_t lines, size_t players);
     void ShowNews();

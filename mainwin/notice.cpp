@@ -17,8 +17,8 @@ std::string WhatTheGameChanged(const NoticeFacts& facts) {
 Notice NoticeOf(const OddWave& wave) {
     const std::string key = wave.slot == 0 ? "Shift-F11: " : "Shift-F12: ";
     const std::string what = wave.elsewhere ? " lies on another computer." : " is no wave file.";
-    return {key + (wave.elsewhere ? wave.path : SplitPath(wave.path).File()) + what + " The game sends it to others.",
-            "Accept", Notice::Action::AcceptWave, key + "odd wave file"};
+    const std::string wrong = key + (wave.elsewhere ? wave.path : SplitPath(wave.path).File()) + what;
+    return {wrong + " The game sends it to others.", "Accept", Notice::Action::AcceptWave, wrong};
 }
 
 }  // namespace

@@ -77,7 +77,7 @@ def test_what_the_game_changes_is_kept_by_a_press(desk):
     assert changed[r"Options\MusicVolume"][1] == "77"
     desk.start().ended()  # shows the window that is there
     player.front()
-    notice(player, "The game changed 3 settings since ")
+    notice(player, "The game changed 3 settings.")
     desk.screenshot("notice")
     player.click(notice(player, "Keep them..."))
     compare = player.dialog("Compare - DUEL.QRN")
@@ -104,7 +104,7 @@ def test_a_transfer_that_was_cut_off_is_found_at_the_next_start(desk):
     entry = next(transfers(desk).glob("20*"))
     (entry / "unfinished.ini").touch()  # as if the power had gone before
     player = start(desk)
-    notice(player, "The last transfer was not finished.")
+    notice(player, "A transfer was cut off.")
     player.click(notice(player, "Put back..."))
     player.dialog("Undo Last Transfer").keys("Return")
     player.expect_status("Settings have been put back")

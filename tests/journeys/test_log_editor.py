@@ -200,7 +200,7 @@ def test_a_growing_log_is_followed_and_a_word_found_in_it(desk):
     log.write_bytes(b"  Ann> anew\r\n")
     wait_for(lambda: editor.shown() == ["  Ann> anew"], what="the shorter file")
     log.unlink()
-    wait_for(lambda: said("Not followed any more: the file is gone"), what="the end")
+    wait_for(lambda: said("Not followed: the file is gone"), what="the end")
     editor.keys("alt+F4")
     editor.gone()
 
