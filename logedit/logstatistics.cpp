@@ -19,14 +19,23 @@ namespace {
 
 // Without up to two numbers in brackets at its end: the bounty and what the kill brought.
 std::string_view WithoutNumbers(std::string_view text) {
-    for (int i = 0; i < 2; ++i) {
-        const size_t open = text.rfind('(');
-        if (!text.ends_with(')') || open == std::string_view::npos || open == 0) break;
-        const std::string_view number = text.substr(open + 1, text.size() - open - 2);
-        if (number.empty() || number.find_first_not_of("0123456789") != std::string_view::npos) break;
-        text = text.substr(0, open);
+    for (int i = 0; i < 2 && text.ends_with(')'); ++i) {
+        size_t digits = text.size() - 1;
+        while (digits > 0 && text[digits - 1] >= '0' && text[digits - 1] <= '9') --digits;
+        const bool isNumber = digits < text.size() - 1 && digits > 1 && text[digits - 1] == '(';
+        if (!isNumber) break;
+        text = text.substr(0, digits - 1);
     }
     return text;
+}
+
+// From the right; a loop of its own, since the system's search of memory may be slow for so few bytes.
+size_t FindKilledBy(std::string_view line) {
+    if (line.size() < kKilledBy.size()) return std::string_view::npos;
+    for (size_t at = line.size() - kKilledBy.size() + 1; at-- > 0;)
+        if (line[at] == kKilledBy[0] && std::memcmp(line.data() + at, kKilledBy.data(), kKilledBy.size()) == 0)
+            return at;
+    return std::string_view::npos;
 }
 
 // The memory is fetched while something else is done.
@@ -230,9 +239,7 @@ private:
 }  // namespace
 
 Kill ReadKill(std::string_view line) {
-    size_t at = line.size();
-    do at = at == 0 ? std::string_view::npos : line.rfind(')', at - 1);
-    while (at != std::string_view::npos && !line.substr(at).starts_with(kKilledBy));
+    const size_t at = FindKilledBy(line);
     if (at == std::string_view::npos || at < 2) return {};
     return {Trim(WithoutNumbers(line.substr(2, at + 1 - 2))), Trim(line.substr(at + kKilledBy.size()))};
 }
