@@ -5,16 +5,9 @@
 
 namespace quirn {
 
-namespace {
-
-constexpr size_t kUsualRanges = 200'000;
-
-}  // namespace
-
-size_t Deletions::Take(uint32_t* lines, size_t count, const ListSelection& selected, size_t top) {
-    Step step{{}, top};
-    // Room for all of it at once, but not for each line of a long row.
-    step.lines.reserve(std::min(selected.SelectedCount(), kUsualRanges));
+// The lines that are not selected move up over the others; so many are left.
+template <class TakeLine>
+size_t Deletions::MoveUp(uint32_t* lines, size_t count, const ListSelection& selected, TakeLine takeLine) {
     size_t kept = 0, next = 0;  // the first that has not been looked at
     const auto keepUpTo = [&](size_t item) {
         if (kept == next) kept = item;
@@ -22,20 +15,38 @@ size_t Deletions::Take(uint32_t* lines, size_t count, const ListSelection& selec
             for (size_t i = next; i < item; ++i) lines[kept++] = lines[i];
     };
     selected.ForEach([&](size_t item) {
-        const uint32_t line = lines[item];
-        if (!step.lines.empty() && step.lines.back().end == line) ++step.lines.back().end;
-        else step.lines.push_back({line, line + 1});
+        takeLine(lines[item]);
         keepUpTo(item);
         next = item + 1;
     });
-    if (step.lines.empty()) return count;
     keepUpTo(count);
-    if (step.lines.size() < step.lines.capacity() / 2) step.lines.shrink_to_fit();
+    return kept;
+}
+
+size_t Deletions::Take(uint32_t* lines, size_t count, const ListSelection& selected, size_t top) {
+    const size_t selectedCount = selected.SelectedCount();
+    if (selectedCount == 0) return count;
+    Step step;
+    step.top_ = top;
+    step.firstWord_ = lines[0] / 64;
+    const size_t words = lines[count - 1] / 64 + 1 - step.firstWord_;
+    if (selectedCount > words) {
+        step.bits_.resize(words);
+        count = MoveUp(lines, count, selected, [bits = step.bits_.data(), first = step.firstWord_](uint32_t line) {
+            bits[line / 64 - first] |= uint64_t{1} << line % 64;
+        });
+    } else {
+        count = MoveUp(lines, count, selected, [&ranges = step.ranges_](uint32_t line) {
+            if (!ranges.empty() && ranges.back().end == line) ++ranges.back().end;
+            else ranges.push_back({line, line + 1});
+        });
+        step.ranges_.shrink_to_fit();
+    }
     steps_.resize(done_);
     marked_ = std::min(marked_, done_);
     steps_.push_back(std::move(step));
     ++done_;
-    return kept;
+    return count;
 }
 
 const Deletions::Step& Deletions::Undo() {
@@ -54,14 +65,14 @@ void Deletions::Mark() {
 }
 
 void Deletions::MarkStep(const Step& step, bool gone) {
-    const size_t words = step.lines.back().end / 64 + 1;
-    if (gone && gone_.size() < words) gone_.resize(words);
-    for (const Range& range : step.lines)
+    step.ForEachRange([&](const Range& range) {
+        if (gone_.size() < range.end / 64 + 1) gone_.resize(range.end / 64 + 1);
         for (uint32_t line = range.first; line < range.end; ++line) {
             const uint64_t bit = uint64_t{1} << line % 64;
             if (gone) gone_[line / 64] |= bit;
             else gone_[line / 64] &= ~bit;
         }
+    });
 }
 
 }  // namespace quirn

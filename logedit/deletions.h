@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -15,9 +16,39 @@ public:
     struct Range {
         uint32_t first, end;  // lines, without the end
     };
-    struct Step {
-        std::vector<Range> lines;
-        size_t top;  // the line that was the first in sight
+    class Step {
+    public:
+        size_t Top() const { return top_; }  // the line that was the first in sight
+
+        // Calls the function with each range of lines that were deleted, in ascending order.
+        template <class Function>
+        void ForEachRange(Function function) const {
+            for (const Range& range : ranges_) function(range);
+            Range range{};
+            for (size_t i = 0; i < bits_.size(); ++i) {
+                for (uint64_t left = bits_[i]; left != 0;) {
+                    const int zeros = std::countr_zero(left);
+                    const int ones = std::countr_one(left >> zeros);
+                    const auto first = static_cast<uint32_t>((firstWord_ + i) * 64 + static_cast<size_t>(zeros));
+                    if (first != range.end) {
+                        if (range.end > 0) function(range);
+                        range.first = first;
+                    }
+                    range.end = first + static_cast<uint32_t>(ones);
+                    left = zeros + ones == 64 ? 0 : left >> (zeros + ones) << (zeros + ones);
+                }
+            }
+            if (range.end > 0) function(range);
+        }
+
+    private:
+        friend class Deletions;
+
+        // In the one or the other, whichever takes less room.
+        std::vector<Range> ranges_;
+        std::vector<uint64_t> bits_;  // one for each line
+        size_t firstWord_ = 0;        // of the bits; line / 64
+        size_t top_ = 0;
     };
 
     void Clear() { *this = Deletions(); }
@@ -39,6 +70,8 @@ public:
     }
 
 private:
+    template <class TakeLine>
+    static size_t MoveUp(uint32_t* lines, size_t count, const ListSelection& selected, TakeLine takeLine);
     void MarkStep(const Step& step, bool gone);
 
     std::vector<Step> steps_;

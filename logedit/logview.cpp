@@ -131,21 +131,21 @@ std::vector<std::pair<size_t, size_t>> LogView::Marks(size_t item) const {
 LogView::Restored LogView::Undo() {
     const Deletions::Step& step = deletions_.Undo();
     Recompute();
-    Restored restored{{}, ItemOfLine(step.top)};
+    Restored restored{{}, ItemOfLine(step.Top())};
     restored.selection.Reset(count_);
     size_t end = 0;
-    for (const Deletions::Range& range : step.lines) {
+    step.ForEachRange([&](const Deletions::Range& range) {
         const size_t first = ItemOfLine(range.first, end);
         end = ItemOfLine(range.end, first);
         if (first < end) restored.selection.SelectRange(first, end - 1, true);
-    }
+    });
     return restored;
 }
 
 LogView::Restored LogView::Redo() {
     const Deletions::Step& step = deletions_.Redo();
     Recompute();
-    Restored restored{{}, ItemOfLine(step.top)};
+    Restored restored{{}, ItemOfLine(step.Top())};
     restored.selection.Reset(count_);
     return restored;
 }
