@@ -60,6 +60,7 @@ struct LookedUp {
     std::string_view name;
     Key key;
     uint32_t hash;
+    size_t at = 0;  // the slot where it is looked for first
 };
 
 // The name must be a slice of a log's text, behind which there are readable bytes.
@@ -102,23 +103,27 @@ struct alignas(64) Fought {
 class Fighters {
 public:
     const std::vector<Fought>& All() const { return all_; }
-    void Reserve(size_t count) {
-        all_.reserve(count);
-        slots_.resize(std::bit_ceil(2 * count + kFewSlots));
+    // Before names are looked up: any of so many may be new.
+    void MakeRoom(size_t count) {
+        count += all_.size();
+        if (count > all_.capacity()) all_.reserve(std::max(count, 2 * all_.capacity()));
+        while (2 * count > slots_.size()) Grow();
     }
 
     // The first steps of a look, long before it: names are looked up many at once, since each would wait for the memory
     // by itself.
-    void FetchSlot(const LookedUp& name) const { Fetch(&slots_[First(name)]); }
-    void FetchPlayer(const LookedUp& name) const {
-        const Slot& slot = slots_[First(name)];
-        if (slot.number != kFree) Fetch(&all_[slot.number]);
+    void FetchSlot(LookedUp& name) const {
+        name.at = First(name);
+        Fetch(&slots_[name.at]);
+    }
+    void FetchPlayer(LookedUp& name) const {
+        while (slots_[name.at].number != kFree && slots_[name.at].hash != name.hash) name.at = Next(name.at);
+        if (slots_[name.at].number != kFree) Fetch(&all_[slots_[name.at].number]);
     }
 
-    // Adds who is new.
+    // Adds who is new. Its slot has been fetched.
     Fought& operator[](const LookedUp& name) {
-        if (2 * (all_.size() + 1) > slots_.size()) Grow();
-        size_t at = First(name);
+        size_t at = name.at;
         for (; slots_[at].number != kFree; at = Next(at)) {
             Fought& player = all_[slots_[at].number];
             if (slots_[at].hash == name.hash && player.key == name.key && player.name.size() == name.name.size() &&
@@ -156,8 +161,12 @@ private:
 class Counter {
 public:
     explicit Counter(const ParsedLog& log) : log_(log) {
-        fighters_.Reserve(log.Players().size());
-        for (const std::string_view name : log.Players()) fighters_[LookUp(name)];
+        fighters_.MakeRoom(log.Players().size());
+        for (const std::string_view player : log.Players()) {
+            LookedUp name = LookUp(player);
+            fighters_.FetchSlot(name);
+            fighters_[name];
+        }
         spoken_.resize(log.Players().size());
     }
 
@@ -206,6 +215,7 @@ private:
         };
         std::array<Found, kAtOnce> found;
         size_t count = 0;
+        fighters_.MakeRoom(2 * kAtOnce);
         for (size_t i = 0; i < killCount_; ++i) {
             const Kill kill = ReadKill(log_.Line(kills_[i]));
             if (kill.victim.empty() || kill.killer.empty()) continue;
