@@ -17,7 +17,7 @@ from player import Player  # noqa: E402
 WM_PAINT, WM_KEYDOWN, WM_COMMAND, BM_CLICK = 15, 256, 273, 245
 WM_LBUTTONDOWN, WM_LBUTTONUP, MK_SHIFT, VK_DELETE = 513, 514, 4, 46
 LB_GETCOUNT, LB_SETTOPINDEX, LB_GETSELCOUNT, LB_GETSEL = 395, 407, 400, 391
-LOG_UTILITY, LINE_NUMBERS = 21, 18
+LOG_UTILITY, LINE_NUMBERS, UNDO = 21, 18, 30
 DELETED = 200_000
 
 
@@ -98,6 +98,27 @@ class Window:
         assert self.count() == before - DELETED
         return took
 
+    def undo(self):
+        before = self.count()
+        return self.timed(lambda: self.send(self.player.handle, WM_COMMAND, UNDO), lambda: self.count() != before)
+
+    def undo_single_lines(self):
+        """All kills are deleted, which stand here and there, and come back among the others."""
+        before = self.count()
+        words = self.player.of_class("Edit")[0]
+        self.player.replace(words, "killed")
+        conftest.wait_for(lambda: self.count() != before, what="the filter")
+        self.player.keys("Down")
+        self.select_all()
+        self.user.ask("post", self.list, WM_KEYDOWN, VK_DELETE, 0)
+        conftest.wait_for(lambda: self.count() == 0, what="the deletion")
+        self.player.replace(words, "")
+        conftest.wait_for(lambda: self.count() != 0, what="the other lines")
+        self.single_lines = before - self.count()
+        took = self.undo()
+        assert self.count() == before and self.send(self.list, LB_GETSELCOUNT) == self.single_lines
+        return took
+
     def memory(self):
         """Megabytes: now, and the most so far."""
         lines = pathlib.Path(f"/proc/{self.quirn.process.pid}/status").read_text().splitlines()
@@ -117,7 +138,7 @@ def main(log, rounds):
         desk.reset("log window")
         target = desk.file("big.log")
         target.symlink_to(pathlib.Path(log).resolve())
-        times = {what: [] for what in ("open", "filter", "line numbers", "select all", "delete")}
+        times = {what: [] for what in ("open", "filter", "line numbers", "select all", "delete", "undo", "undo singles")}
         memory = []
         for _ in range(rounds):
             window = Window(desk, "C:\\SubSpace\\big.log")
@@ -129,9 +150,11 @@ def main(log, rounds):
             times["line numbers"] += [window.number_lines() for _ in range(2)]
             times["select all"] += [window.select_all() for _ in range(3)]
             times["delete"].append(window.delete())
+            times["undo"].append(window.undo())
+            times["undo singles"].append(window.undo_single_lines())
             screen.shoot(folder / "log-window.png")
             desk.end_all()
-        print(f"{lines} lines shown; {rounds} rounds")
+        print(f"{lines} lines shown; {rounds} rounds; {window.single_lines} singles")
         for what, taken in times.items():
             print(f"{what:13} {statistics.median(taken):8.1f} ms  ({min(taken):.1f} to {max(taken):.1f})")
         for what, values in zip(("empty", "with the log", "at most"), zip(*memory)):

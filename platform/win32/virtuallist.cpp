@@ -53,8 +53,10 @@ int TextExtent(const VirtualList& list) {
 void ApplySelected(const VirtualList& list) {
     const ListSelection& selection = list.Selection();
     const size_t count = selection.SelectedCount();
-    Send(list, LB_SETSEL, count == list.Count(), -1);
-    if (count == 0 || count == list.Count()) return;
+    const bool all = count > 0 && count == list.Count();
+    // It goes over all items one by one, which is worth a look first.
+    if (all || Send(list, LB_GETSELCOUNT) > 0) Send(list, LB_SETSEL, all, -1);
+    if (count == 0 || all) return;
     // There may be 200,000 rows of them: on the shortest way to the list box.
     const HWND window = WindowOf(list);
     const WNDPROC procedure = OwnProcedure(window);
@@ -140,7 +142,9 @@ void Apply(const VirtualList& list, Aspect aspect) {
     if (aspect != Aspect::Items && aspect != Aspect::Selection && aspect != Aspect::Value) return;
     if (aspect == Aspect::Items) ApplyItems(list);
     const Unpainted unpainted(list);
-    if (aspect != Aspect::Value) ApplySelected(list);
+    // In a list that was filled anew nothing is selected.
+    if (aspect == Aspect::Selection || (aspect == Aspect::Items && list.Selection().SelectedCount() > 0))
+        ApplySelected(list);
     ApplyCurrent(list);
 }
 
