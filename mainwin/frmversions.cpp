@@ -54,7 +54,7 @@ frmVersions::frmVersions(const std::string& profilePath, const ProfileVersions& 
       profilePath_(profilePath),
       versions_(versions),
       putBack_(std::move(putBack)),
-      Label1(*this, kFile, "What saves have replaced, of " + DoubleAmpersands(profilePath) + ":"),
+      Label1(*this, kFile, "Kept before each save of " + DoubleAmpersands(profilePath) + ":"),
       tblVersions(*this, kVersions, "Earlier versions", {{"Replaced", 1800}, {"Differences from the file", 5000}}),
       cmdPutBack(*this, kPutBack, "&Put Back"),
       cmdShow(*this, kShow, "&Show..."),

@@ -93,7 +93,8 @@ void ApplyColors(const Table& table) {
 void ApplySelection(const Table& table) {
     const ListSelection& selection = table.Selection();
     SetState(table, {}, 0, LVIS_SELECTED | LVIS_FOCUSED);
-    if (table.RowCount() > 0 && selection.SelectedCount() == table.RowCount())
+    // One at a time where only one can be selected: there the list view refuses all, also when all is one.
+    if (table.Style() == ListStyle::Extended && table.RowCount() > 0 && selection.SelectedCount() == table.RowCount())
         SetState(table, {}, LVIS_SELECTED, LVIS_SELECTED);
     else selection.ForEach([&](size_t row) { SetState(table, row, LVIS_SELECTED, LVIS_SELECTED); });
     if (table.Current()) {

@@ -81,6 +81,9 @@ TEST_F(TableTest, WhatTheFormSelectsTheWindowHasAndNobodyIsTold) {
     EXPECT_EQ(form.Take(), Log{});
     EXPECT_EQ(form.table.FindRow("C", 3), 2u);
     EXPECT_EQ(form.table.FindRow("z", 3), std::nullopt);
+    form.table.SetRowCount(1);
+    form.table.SetCurrent(0);
+    EXPECT_EQ(ShownSelection(form.table), Rows{0}) << "also the only one";
 }
 
 TEST_F(TableTest, TheSpaceBarAndClicksTickAndTheSelectedRowsGoTogether) {
