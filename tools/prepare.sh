@@ -48,10 +48,10 @@ build() {
     fi
 }
 
-# A virtual display with a window manager, whose tray takes QUIRN's icon. Ended by end_display. Those that are up side by
-# side have a name each; what runs on one display shares its clipboard.
-start_display() { # [NAME]
-    display_files=$PWD/build/display${1:+/$1}
+# A virtual display with a window manager, whose tray takes QUIRN's icon. Ended by end_display. Each has a name;
+# what runs on one display shares its clipboard.
+start_display() { # NAME
+    display_files=$PWD/build/display/$1
     mkdir -p "$display_files"
     rm -f "$display_files/number"
     Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$display_files/number" 2>/dev/null &
