@@ -106,11 +106,11 @@ CompareSide SideOf(const std::string& caption, const GameState& state) {
     return side;
 }
 
-CompareSide GameSide(const std::string& caption, const std::string& gameFolder) {
+CompareSide GameSide(const std::string& gameFolder) {
     Profile profile;
     InitCatalogue(profile);
     ReadProfileFromGame(profile, gameFolder);  // a list that cannot be read is marked so
-    CompareSide side = SideOf(caption, profile);
+    CompareSide side = SideOf({}, profile);
     for (auto& mark : side.waveMarks)
         if (!mark) mark = "";  // the game has none, which says something of it
     return side;

@@ -15,7 +15,7 @@ CompareSide SideOf(const std::string& caption, const Profile& profile);
 CompareSide SideOf(const std::string& caption, const GameState& state);
 
 // The game as it is now, for a profile to be compared with: its wave messages have their paths.
-CompareSide GameSide(const std::string& caption, const std::string& gameFolder);
+CompareSide GameSide(const std::string& gameFolder);
 
 struct RowsPlan {
     GameState state;

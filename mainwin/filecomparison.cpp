@@ -28,14 +28,17 @@ FileComparison::FileComparison(Form& mainWindow, Program& program, const Profile
                 },
                 [this] { return !mainWindow_.IsBlocked(); }}}) {}
 
-void FileComparison::Open(const std::string& file) {
+void FileComparison::Open(const std::string& file, const std::string& name) {
     window_.Unload();  // the ticks were for another one
     file_ = file;
+    name_ = name;
     window_.Open(mainWindow_, [](const CompareRow&) { return false; });
 }
 
 CompareSides FileComparison::ReadSides() const {
-    return {WindowSide(program_, view_), FileSide({}, file_), thirdSide_()};
+    CompareSide file = FileSide(file_);
+    file.caption = name_;
+    return {WindowSide(program_, view_), file, thirdSide_()};
 }
 
 }  // namespace quirn

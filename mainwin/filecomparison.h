@@ -18,7 +18,8 @@ public:
     FileComparison(Form& mainWindow, Program& program, const ProfilesView& view, const std::string& caption,
                    const std::string& thirdCaption, std::function<CompareSide()> thirdSide);
 
-    void Open(const std::string& file);
+    // name: of the file in the window's title.
+    void Open(const std::string& file, const std::string& name);
     void Close() { window_.Unload(); }
     void ShowWhatCanBeDone() { window_.ShowWhatCanBeDone(); }
 
@@ -29,7 +30,7 @@ private:
     Program& program_;
     const ProfilesView& view_;
     std::function<CompareSide()> thirdSide_;
-    std::string file_;
+    std::string file_, name_;
     frmCompare window_;
 };
 

@@ -58,6 +58,13 @@ std::string Heading(size_t differing, size_t all) {
            (differing == 1 ? "differs" : "differ") + ". Tick the ones that you want.";
 }
 
+std::string Title(const CompareSides& sides) {
+    std::string title;
+    for (const CompareSide& side : sides)
+        if (!side.caption.empty()) title += (title.empty() ? "Compare - " : " and ") + side.caption;
+    return title;
+}
+
 auto FindIn(const CompareRows& rows, const CompareRow& row) {
     return std::find_if(rows.begin(), rows.end(), [&](const CompareRow& other) { return row.IsSameRowAs(other); });
 }
@@ -163,7 +170,7 @@ void frmCompare::Read() {
     const std::optional<CompareRow> current = CurrentRow();
     sides_ = readSides_();
     rows_ = Compare(sides_);
-    SetCaption("Compare - " + sides_.front().caption);
+    SetCaption(Title(sides_));
     const auto differing = std::count_if(rows_.begin(), rows_.end(), [](auto& row) { return row.Differs(); });
     Label1.SetText(Heading(static_cast<size_t>(differing), rows_.size()));
     ShowRows(current);

@@ -94,9 +94,9 @@ std::optional<ProfileVersion> frmVersions::Ask(Form& owner) {
 
 void frmVersions::Fill() {
     rows_.clear();
-    const CompareSide file = FileSide("", profilePath_);
+    const CompareSide file = FileSide(profilePath_);
     for (const ProfileVersion& version : versions_.List())
-        rows_.push_back({version, Difference(FileSide("", version.file), file)});
+        rows_.push_back({version, Difference(FileSide(version.file), file)});
     tblVersions.SetRowCount(rows_.size());
     if (!rows_.empty()) tblVersions.SetCurrent(0);
     Select();

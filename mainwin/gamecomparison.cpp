@@ -55,8 +55,7 @@ void GameComparison::OpenWithChanges() {
 }
 
 CompareSides GameComparison::ReadSides() const {
-    return {WindowSide(program_, view_), GameSide("Game now", program_.gameFolder),
-            FileSide("Saved file", program_.CurrentFile)};
+    return {WindowSide(program_, view_), GameSide(program_.gameFolder), FileSide(program_.CurrentFile)};
 }
 
 // The part of what the game has changed that a profile has with these rows. Of the ignore list either all or nothing:

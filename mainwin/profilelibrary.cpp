@@ -50,7 +50,7 @@ ProfileLibrary::ProfileLibrary(Form& mainWindow, Program& program, const Profile
       view_(std::move(view)),
       window_(Deeds()),
       comparison_(mainWindow, program, profilesView, "Other profile", "Game now",
-                  [this] { return GameSide({}, program_.gameFolder); }) {}
+                  [this] { return GameSide(program_.gameFolder); }) {}
 
 LibraryDeeds ProfileLibrary::Deeds() {
     LibraryDeeds deeds;
@@ -59,7 +59,7 @@ LibraryDeeds ProfileLibrary::Deeds() {
     deeds.IsInGame = [this](const LibraryEntry& entry) { return IsInGame(entry); };
     deeds.Open = [this](const std::string& path) { view_.Open(path); };
     deeds.Play = [this](const std::string& path) { view_.Play(path); };
-    deeds.Compare = [this](const std::string& path) { comparison_.Open(path); };
+    deeds.Compare = [this](const std::string& path) { comparison_.Open(path, FileOf(path)); };
     deeds.Rename = [this](const std::string& path) { Rename(path); };
     deeds.CopyForFriend = [this](const std::string& path) { SaveCopy(path); };
     deeds.Versions = [this](const std::string& path) { view_.ShowVersions(path); };
@@ -178,8 +178,17 @@ void ProfileLibrary::MakeLink(const std::string& path) {
     if (!failure) profilesView_.SetStatus("A shortcut has been put on the desktop");
 }
 
+// Another profile is not pushed out unasked: in the main window the same keys play it.
 void ProfileLibrary::MakeFavourite(const std::string& path, size_t slot) {
-    program_.favourites[slot] = {FavouriteName(path), path};
+    Favourite& favourite = program_.favourites[slot];
+    if (!favourite.path.empty()) {
+        if (IsSameFile(favourite.path, path)) return;  // under the name that the player gave it
+        if (ShowMessage("Favourite " + std::to_string(slot + 1) + " is '" + favourite.name + "' now. Make it " +
+                            FileOf(path) + " instead?",
+                        kOkCancel + kQuestion) != Answer::Ok)
+            return;
+    }
+    favourite = {FavouriteName(path), path};
     view_.RefreshMenus();
     window_.Refresh();
 }

@@ -9,6 +9,7 @@
 #include "platform/dialogs.h"
 #include "platform/folders.h"
 #include "platform/text.h"
+#include "profile/splitpath.h"
 
 namespace quirn {
 
@@ -36,8 +37,7 @@ ProfilesCommands::ProfilesCommands(Form& mainWindow, Program& program, Launcher&
                           [this](auto& entry, auto& part) {
                               PutBack(TransferLog(program_.dataFolder), entry, part, TransferWay::PutBack);
                           }),
-      versionComparison_(mainWindow, program, view_, "Version", "File now",
-                         [this] { return FileSide({}, versionsOf_); }),
+      versionComparison_(mainWindow, program, view_, "Version", "File now", [this] { return FileSide(versionsOf_); }),
       library_(mainWindow, program, view_,
                {view_.Open, view_.Play, [this](auto& path) { ShowVersions(path); }, view_.RefreshMenus}) {
     lookTimer_.SetInterval(kSoon);
@@ -92,7 +92,7 @@ void ProfilesCommands::ShowVersions(const std::string& path) {
     library_.Refresh();
     if (!shown) return;
     versionsOf_ = path;
-    versionComparison_.Open(shown->file);
+    versionComparison_.Open(shown->file, "an earlier " + SplitPath(path).File());
 }
 
 void ProfilesCommands::PutBackWhole(const TransferLog& log, const TransferEntry& entry) {

@@ -41,7 +41,7 @@ CompareSides TransferComparison::ReadSides() const {
     const Result<GameState> now = ReadGameState(entry_.gameFolder);
     const GameState present = now.Failed() ? GameState{} : now.Value();
     CompareSides sides{SideOf("Before " + NameInWords(entry_), Over({{}, present.files}, before_)),
-                       SideOf("After", Over({{}, present.files}, after_)), SideOf("Game now", present)};
+                       SideOf({}, Over({{}, present.files}, after_)), SideOf({}, present)};
     sides[kNow].isThere = !now.Failed();
     return sides;
 }

@@ -20,11 +20,11 @@ CompareSide WindowSide(Program& program, const ProfilesView& view) {
     return SideOf(IsUntitled(file) ? file : SplitPath(file).File(), WindowProfile(program, view));
 }
 
-CompareSide FileSide(const std::string& caption, const std::string& file) {
+CompareSide FileSide(const std::string& file) {
     Profile saved;
     InitCatalogue(saved);
     const LoadResult loaded = IsUntitled(file) ? LoadResult::NotFound : LoadProfile(saved, file);
-    CompareSide side = SideOf(caption, saved);
+    CompareSide side = SideOf({}, saved);
     side.isThere = loaded == LoadResult::Loaded || loaded == LoadResult::LoadedFromEarlierVersion;
     return side;
 }

@@ -15,7 +15,7 @@ Profile WindowProfile(Program& program, const ProfilesView& view);
 CompareSide WindowSide(Program& program, const ProfilesView& view);
 
 // A column without texts when the file is no profile or not there.
-CompareSide FileSide(const std::string& caption, const std::string& file);
+CompareSide FileSide(const std::string& file);
 
 // Copies these rows into the profile in the window, as an edit.
 void TakeIntoWindow(const CompareRows& rows, const Profile& from, Program& program, const ProfilesView& view);

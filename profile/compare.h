@@ -12,7 +12,7 @@
 namespace quirn {
 
 struct CompareSide {
-    std::string caption;
+    std::string caption;  // its part of a window's title; empty: none
     Profile profile;
     std::array<std::optional<std::string>, 2> waveMarks;  // of the content; nothing: it says nothing of that message
     bool isThere = true;                                  // false: an empty column

@@ -48,19 +48,19 @@ TEST_F(CompareRowsTest, WhatIsCopiedEitherWayNoLongerDiffersAndTheRestStays) {
     for (int round = 0; round < 40; ++round) {
         PutFile(game_ + "\\ignore.txt", "# friends\r\nMole\nTRILL\r\r\n orla ");
         Profile profile = RandomProfile();
-        std::vector<CompareRow> ticked = Differing(SideOf("", profile), GameSide("", game_));
+        std::vector<CompareRow> ticked = Differing(SideOf("", profile), GameSide(game_));
         std::shuffle(ticked.begin(), ticked.end(), random_);
         std::vector<CompareRow> others(ticked.begin() + static_cast<int>(ticked.size() / 2), ticked.end());
         ticked.resize(ticked.size() / 2);
         Write(ticked, profile);
-        std::vector<CompareRow> left = Differing(SideOf("", profile), GameSide("", game_));
+        std::vector<CompareRow> left = Differing(SideOf("", profile), GameSide(game_));
         EXPECT_EQ(left.size(), others.size());
         for (const CompareRow& row : left)
             EXPECT_TRUE(std::any_of(others.begin(), others.end(), [&](auto& other) { return other.IsSameRowAs(row); }))
                 << row.caption;
         EXPECT_TRUE(FileBytes(game_ + "\\ignore.txt")->starts_with("# friends\r\n"));
-        TakeRows(left, GameSide("", game_).profile, profile);
-        EXPECT_TRUE(Differing(SideOf("", profile), GameSide("", game_)).empty());
+        TakeRows(left, GameSide(game_).profile, profile);
+        EXPECT_TRUE(Differing(SideOf("", profile), GameSide(game_)).empty());
     }
 }
 
@@ -69,7 +69,7 @@ TEST_F(CompareRowsTest, WhatCannotBeWrittenIsToldAndTheRestPlanned) {
     profile.WaveFiles[0] = Scratch() + "\\gone.wav";
     profile.IgnoreList = {"Orla"};
     PutFile(game_ + "\\record0.wav", "pong");
-    const RowsPlan plan = PlanRows(Differing(SideOf("", profile), GameSide("", game_)), {}, profile, game_);
+    const RowsPlan plan = PlanRows(Differing(SideOf("", profile), GameSide(game_)), {}, profile, game_);
     EXPECT_EQ(plan.errors.size(), 1u);
     EXPECT_EQ(plan.state.files, (GameFiles{{"ignore.txt", "Orla\r\n"}}));
 }

@@ -29,7 +29,7 @@ protected:
     Form owner_{FormBorder::Fixed, 6000, 3000};
     frmCompare compare_{{"Profile", "Game now"},
                         [this] {
-                            return CompareSides{{"a.qrn", mine_, {}}, {"Game now", game_, {}}};
+                            return CompareSides{{"a.qrn", mine_, {}}, {"", game_, {}}};
                         },
                         {{"&Copy",
                           [this](const CompareRows& rows, const CompareSides&) {

@@ -89,6 +89,9 @@ TEST_F(ProfileLibraryTest, TheCurrentFileFollowsItsNewName) {
     EXPECT_EQ(main_.Caption(), "QUIRN v1.61 - DUEL.QRN");
     Press(Library(), '1', true);
     EXPECT_EQ(program_.favourites[0].name, "Vex Calder - Tin Meridian");
+    program_.favourites[0].name = "Duels";
+    Press(Library(), '1', true);
+    EXPECT_EQ(program_.favourites[0].name, "Duels");
     headless::PostAfter(10, [] {
         Form& rename = *headless::LoadedForms().back();
         ControlOf<TextBox>(rename, "DUEL.QRN").SetText("best");
@@ -101,6 +104,25 @@ TEST_F(ProfileLibraryTest, TheCurrentFileFollowsItsNewName) {
     EXPECT_EQ(program_.favourites[0].path, Path("best.QRN"));
     EXPECT_EQ(main_.Caption(), "QUIRN v1.61 - best.QRN");
     EXPECT_EQ(Rows().cellText(*Rows().Current(), 0), "best");
+}
+
+TEST_F(ProfileLibraryTest, AFavouriteIsPushedOutOnlyAfterAQuestion) {
+    const std::string question = "Favourite 2 is 'Gone' now. Make it DUEL.QRN instead?";
+    GoTo("DUEL");
+    ExpectMessage(question, kOkCancel + kQuestion, Answer::Cancel);
+    Press(Library(), '2', true);
+    EXPECT_EQ(program_.favourites[1].name, "Gone");
+    ExpectMessage(question, kOkCancel + kQuestion);
+    Press(Library(), '2', true);
+    EXPECT_EQ(program_.favourites[1].path, Path("DUEL.QRN"));
+}
+
+TEST_F(ProfileLibraryTest, AComparisonNamesBothProfiles) {
+    GoTo("DUEL");
+    Press(Library(), kKeyEnter);
+    GoTo("nova");
+    Click(ButtonOf(Library(), "&Compare..."));
+    EXPECT_EQ(headless::LoadedForms().back()->Caption(), "Compare - DUEL.QRN and nova");
 }
 
 TEST_F(ProfileLibraryTest, WhatCannotBeDoneIsToldAndNothingIsLost) {
