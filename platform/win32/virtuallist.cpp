@@ -148,19 +148,24 @@ void Apply(const VirtualList& list, Aspect aspect) {
     ApplyCurrent(list);
 }
 
-// What is selected, and from where Shift goes on, is the list box's own and stays; should a system's list box forget
-// it with the new count, at least the items are selected again.
+// Nothing says that a list box with a new count keeps what is selected, where the keyboard is, from where Shift goes on
+// or how far it is scrolled, and Windows' own goes back to its start; Wine's keeps it all.
 void ApplyNewItems(const VirtualList& list, bool inSight) {
-    const LRESULT selected = Send(list, LB_GETSELCOUNT);
+    const HWND window = WindowOf(list);
+    const LRESULT top = Send(list, LB_GETTOPINDEX);
+    const LRESULT caret = Send(list, LB_GETCARETINDEX);
+    const LRESULT anchor = Send(list, LB_GETANCHORINDEX);
+    const int left = GetScrollPos(window, SB_HORZ);
     Send(list, WM_SETREDRAW, FALSE);
     Send(list, LB_SETCOUNT, list.Count());
     Send(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(TextExtent(list)));
-    if (Send(list, LB_GETSELCOUNT) != selected) {
-        ApplySelected(list);
-        ApplyCurrent(list);
-    }
+    ApplySelected(list);
+    if (list.Current() && caret >= 0) Send(list, LB_SETCARETINDEX, static_cast<WPARAM>(caret), TRUE);
+    if (list.Current() && anchor >= 0) Send(list, LB_SETANCHORINDEX, static_cast<WPARAM>(anchor));
+    Send(list, LB_SETTOPINDEX, static_cast<WPARAM>(top));
+    if (GetScrollPos(window, SB_HORZ) != left) Send(list, WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, left), 0);
     Send(list, WM_SETREDRAW, TRUE);
-    if (inSight) InvalidateRect(WindowOf(list), nullptr, TRUE);
+    if (inSight || Send(list, LB_GETTOPINDEX) != top) InvalidateRect(window, nullptr, TRUE);
 }
 
 void Fill(const VirtualList& list) {

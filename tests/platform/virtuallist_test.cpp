@@ -49,6 +49,22 @@ TEST_F(VirtualListTest, ThePlayerSelectsAndTheFormKnows) {
     EXPECT_EQ(ShownItem(form.list, kMany - 1), "item 199999");
 }
 
+TEST_F(VirtualListTest, AListThatGrowsStaysWhereItIs) {
+    ListForm form;
+    form.Show();
+    ClickItem(form.list, 100);
+    ClickItem(form.list, 103, false, true);
+    form.list.SetTopIndex(90);
+    for (size_t more = 1; more < 4; ++more) {
+        form.list.Grow(kMany + more, 11);
+        EXPECT_EQ(ShownTop(form.list), 90u);
+        EXPECT_EQ(form.Selected(), (Items{100, 103}));
+        EXPECT_EQ(form.list.Current(), 103u);
+    }
+    ClickItem(form.list, 105, true);
+    EXPECT_EQ(form.Selected(), (Items{103, 104, 105})) << "Shift goes on from where it would have";
+}
+
 TEST_F(VirtualListTest, WhatTheFormSelectsTheWindowHas) {
     ListForm form;
     form.Show();
