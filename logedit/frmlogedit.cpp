@@ -148,20 +148,25 @@ void frmLogEdit::Form_Load() {
     settings.place.left = (screen.width - settings.place.width) / 2;
     settings.place.top = (screen.height - settings.place.height) / 2;
     settings = ReadLogSettings(settings);
-    // On a small screen its lower edge would be out of reach.
-    const Bounds free = WorkArea(*this);
-    settings.place.width = std::min(settings.place.width, free.width);
-    settings.place.height = std::min(settings.place.height, free.height);
-    if (settings.place.height == free.height) settings.place.top = free.top;
     lstLog.SetFont(settings.font);
     lstLog.SetForeColor(settings.foreColor);
     lstLog.SetBackColor(settings.backColor);
     edit_.colorsByType = settings.colorsByType;
     menuBar_.SetChecked(mnuView_Colors, edit_.colorsByType);
-    Move(settings.place);
+    PlaceOnScreen(settings.place);
     ReadLogMRU(edit_.LogMRU);
     RefreshLogMRUMenu();
     Form_Resize();
+}
+
+// What is larger than the screen that it lies on begins at that screen's edge: its own lower and right ones would be
+// out of reach.
+void frmLogEdit::PlaceOnScreen(Bounds place) {
+    Move(place);
+    const Bounds free = WorkArea(*this);
+    if (place.width >= free.width) place.width = free.width, place.left = free.left;
+    if (place.height >= free.height) place.height = free.height, place.top = free.top;
+    Move(place);
 }
 
 void frmLogEdit::Form_Resize() {

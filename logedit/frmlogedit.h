@@ -26,6 +26,7 @@ public:
 
 private:
     void Form_Load();
+    void PlaceOnScreen(Bounds place);
     void Form_Resize();
     bool Form_Unload();
     bool Form_KeyDown(int key, bool control);

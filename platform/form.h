@@ -145,7 +145,7 @@ private:
     bool minimized_ = false;
 };
 
-// The first screen, and the part of a form's screen that no task bar takes. Twips.
+// The first screen, and the part of a form's screen that no task bar takes. Twips, as a form's place is given.
 Bounds ScreenArea();
 Bounds WorkArea(const Form& form);
 

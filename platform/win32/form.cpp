@@ -257,7 +257,12 @@ Bounds WorkArea(const Form& form) {
     MONITORINFO info{};
     info.cbSize = sizeof(info);
     GetMonitorInfoA(MonitorFromWindow(win32::WindowOf(form), MONITOR_DEFAULTTONEAREST), &info);
-    return InTwips(info.rcWork);
+    const int dpi = win32::DpiOf(win32::WindowOf(form));
+    const RECT& work = info.rcWork;
+    Bounds area = InTwips(work);
+    area.width = win32::ToTwips(work.right - work.left, dpi);
+    area.height = win32::ToTwips(work.bottom - work.top, dpi);
+    return area;
 }
 
 void RunEventLoop() {
