@@ -139,7 +139,7 @@ bool frmLogStatistics::Form_KeyDown(int key, bool control) {
 
 // Another log may have been opened meanwhile.
 void frmLogStatistics::CountAnew() {
-    const std::string selected = SelectedPlayer();
+    const std::optional<std::string> selected = SelectedPlayer();
     SetCaption("Player Statistics - " + logName_());
     players_ = count_(source_.Selected() == optShown.Index());
     allLines_ = mostLines_ = 0;
@@ -152,8 +152,9 @@ void frmLogStatistics::CountAnew() {
     ShowRows(selected);
 }
 
-std::string frmLogStatistics::SelectedPlayer() const {
-    return tblPlayers.Current() ? players_[shown_[*tblPlayers.Current()]].name : std::string();
+std::optional<std::string> frmLogStatistics::SelectedPlayer() const {
+    if (!tblPlayers.Current()) return std::nullopt;
+    return players_[shown_[*tblPlayers.Current()]].name;
 }
 
 void frmLogStatistics::ShowSelected() {
@@ -161,7 +162,7 @@ void frmLogStatistics::ShowSelected() {
 }
 
 // The player stays selected while there is a row for him.
-void frmLogStatistics::ShowRows(const std::string& selected) {
+void frmLogStatistics::ShowRows(const std::optional<std::string>& selected) {
     const std::string wanted = FoldCase(txtFind.Text());
     shown_.clear();
     for (size_t i = 0; i < players_.size(); ++i)

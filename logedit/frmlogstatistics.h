@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,9 +28,9 @@ private:
     void Form_Load();
     bool Form_KeyDown(int key, bool control);
     void CountAnew();
-    void ShowRows(const std::string& selected);
+    void ShowRows(const std::optional<std::string>& selected);
     void ShowSelected();
-    std::string SelectedPlayer() const;
+    std::optional<std::string> SelectedPlayer() const;
     void SortBy(int column);
     bool ComesBefore(const PlayerStatistics& a, const PlayerStatistics& b) const;
     std::string CellText(const PlayerStatistics& player, int column) const;

@@ -177,7 +177,8 @@ void DrawBar(const Table& table, const NMLVCUSTOMDRAW& drawn) {
     const RECT bar{cell.left + margin, cell.bottom - height,
                    cell.left + margin + static_cast<int>((cell.right - cell.left - 2 * margin) * std::min(part, 1.0)),
                    cell.bottom};
-    const bool selected = Send(table, LVM_GETITEMSTATE, row, LVIS_SELECTED) != 0;
+    // Without the keyboard a selected row is light.
+    const bool selected = Send(table, LVM_GETITEMSTATE, row, LVIS_SELECTED) != 0 && GetFocus() == WindowOf(table);
     FillRect(drawn.nmcd.hdc, &bar, GetSysColorBrush(selected ? COLOR_HIGHLIGHTTEXT : COLOR_HOTLIGHT));
 }
 
