@@ -63,8 +63,9 @@ void FilterRow::ApplyText() {
 }
 
 void FilterRow::ShowAll() {
+    const bool wanted = !showsAll_;
     ApplyText();
-    onShowAll();
+    if (showsAll_ != wanted) onShowAll();
 }
 
 void FilterRow::FocusText() {
@@ -90,6 +91,7 @@ bool FilterRow::KeyDown(int key) {
 }
 
 void FilterRow::ShowCounts(const LogView& view) {
+    showsAll_ = view.ShowsAll();
     cmdShowAll.SetEnabled(view.Log() != nullptr);
     cmdShowAll.SetText(view.ShowsAll() ? "Show Fil&tered" : "Show &All");
     lblCounts.SetText(view.Log() == nullptr ? "" : Shown(view.Count(), view.Log()->LineCount()));
@@ -117,9 +119,9 @@ void FilterRow::ShowFile(const std::string& name) {
 void FilterRow::ShowStrip() {
     const std::string news = file_ + (file_.empty() || news_.empty() ? "" : " - ") + news_;
     const std::string& text = trouble_.empty() ? news : news_;
-    if (text == lblStrip.Text()) return;
-    lblStrip.SetText(text);
-    lblStrip.SetToolTip(trouble_.empty() ? text : trouble_);
+    const std::string& tip = trouble_.empty() ? text : trouble_;
+    if (text != lblStrip.Text()) lblStrip.SetText(text);
+    if (tip != lblStrip.ToolTip()) lblStrip.SetToolTip(tip);
 }
 
 }  // namespace quirn

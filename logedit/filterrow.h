@@ -35,6 +35,7 @@ private:
     void ShowStrip();
 
     Timer pause_;
+    bool showsAll_ = false;
     std::string news_, file_;
     std::string trouble_;  // in full; empty: none
 

@@ -63,7 +63,9 @@ void FollowCommands::End(const std::string& words, const std::string& why) {
 bool FollowCommands::Read(bool follow) {
     Result<std::shared_ptr<const ParsedLog>> log = follow ? follower_.Start(paths_, {}, {}) : ReadLog(paths_, {}, {});
     if (log.Failed()) {
-        if (follow) End("Not followed: no file to read", log.Error().description);
+        const bool held = log.Error().number == static_cast<int>(ErrorNumber::PermissionDenied);
+        if (follow && held && follower_.IsFollowing()) ShowHeld();
+        else if (follow) End("Not followed: no file to read", log.Error().description);
         else ShowError(log.Error());
         return false;
     }
@@ -86,9 +88,11 @@ void FollowCommands::Look() {
     const size_t players = edit_.LogLines->Players().size();
     switch (follower_.Look()) {
         case LogFollower::News::None: break;
-        case LogFollower::News::Held: row_.ShowTrouble(kHeld, "another program lets nobody read it"); return;
+        case LogFollower::News::Held: ShowHeld(); return;
         case LogFollower::News::Grew: ShowNew(lines, players); break;
-        case LogFollower::News::Other: Read(true); break;
+        case LogFollower::News::Other:
+            if (!Read(true)) return;
+            break;
         case LogFollower::News::Gone: End("Not followed: the file is gone"); break;
         case LogFollower::News::Full: Stop("Not followed: log too large"); break;
     }
@@ -109,6 +113,10 @@ void FollowCommands::ShowNew(size_t lines, size_t players) {
     }
     unseen_ += added;
     ShowNews();
+}
+
+void FollowCommands::ShowHeld() {
+    row_.ShowTrouble(kHeld, "another program lets nobody read it");
 }
 
 void FollowCommands::ShowNews() {

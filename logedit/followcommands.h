@@ -36,6 +36,7 @@ private:
     void ShowReadAgain();
     void ShowNew(size_t lines, size_t players);
     void ShowNews();
+    void ShowHeld();
 
     Form& form_;
     LogEdit& edit_;

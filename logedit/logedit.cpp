@@ -66,9 +66,9 @@ ParseResult ParseLogFile(LogEdit& edit, const LogPaths& paths, const ParseSteps&
 }
 
 Failure ApplyLogFilter(LogEdit& edit) {
-    return edit.view.ApplyLogFilter(edit.LogLines,
-                                    MakeLineFilter(edit.FilterMask(), edit.include, edit.exclude, edit.awaited),
-                                    edit.lineNumbers, edit.keepDeletedOut);
+    return edit.view.ApplyLogFilter(
+        edit.LogLines, MakeLineFilterFor(*edit.LogLines, edit.FilterMask(), edit.include, edit.exclude, edit.awaited),
+        edit.lineNumbers, edit.keepDeletedOut);
 }
 
 }  // namespace quirn

@@ -16,6 +16,17 @@ std::vector<uint8_t> ShownPlayers(const PlayerList& include, const PlayerList& e
     return shown;
 }
 
+// Of the players behind the first so many.
+void HideAbsent(LineFilter& filter, const ParsedLog& log, size_t known) {
+    for (size_t i = known; i < log.Players().size() && !filter.absent.empty(); ++i) {
+        const auto hidden = filter.absent.find(log.Players()[i]);
+        if (hidden == filter.absent.end()) continue;
+        filter.absent.erase(hidden);
+        if (filter.players.empty()) filter.players.assign(kMostPlayers + 1, 1);
+        filter.players[i + 1] = 0;
+    }
+}
+
 // Each line's index is written, and counted only when it is shown: no branch that could be guessed wrong.
 template <class IsShown>
 size_t Collect(const ParsedLog& log, uint32_t* shown, size_t from, IsShown isShown) {
@@ -40,9 +51,18 @@ uint32_t BuildFilterMask(const FilterBoxValues& values) {
     return mask;
 }
 
-LineFilter MakeLineFilter(uint32_t mask, const PlayerList& include, const PlayerList& exclude,
-                          const PlayerNames& absent) {
-    return {mask, exclude.Count() == 0 ? std::vector<uint8_t>() : ShownPlayers(include, exclude), absent};
+LineFilter MakeLineFilter(uint32_t mask, const PlayerList& include, const PlayerList& exclude) {
+    return {mask, exclude.Count() == 0 ? std::vector<uint8_t>() : ShownPlayers(include, exclude)};
+}
+
+LineFilter MakeLineFilterFor(const ParsedLog& log, uint32_t mask, const PlayerList& include, const PlayerList& exclude,
+                             const PlayerNames& awaited) {
+    LineFilter filter{mask, {}, awaited};
+    if (exclude.IsOf(log)) filter.players = MakeLineFilter(mask, include, exclude).players;
+    else
+        for (size_t i = 0; i < exclude.Count(); ++i) filter.absent.emplace(exclude.Name(i));
+    HideAbsent(filter, log, 0);
+    return filter;
 }
 
 LineFilter FilterForLog(const LineFilter& filter, const ParsedLog& before, const ParsedLog& log) {
@@ -55,16 +75,9 @@ LineFilter FilterForLog(const LineFilter& filter, const ParsedLog& before, const
 }
 
 void AddPlayers(LineFilter& filter, const ParsedLog& log, size_t known) {
-    for (size_t i = known; i < log.Players().size(); ++i) {
-        const auto hidden = filter.absent.find(log.Players()[i]);
-        if (hidden != filter.absent.end()) {
-            filter.absent.erase(hidden);
-            if (filter.players.empty()) filter.players.assign(kMostPlayers + 1, 1);
-            filter.players[i + 1] = 0;
-        } else if (!filter.players.empty()) {
-            filter.players[i + 1] = 1;
-        }
-    }
+    if (!filter.players.empty())
+        for (size_t i = known; i < log.Players().size(); ++i) filter.players[i + 1] = 1;
+    HideAbsent(filter, log, known);
 }
 
 size_t FilterLines(const ParsedLog& log, const LineFilter& filter, uint32_t* shown, size_t from) {

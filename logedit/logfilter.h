@@ -42,10 +42,14 @@ struct LineFilter {
 };
 
 // A line with a player shows by the shorter of the two lists: not in the excluded ones, or in the included ones.
-LineFilter MakeLineFilter(uint32_t mask, const PlayerList& include, const PlayerList& exclude,
-                          const PlayerNames& absent = {});
+LineFilter MakeLineFilter(uint32_t mask, const PlayerList& include, const PlayerList& exclude);
 
-// The same for another log, in which players have other numbers: they are known by their names. Who is new is shown.
+// The same, and players who are awaited are hidden. The lists may still be those of another log, in which players have
+// other numbers: then those who are excluded are known by their names, and everyone else is shown.
+LineFilter MakeLineFilterFor(const ParsedLog& log, uint32_t mask, const PlayerList& include, const PlayerList& exclude,
+                             const PlayerNames& awaited);
+
+// What was applied to one log, for another: players are known by their names. Who is new is shown.
 LineFilter FilterForLog(const LineFilter& filter, const ParsedLog& before, const ParsedLog& log);
 
 // The log has players behind the first so many that it had.

@@ -111,7 +111,7 @@ std::vector<MenuRow> frmLogEdit::LogPopupRows() {
         {mnuLogEditPopup_Hide, 1, "Hide This Player", "", "Hide this player's lines",
             [this] { commands_.HideSpeaker(); }, [this] { return commands_.CanHideSpeaker(); }},
         {mnuLogEditPopup_Everyone, 1, "Everyone Again", "", "Show the lines of all players",
-            [this] { commands_.Everyone(); }, [this] { return edit_.exclude.Count() > 0; }},
+            [this] { commands_.Everyone(); }, [this] { return edit_.exclude.Count() > 0 || !edit_.awaited.empty(); }},
     };
 }
 

@@ -38,11 +38,13 @@ size_t LogView::LongestText() const {
 Failure LogView::ApplyLogFilter(std::shared_ptr<const ParsedLog> log, LineFilter filter, bool lineNumbers,
                                 bool keepDeletedOut) {
     const bool another = log != log_;
-    const bool keeps = keepDeletedOut && (!another || (log_ && log->GoesOnFrom(*log_)));
+    // The one line of an empty log is none of the game's: who deleted it has not deleted the first one that comes.
+    const bool keeps = keepDeletedOut && !wasEmpty_ && (!another || (log_ && log->GoesOnFrom(*log_)));
     if (another || log->LineCount() > room_) {
         if (!MakeRoom(log->LineCount(), 0)) return MakeError(ErrorNumber::OutOfMemory);
         log_ = std::move(log);
     }
+    wasEmpty_ = log_->IsEmpty();
     if (!keeps) deletions_.Clear();
     filter_ = std::move(filter);
     showsAll_ = false;

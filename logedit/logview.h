@@ -118,6 +118,7 @@ private:
     LineFilter filter_;
     TextFilter text_;
     bool showsAll_ = false;
+    bool wasEmpty_ = true;  // the log, when its filter was applied last
     Deletions deletions_;
     size_t room_ = 0;       // of shown_, lines
     size_t passed_ = 0;     // lines that pass types and players

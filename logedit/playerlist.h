@@ -30,6 +30,7 @@ public:
     // The players behind the first so many, of a log that has grown. Who was selected stays so.
     void Add(size_t known);
 
+    bool IsOf(const ParsedLog& log) const { return log_.get() == &log; }
     size_t Count() const { return items_.size(); }
     std::string_view Name(size_t item) const { return log_->Players()[Number(item) - 1]; }
     uint32_t Number(size_t item) const { return items_[item].number; }

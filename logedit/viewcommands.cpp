@@ -233,7 +233,8 @@ void ViewCommands::FilterAnew(const std::shared_ptr<const ParsedLog>& log, const
 void ViewCommands::ApplyPlayers() {
     if (!HasLog()) return;
     const uint32_t mask = edit_.view.Filter().mask;
-    FilterAnew(edit_.view.Log(), MakeLineFilter(mask, edit_.include, edit_.exclude, edit_.awaited), false);
+    FilterAnew(edit_.view.Log(),
+               MakeLineFilterFor(*edit_.view.Log(), mask, edit_.include, edit_.exclude, edit_.awaited), false);
 }
 
 void ViewCommands::ShowUnknown() {
@@ -245,10 +246,11 @@ void ViewCommands::ShowUnknown() {
 
 // Of a log that could not be shown nothing has been applied yet.
 void ViewCommands::ShowReadAgain() {
-    FilterAnew(edit_.LogLines,
-               HasLog() ? FilterForLog(edit_.view.Filter(), *edit_.view.Log(), *edit_.LogLines)
-                        : MakeLineFilter(edit_.FilterMask(), edit_.include, edit_.exclude, edit_.awaited),
-               true);
+    FilterAnew(
+        edit_.LogLines,
+        HasLog() ? FilterForLog(edit_.view.Filter(), *edit_.view.Log(), *edit_.LogLines)
+                 : MakeLineFilterFor(*edit_.LogLines, edit_.FilterMask(), edit_.include, edit_.exclude, edit_.awaited),
+        true);
 }
 
 size_t ViewCommands::ShowNew(size_t lines, size_t players) {

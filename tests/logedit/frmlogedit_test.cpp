@@ -232,7 +232,11 @@ TEST_F(LogEditTest, FiltersByWordsDeletesAndGoesBack) {
     Press("Show &All");
     WaitForEvents(400);
     EXPECT_EQ(Log().Count(), 5u) << "what was typed just before does not end it";
+    words.UserEdits("nothing");
     Press("Show Fil&tered");
+    EXPECT_EQ(Log().Count(), 0u) << "nor does it begin again";
+    words.UserEdits("welcome");
+    WaitFor([this] { return Log().Count() == 1; });
     EXPECT_EQ(Shown(Log()), Lines{"  Welcome"});
     Press("Apply Filter");
     words.UserEdits("");
@@ -315,6 +319,78 @@ TEST_F(LogEditTest, WhoWasExcludedStaysSoWhenTheLogBeginsAnew) {
     EXPECT_EQ(Shown(Log()), (Lines{"  Bo> anew", "  Ann> new"}));
     EXPECT_EQ(Shown(List("Exclude")), Lines{"Cy"});
     EXPECT_EQ(Shown(List("Include")), (Lines{"Ann", "Bo"}));
+}
+
+// A log that is not found leaves the lists of players as they were, and applying them shows nothing.
+TEST_F(LogEditTest, WhoWasExcludedStaysSoWhenTheLogIsBack) {
+    Open(path_);
+    ClickItem(List("Include"), 1);
+    Press(">>");
+    Press("Apply Filter");
+    const Lines withoutBo = Shown(Log());
+    const std::string bytes = FileBytes(path_).value();
+    RemoveFile(path_);
+    ExpectMessage("ERROR - Could not find log file named '" + path_ + "'", kCritical);
+    Choose(*form_, mnuFileMRU);
+    Press("Apply Filter");
+    PutFile(path_, bytes);
+    Choose(*form_, mnuView_Reload);
+    EXPECT_EQ(Shown(Log()), withoutBo);
+    EXPECT_EQ(Shown(List("Exclude")), Lines{"Bo"});
+}
+
+TEST_F(LogEditTest, AnExcludedPlayerAloneInALogCanBeShownAgain) {
+    Open(path_);
+    ClickItem(List("Include"), 1);
+    Press(">>");
+    Press("Apply Filter");
+    Choose(*form_, mnuView_Follow);
+    PutFile(path_, "  Bo> anew\r\n");
+    WaitFor([&] { return edit_.LogLines->Players().size() == 1; });
+    Press("Apply Filter");
+    EXPECT_EQ(Log().Count(), 0u);
+    PutFile(path_, "  Bo> anew\r\n  Ann> new\r\n  Bo> more\r\n");
+    WaitFor([&] { return edit_.LogLines->Players().size() == 2; });
+    EXPECT_EQ(Shown(Log()), Lines{"  Ann> new"});
+    EXPECT_EQ(Shown(List("Exclude")), Lines{"Bo"});
+
+    PutFile(path_, "  Bo> alone\r\n");
+    WaitFor([&] { return edit_.LogLines->Players().size() == 1; });
+    ChooseFromPopup(Log(), 5);  // "Everyone Again"
+    EXPECT_EQ(Shown(Log()), Lines{"  Bo> alone"});
+}
+
+TEST_F(LogEditTest, AHeldFileIsWaitedForWhenItIsReadAgain) {
+    Open(path_);
+    Choose(*form_, mnuView_Follow);
+    auto& strip = Find<Label>(*form_, "Following");
+    {
+        const HeldFile held(path_);
+        Choose(*form_, mnuView_Reload);
+        EXPECT_EQ(strip.Text(), "Waiting: the file is held");
+    }
+    WaitFor([&] { return strip.Text() == "Following"; });
+    Choose(*form_, mnuView_Follow);
+    {
+        const HeldFile held(path_);
+        Choose(*form_, mnuView_Follow);
+    }
+    EXPECT_EQ(strip.ToolTip(), "Not followed: no file to read: Permission denied");
+    RemoveFile(path_);
+    Choose(*form_, mnuView_Follow);
+    EXPECT_EQ(strip.ToolTip(), "Not followed: no file to read: File not found");
+}
+
+TEST_F(LogEditTest, TheFirstLineComesThoughTheEmptyOneWasDeleted) {
+    PutFile(path_, "");
+    Open(path_);
+    Choose(*form_, mnuView_Follow);
+    ClickItem(Log(), 0);
+    quirn::test::Press(*form_, kKeyDelete);
+    PutFile(path_, "  Bo> half");
+    WaitForEvents(1200);  // it has been seen
+    Choose(*form_, mnuView_Follow);
+    EXPECT_EQ(Shown(Log()), Lines{"  Bo> half"});
 }
 
 TEST_F(LogEditTest, FollowingWaitsForAFileThatIsHeldAndEndsWithAHalfLine) {
