@@ -48,6 +48,8 @@ Result<std::vector<FolderEntry>> ListFolder(const std::string& folder) {
 }
 
 std::optional<FolderEntry> FindEntry(const std::string& path) {
+    // As a pattern it would find other files; no file has these in its name.
+    if (path.find_first_of("*?<>\"", path.rfind('\\') + 1) != std::string::npos) return std::nullopt;
     WIN32_FIND_DATAA found;
     const win32::SearchHandle search(FindFirstFileA(path.c_str(), &found));
     return search ? std::optional(EntryOf(found)) : std::nullopt;
