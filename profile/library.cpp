@@ -62,13 +62,16 @@ std::optional<LibraryEntry> LibraryReader::Next() {
         entry.folder = SplitPath(file.path).Folder();
         entry.isThere = found.has_value();
         if (!found) return entry;
+        if (found->isFolder || found->size > kLargest) return std::nullopt;
         entry.changed = found->writtenLast;
     }
     const Result<std::string> text = ReadWholeFile(file.path);
     // A profile that is held now is listed by its name.
     if (text.Failed()) return HasOwnEnding(file.path) ? std::optional(entry) : std::nullopt;
     if (!FindIniSection(text.Value(), kDialogSection)) return std::nullopt;
-    const auto read = [&](const char* key) { return FindIniValue(text.Value(), kDialogSection, key).value_or(""); };
+    const auto read = [&](const char* key) {
+        return std::string(WithoutQuotes(FindIniValue(text.Value(), kDialogSection, key).value_or("")));
+    };
     entry.pilot = read("PlayerName");
     entry.zone = read("ServerArena");
     entry.ship = ShipOf(read("PlayerShipType"));
