@@ -15,7 +15,8 @@ bool IsHighContrast() {
 }
 
 std::optional<Color> ForeColorOf(const Control& control) {
-    return IsHighContrast() ? std::nullopt : control.ForeColor();
+    if (!IsHighContrast()) return control.ForeColor();
+    return control.ForeColor() == kLinkColor ? std::optional(GetSysColor(COLOR_HOTLIGHT)) : std::nullopt;
 }
 
 std::optional<Color> BackColorOf(const Control& control) {
