@@ -59,6 +59,14 @@ protected:
         Choose(*form_, mnuFile_Open);
     }
 
+    // All players are shown but this one of the list.
+    void OpenWithout(size_t player) {
+        Open(path_);
+        ClickItem(List("Include"), player);
+        Press(">>");
+        Press("Apply Filter");
+    }
+
     VirtualList& List(const char* name) { return Find<VirtualList>(*form_, name); }
     VirtualList& Log() { return List("Log"); }
     Button& Press(const char* caption) {
@@ -251,10 +259,7 @@ TEST_F(LogEditTest, FiltersByWordsDeletesAndGoesBack) {
 
 TEST_F(LogEditTest, FollowsALogAndKeepsWhatThePlayerChose) {
     const auto news = [this] { return Find<Label>(*form_, "Following").Text(); };
-    Open(path_);
-    ClickItem(List("Include"), 2);
-    Press(">>");
-    Press("Apply Filter");
+    OpenWithout(2);
     EXPECT_EQ(Shown(Log()), (Lines{"  Bo> one", "T Ann> three", "  Welcome"}));
     ClickItem(Log(), 1);
     Choose(*form_, mnuView_Follow);
@@ -290,10 +295,7 @@ TEST_F(LogEditTest, FollowsALogAndKeepsWhatThePlayerChose) {
 }
 
 TEST_F(LogEditTest, AllStaysShownWhenTheLogIsReadAgain) {
-    Open(path_);
-    ClickItem(List("Include"), 2);
-    Press(">>");
-    Press("Apply Filter");
+    OpenWithout(2);
     Press("Show &All");
     Choose(*form_, mnuView_Reload);
     EXPECT_EQ(Log().Count(), 6u);
@@ -305,10 +307,7 @@ TEST_F(LogEditTest, AllStaysShownWhenTheLogIsReadAgain) {
 
 // The game begins its log anew with an empty file, in which nobody speaks yet.
 TEST_F(LogEditTest, WhoWasExcludedStaysSoWhenTheLogBeginsAnew) {
-    Open(path_);
-    ClickItem(List("Include"), 2);
-    Press(">>");
-    Press("Apply Filter");
+    OpenWithout(2);
     Choose(*form_, mnuView_Follow);
     const char* const texts[] = {"", "  Bo> anew\r\n", "  Bo> anew\r\n  Cy> hidden\r\n  Ann> new\r\n"};
     for (const char* text : texts) {
@@ -323,10 +322,7 @@ TEST_F(LogEditTest, WhoWasExcludedStaysSoWhenTheLogBeginsAnew) {
 
 // A log that is not found leaves the lists of players as they were, and applying them shows nothing.
 TEST_F(LogEditTest, WhoWasExcludedStaysSoWhenTheLogIsBack) {
-    Open(path_);
-    ClickItem(List("Include"), 1);
-    Press(">>");
-    Press("Apply Filter");
+    OpenWithout(1);
     const Lines withoutBo = Shown(Log());
     const std::string bytes = FileBytes(path_).value();
     RemoveFile(path_);
@@ -340,10 +336,7 @@ TEST_F(LogEditTest, WhoWasExcludedStaysSoWhenTheLogIsBack) {
 }
 
 TEST_F(LogEditTest, AnExcludedPlayerAloneInALogCanBeShownAgain) {
-    Open(path_);
-    ClickItem(List("Include"), 1);
-    Press(">>");
-    Press("Apply Filter");
+    OpenWithout(1);
     Choose(*form_, mnuView_Follow);
     PutFile(path_, "  Bo> anew\r\n");
     WaitFor([&] { return edit_.LogLines->Players().size() == 1; });
@@ -412,10 +405,7 @@ TEST_F(LogEditTest, FollowingWaitsForAFileThatIsHeldAndEndsWithAHalfLine) {
 }
 
 TEST_F(LogEditTest, WhatThePlayerHasNotAppliedYetWaitsForHim) {
-    Open(path_);
-    ClickItem(List("Include"), 1);
-    Press(">>");
-    Press("Apply Filter");
+    OpenWithout(1);
     const Lines withoutBo = Shown(Log());
     Tick("Public");
     ClickItem(List("Include"), 1);
